@@ -1,0 +1,232 @@
+#include "checking/check_page.h"
+
+#include "draws/draw_records.h"
+#include "platform/card.h"
+#include "platform/dates.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "shell/open_databases.h"
+#include "shell/page_switch.h"
+#include "users/user_records.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QTextCursor>
+#include <QTextEdit>
+
+namespace {
+
+const QString AllUsers = QStringLiteral("All Users");
+
+QRadioButton* MakeOption(const QString& caption, const QString& name)
+{
+    auto* option = new QRadioButton(caption);
+    option->setObjectName(name);
+    option->setAccessibleName(caption);
+    return option;
+}
+
+Card* MakeGroup(const QString& caption, const QString& captionName, const QString& shapeName)
+{
+    auto* card = new Card;
+    card->setObjectName(shapeName);
+    card->Content()->setSpacing(Spacing::Inside);
+    card->Content()->addWidget(MakeLabel(caption, TextRole::Caption, captionName));
+    return card;
+}
+
+void AddOptions(Card* card, std::initializer_list<QRadioButton*> options)
+{
+    auto* group = new QButtonGroup(card);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Spacing::Between);
+    for (QRadioButton* option : options) {
+        group->addButton(option);
+        row->addWidget(option);
+    }
+    card->Content()->addLayout(row);
+}
+
+} // namespace
+
+CheckPage::CheckPage(PageSwitch& pageSwitch)
+    : PageFrame(12, QStringLiteral("Check Entries")),
+      pages(pageSwitch),
+      F12user(new QComboBox),
+      F12typem(MakeOption(QStringLiteral("Main"), QStringLiteral("F12typem"))),
+      F12typet(MakeOption(QStringLiteral("Thunderball"), QStringLiteral("F12typet"))),
+      F12typeb(MakeOption(QStringLiteral("Both"), QStringLiteral("F12typeb"))),
+      F12datelatest(MakeOption(QStringLiteral("Latest Draw"), QStringLiteral("F12datelatest"))),
+      F12dateselect(MakeOption(QStringLiteral("Select Date"), QStringLiteral("F12dateselect"))),
+      F12cal(new QDateEdit),
+      F12text(new QTextEdit)
+{
+    BuildCards();
+    F12clear = AddFooterButton(QStringLiteral("Clear"), QStringLiteral("F12clear"));
+    F12print = AddFooterButton(QStringLiteral("Print"), QStringLiteral("F12print"));
+    F12check = AddFooterDefault(QStringLiteral("Check Now"), QStringLiteral("F12check"));
+    ConnectHandlers();
+}
+
+void CheckPage::BuildCards()
+{
+    F12user->setObjectName(QStringLiteral("F12user"));
+    F12user->setAccessibleName(QStringLiteral("User"));
+    F12user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    F12user->setMinimumContentsLength(12);
+    F12cal->setObjectName(QStringLiteral("F12cal"));
+    F12cal->setAccessibleName(QStringLiteral("Date of the draw"));
+    F12cal->setCalendarPopup(true);
+    F12text->setObjectName(QStringLiteral("F12text"));
+    F12text->setAccessibleName(QStringLiteral("Report"));
+    F12text->setReadOnly(true);
+    F12text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    F12text->setUndoRedoEnabled(false);
+    F12text->setFrameShape(QFrame::NoFrame);
+    F12text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+
+    Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
+    userCard->Content()->addWidget(F12user);
+    Card* typeCard = MakeGroup(QStringLiteral("Draw Type"), QStringLiteral("F12label2"), QStringLiteral("F12frame1"));
+    AddOptions(typeCard, {F12typem, F12typet, F12typeb});
+    Card* dateCard = MakeGroup(QStringLiteral("Date"), QStringLiteral("F12label3"), QStringLiteral("F12shape2"));
+    AddOptions(dateCard, {F12datelatest, F12dateselect});
+    dateCard->Content()->addWidget(F12cal);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(Spacing::Between);
+    for (Card* card : {userCard, typeCard, dateCard})
+        cards->addWidget(card, 0, Qt::AlignTop);
+    cards->addStretch(1);
+    Body()->addLayout(cards);
+
+    auto* reportCard = new Card;
+    reportCard->Content()->addWidget(F12text);
+    Body()->addWidget(reportCard, 1);
+}
+
+void CheckPage::ConnectHandlers()
+{
+    ConnectGuarded(F12datelatest, &QRadioButton::clicked, this, [this] { F12datelatest_Click(); });
+    ConnectGuarded(F12dateselect, &QRadioButton::clicked, this, [this] { F12dateselect_Click(); });
+    ConnectGuarded(F12check, &QPushButton::clicked, this, [this] { F12check_Click(); });
+    ConnectGuarded(F12clear, &QPushButton::clicked, this, [this] { F12clear_Click(); });
+}
+
+void CheckPage::Prepare()
+{
+    users.MoveFirst();
+    if (users.IsEmpty()) {
+        pages.ChooseMenu(3, 1);
+        ShowMessage(QStringLiteral("You cannot check entries until you have") + Crlf +
+                    QStringLiteral("created a user profile and created entries."));
+        return;
+    }
+    FillCheckUserList();
+    F12typeb->setChecked(true);
+    F12datelatest->setChecked(true);
+    F12datelatest_Click();
+    F12clear_Click();
+    show();
+}
+
+void CheckPage::FillCheckUserList()
+{
+    F12user->clear();
+    F12user->addItem(AllUsers);
+    for (const UserRow& user : ReadAllUsers(users))
+        F12user->addItem(user.name);
+    F12user->setCurrentIndex(0);
+}
+
+void CheckPage::F12datelatest_Click()
+{
+    F12cal->hide();
+}
+
+void CheckPage::F12dateselect_Click()
+{
+    F12cal->setDate(QDate::currentDate());
+    F12cal->show();
+}
+
+void CheckPage::F12check_Click()
+{
+    ShowClearAndPrint(true);
+    const std::vector<EntryRow> allEntries = ReadAllEntries(entries);
+    const std::vector<CheckedGame> games = allEntries.empty() ? std::vector<CheckedGame>() : GamesToCheck();
+    ShowReport(WriteCheckReport(UsersToCheck(), games, allEntries));
+}
+
+void CheckPage::F12clear_Click()
+{
+    F12text->clear();
+    ShowClearAndPrint(false);
+}
+
+void CheckPage::ShowClearAndPrint(bool shown)
+{
+    F12clear->setVisible(shown);
+    F12print->setVisible(shown);
+}
+
+std::vector<CheckedUser> CheckPage::UsersToCheck() const
+{
+    std::vector<CheckedUser> checked;
+    for (const UserRow& user : ReadAllUsers(users)) {
+        if (F12user->currentText() != AllUsers && user.name != F12user->currentText())
+            continue;
+        checked.push_back({user.number, user.name});
+        if (F12user->currentText() != AllUsers)
+            break;
+    }
+    return checked;
+}
+
+std::vector<CheckedGame> CheckPage::GamesToCheck() const
+{
+    std::vector<CheckedGame> games;
+    if (!F12typet->isChecked())
+        games.push_back(FindCheckDrawDate(MainGame));
+    if (!F12typem->isChecked())
+        games.push_back(FindCheckDrawDate(ThunderballGame));
+    return games;
+}
+
+CheckedGame CheckPage::FindCheckDrawDate(const Game& game) const
+{
+    RecordSet& list = DrawListOf(game);
+    CheckedGame checked{&game, std::nullopt};
+    list.MoveFirst();
+    if (list.IsEmpty())
+        return checked;
+    if (F12dateselect->isChecked() && !FindDrawByDate(list, F12cal->date()))
+        return checked;
+    const DrawRow draw = ReadDraw(list, game);
+    const QDate date = DateFromIso(draw.date);
+    if (date.isValid())
+        checked.draw = CheckedDraw{date, draw.balls};
+    return checked;
+}
+
+void CheckPage::ShowReport(const CheckReport& report)
+{
+    QTextCharFormat plain;
+    QTextCharFormat emphasised;
+    emphasised.setFontWeight(QFont::Bold);
+    F12text->clear();
+    QTextCursor caret(F12text->document());
+    caret.beginEditBlock();
+    qsizetype done = 0;
+    for (const CheckReport::Span& span : report.emphasised) {
+        caret.insertText(report.text.mid(done, span.start - done), plain);
+        caret.insertText(report.text.mid(span.start, span.length), emphasised);
+        done = span.start + span.length;
+    }
+    caret.insertText(report.text.mid(done), plain);
+    caret.endEditBlock();
+    F12text->moveCursor(QTextCursor::Start);
+}

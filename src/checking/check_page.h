@@ -1,0 +1,49 @@
+#pragma once
+
+#include "checking/check_report.h"
+#include "platform/page_frame.h"
+
+class PageSwitch;
+class QComboBox;
+class QDateEdit;
+class QRadioButton;
+class QTextEdit;
+
+/// Page 12, "Check Entries": the entries of one user or of all are compared with the draws of one date.
+class CheckPage : public PageFrame
+{
+    Q_OBJECT
+
+public:
+    explicit CheckPage(PageSwitch& pageSwitch);
+
+    /// ShowCheckPage.
+    void Prepare() override;
+
+private:
+    void BuildCards();
+    void ConnectHandlers();
+    void FillCheckUserList();
+    void F12datelatest_Click();
+    void F12dateselect_Click();
+    void F12check_Click();
+    void F12clear_Click();
+    void ShowClearAndPrint(bool shown);
+    std::vector<CheckedUser> UsersToCheck() const;
+    std::vector<CheckedGame> GamesToCheck() const;
+    CheckedGame FindCheckDrawDate(const Game& game) const;
+    void ShowReport(const CheckReport& report);
+
+    PageSwitch& pages;
+    QComboBox* F12user;
+    QRadioButton* F12typem;
+    QRadioButton* F12typet;
+    QRadioButton* F12typeb;
+    QRadioButton* F12datelatest;
+    QRadioButton* F12dateselect;
+    QDateEdit* F12cal;
+    QTextEdit* F12text;
+    Button* F12clear;
+    Button* F12print;
+    Button* F12check;
+};

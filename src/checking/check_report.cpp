@@ -1,0 +1,131 @@
+#include "checking/check_report.h"
+
+#include "platform/dates.h"
+#include "platform/numbers.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace {
+
+const QLatin1String LineBreak("\r\n");
+
+/// The words in which the report of a game differs from the other's.
+struct GameWords
+{
+    QLatin1String game;
+    QLatin1String extraMatched;
+    QLatin1String noDraw;
+    QLatin1String noEntries;
+    QLatin1String indent;
+};
+
+const GameWords MainWords{QLatin1String("Main"), QLatin1String(" + bonus. "),
+                          QLatin1String("  No main draw on this date."),
+                          QLatin1String("    No main entries on this date."), QLatin1String(" ")};
+const GameWords ThunderballWords{QLatin1String("Thunderball"), QLatin1String(" + thunderball. "),
+                                 QLatin1String("  No thunderball draw on this date."),
+                                 QLatin1String("    No thunderball entries on this date."), QLatin1String("   ")};
+
+const GameWords& WordsOf(const Game& game)
+{
+    return game.drawType == MainGame.drawType ? MainWords : ThunderballWords;
+}
+
+/// The entries that a section checks, by user, as indexes in their stored order.
+using EntriesByUser = std::unordered_map<std::int64_t, std::vector<std::size_t>>;
+
+EntriesByUser PlayedEntries(const CheckedGame& checked, std::span<const EntryRow> entries)
+{
+    EntriesByUser played;
+    if (!checked.draw)
+        return played;
+    const auto day = static_cast<std::size_t>(DaySetIndex(checked.draw->date));
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        if (entries[i].drawType == checked.game->drawType && entries[i].days.at(day))
+            played[entries[i].userId].push_back(i);
+    return played;
+}
+
+void AppendResult(QString& text, const Game& game, const EntryResult& result)
+{
+    const GameWords& words = WordsOf(game);
+    text += words.indent + SpacedNumber(result.mainMatches) + QLatin1String(" main ball");
+    if (result.mainMatches != 1)
+        text += u's';
+    text += result.extraMatched ? words.extraMatched : QLatin1String(". ");
+    if (IsWin(game, result))
+        text += QLatin1String("<<WIN>>");
+    text += LineBreak;
+}
+
+void AppendSection(QString& text, const CheckedGame& checked, const std::vector<std::size_t>* played,
+                   std::span<const EntryRow> entries)
+{
+    const GameWords& words = WordsOf(*checked.game);
+    if (!checked.draw) {
+        text += words.noDraw + LineBreak;
+        return;
+    }
+    text += QLatin1String("  Draw type: ") + words.game + QLatin1String(" (") + ShortDate(checked.draw->date) + u')' +
+            LineBreak;
+    if (played == nullptr) {
+        text += words.noEntries + LineBreak;
+        return;
+    }
+    int counter = 1;
+    for (const std::size_t index : *played) {
+        text += QLatin1String("   ") + SpacedNumber(counter++) + u'>';
+        AppendResult(text, *checked.game, CompareEntry(*checked.game, entries[index], *checked.draw));
+    }
+}
+
+} // namespace
+
+EntryResult CompareEntry(const Game& game, const EntryRow& entry, const CheckedDraw& draw)
+{
+    const auto mainBalls = static_cast<std::size_t>(game.mainBalls);
+    const double extra = draw.balls.at(mainBalls);
+    EntryResult result;
+    for (std::size_t i = 0; i < mainBalls; ++i)
+        for (std::size_t j = 0; j < mainBalls; ++j)
+            result.mainMatches += entry.numbers[i] == draw.balls[j] ? 1 : 0;
+    result.extraMatched = game.extraFromSameMachine
+                              ? std::find(entry.numbers.begin(), entry.numbers.end(), extra) != entry.numbers.end()
+                              : entry.numbers.back() == extra;
+    return result;
+}
+
+bool IsWin(const Game& game, const EntryResult& result)
+{
+    if (result.mainMatches >= 3)
+        return true;
+    return game.drawType == ThunderballGame.drawType && result.mainMatches >= 1 && result.extraMatched;
+}
+
+CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const CheckedGame> games,
+                             std::span<const EntryRow> entries)
+{
+    std::vector<EntriesByUser> played;
+    for (const CheckedGame& checked : games)
+        played.push_back(PlayedEntries(checked, entries));
+    CheckReport report;
+    const auto appendEmphasised = [&report](const QString& line) {
+        report.emphasised.push_back({report.text.size(), line.size()});
+        report.text += line;
+    };
+    appendEmphasised(QLatin1String("Tavenor v3.0") + LineBreak + LineBreak);
+    if (entries.empty()) {
+        report.text += QLatin1String("There are no user entries stored.");
+        return report;
+    }
+    for (const CheckedUser& user : users) {
+        appendEmphasised(QLatin1String("User: ") + user.name + LineBreak);
+        for (std::size_t i = 0; i < games.size(); ++i) {
+            const auto found = played[i].find(user.number);
+            AppendSection(report.text, games[i], found == played[i].end() ? nullptr : &found->second, entries);
+        }
+        report.text += LineBreak;
+    }
+    return report;
+}

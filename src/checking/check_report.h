@@ -1,0 +1,65 @@
+#pragma once
+
+#include "draws/game.h"
+#include "users/entry_row.h"
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+/// The draw that one section of the report checks against; balls in slot order.
+struct CheckedDraw
+{
+    QDate date;
+    std::array<double, 7> balls{};
+};
+
+/// The user of one block of the report.
+struct CheckedUser
+{
+    std::int64_t number = 0;
+    QString name;
+};
+
+/// One section of every block: a game, and the draw that was found for it, if any.
+struct CheckedGame
+{
+    const Game* game;
+    std::optional<CheckedDraw> draw;
+};
+
+struct CheckReport
+{
+    /// Lines end with carriage return and line feed.
+    QString text;
+    struct Span
+    {
+        qsizetype start;
+        qsizetype length;
+    };
+    /// The emphasised stretches, in order.
+    std::vector<Span> emphasised;
+};
+
+/// How an entry fared against a draw.
+struct EntryResult
+{
+    int mainMatches = 0;
+    /// Whether the bonus ball is among the entry's numbers, or the thunderballs are the same.
+    bool extraMatched = false;
+
+    bool operator==(const EntryResult&) const = default;
+};
+
+EntryResult CompareEntry(const Game& game, const EntryRow& entry, const CheckedDraw& draw);
+
+/// Whether the result wins a prize of the game.
+bool IsWin(const Game& game, const EntryResult& result);
+
+/// The report on the given users, in their order, each with its sections in the order of `games`. Entries may come in
+/// any mix of users and games; within a section they keep their order.
+CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const CheckedGame> games,
+                             std::span<const EntryRow> entries);

@@ -1,0 +1,171 @@
+#include "draws/add_draw_page.h"
+
+#include "draws/draw_controls.h"
+#include "draws/draw_prompt.h"
+#include "draws/game.h"
+#include "platform/card.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "platform/month_calendar.h"
+#include "shell/open_databases.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+/// What the page of one game is called and says where it differs from the other's.
+struct PageTexts
+{
+    int page;
+    const char* title;
+    const char* titleName;
+    const char* calendar;
+    const char* field;
+    const char* disc;
+    const char* caption;
+    const char* frame;
+    const char* gameInQuestion;
+    const char* stored;
+};
+
+constexpr PageTexts MainTexts{6,         "Main Draw", "Label1",  "F6Cal", "F6MBall1",
+                              "F6MBall", "F6Mlabel",  "F6FMain", "main",  "The new main draw data has been stored."};
+constexpr PageTexts ThunderballTexts{
+    7,         "Thunderball Draw", "Label2",     "F7cal",       "F7TBall1",
+    "F7TBall", "F7Tlabel",         "F7FThunder", "thunderball", "The new Thunderball draw data has been stored."};
+
+const PageTexts& TextsOf(const Game& game)
+{
+    return game.drawType == MainGame.drawType ? MainTexts : ThunderballTexts;
+}
+
+QString ControlName(const Game& game, const char* name)
+{
+    return QStringLiteral("F%1%2").arg(TextsOf(game).page).arg(QLatin1String(name));
+}
+
+} // namespace
+
+AddDrawPage::AddDrawPage(const Game& drawGame)
+    : PageFrame(TextsOf(drawGame).page, QLatin1String(TextsOf(drawGame).title),
+                QLatin1String(TextsOf(drawGame).titleName)),
+      game(drawGame),
+      calendar(new MonthCalendar),
+      balls(new BallFields(DrawFieldNames(game, QLatin1String(TextsOf(game).field), QLatin1String(TextsOf(game).disc),
+                                          QLatin1String(TextsOf(game).caption)),
+                           DrawBallCaptions(game)))
+{
+    calendar->setObjectName(QLatin1String(TextsOf(game).calendar));
+    balls->SetRule(AddingRule(game));
+    BuildCards();
+    reset = AddFooterButton(QStringLiteral("Reset"), ControlName(game, "Reset"));
+    store = AddFooterDefault(QStringLiteral("Store"), ControlName(game, "Store"));
+    ConnectGuarded(calendar, &MonthCalendar::DateChosen, this, [this] { balls->FocusField(0); });
+    ConnectGuarded(balls, &BallFields::Completed, this, [this] {
+        (machine != nullptr ? static_cast<QWidget*>(machine) : store)->setFocus(Qt::TabFocusReason);
+    });
+    ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Prepare(); });
+    ConnectGuarded(store, &QPushButton::clicked, this, [this] { Store_Click(); });
+}
+
+void AddDrawPage::BuildCards()
+{
+    auto* dateCard = new Card;
+    dateCard->Content()->addWidget(calendar);
+    auto* drawCard = new Card;
+    drawCard->setObjectName(QLatin1String(TextsOf(game).frame));
+    drawCard->Content()->addWidget(balls);
+    if (game.hasMachine) {
+        machine = MakeEditableList(ControlName(game, "Mmachine"), QStringLiteral("Machine"));
+        ballSet = MakeEditableList(ControlName(game, "Mballset"), QStringLiteral("Set of Balls"));
+        auto* form = new QGridLayout;
+        form->setHorizontalSpacing(Spacing::Page);
+        form->setVerticalSpacing(Spacing::Between);
+        const QString captions = QLatin1String(TextsOf(game).caption);
+        form->addWidget(MakeLabel(QStringLiteral("Machine"), TextRole::Caption, ElementName(captions, 7)), 0, 0);
+        form->addWidget(machine, 0, 1);
+        form->addWidget(MakeLabel(QStringLiteral("Set of Balls"), TextRole::Caption, ElementName(captions, 8)), 1, 0);
+        form->addWidget(ballSet, 1, 1);
+        form->setColumnMinimumWidth(1, 14 * fontMetrics().averageCharWidth());
+        form->setColumnStretch(2, 1);
+        drawCard->Content()->addSpacing(Spacing::Between);
+        drawCard->Content()->addLayout(form);
+    }
+    drawCard->Content()->addStretch(1);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(Spacing::Cards);
+    cards->addWidget(dateCard);
+    cards->addWidget(drawCard, 1);
+    Body()->addLayout(cards);
+    Body()->addStretch(1);
+}
+
+void AddDrawPage::Prepare()
+{
+    if (game.hasMachine) {
+        RefillList(machine, MachineNames);
+        RefillList(ballSet, BallSetNames);
+    }
+    show();
+    balls->Clear();
+    balls->FocusField(0);
+}
+
+void AddDrawPage::Store_Click()
+{
+    if (!BallsAreValid()) {
+        ShowMessage(QStringLiteral("Error detected in the data that you entered.") + Crlf +
+                    QStringLiteral("Please re-check and press 'Store' again."));
+        return;
+    }
+    balls->Sort(game.mainBalls);
+    balls->Recolour();
+    if (!StoreDraw(ReadControls())) {
+        ShowMessage(QStringLiteral("The data has NOT been stored."));
+        return;
+    }
+    DrawListOf(game).Requery();
+    Prepare();
+    ShowMessage(QLatin1String(TextsOf(game).stored));
+}
+
+bool AddDrawPage::BallsAreValid() const
+{
+    return IsPossibleDraw(game, balls->Numbers());
+}
+
+EnteredDraw AddDrawPage::ReadControls() const
+{
+    EnteredDraw draw;
+    draw.date = calendar->selectedDate();
+    const std::vector<double> numbers = balls->Numbers();
+    std::copy(numbers.begin(), numbers.end(), draw.balls.begin());
+    if (game.hasMachine) {
+        draw.machine = machine->currentText();
+        draw.ballSet = ballSet->currentText();
+    }
+    return draw;
+}
+
+bool AddDrawPage::StoreDraw(const EnteredDraw& draw)
+{
+    RecordSet& table = DrawsOf(game);
+    auto choice = DrawPromptChoice::AddNewDraw;
+    if (FindDrawByDate(table, draw.date)) {
+        DrawPrompt frmmsgbox1(QLatin1String(TextsOf(game).gameInQuestion), this);
+        frmmsgbox1.exec();
+        choice = frmmsgbox1.MsgBoxChoice();
+    }
+    if (choice == DrawPromptChoice::Cancel || choice == DrawPromptChoice::None)
+        return false;
+    Transaction transaction(DrawDb, "The draw could not be stored");
+    if (choice == DrawPromptChoice::OverwriteExistingDraw && FindDrawByDate(table, draw.date))
+        OverwriteDraw(table, game, draw);
+    else
+        AddDraw(table, game, draw);
+    transaction.Commit();
+    return true;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "draws/draw_records.h"
+#include "platform/page_frame.h"
+
+#include <optional>
+
+class BallFields;
+class MonthCalendar;
+class QComboBox;
+struct Game;
+
+/// Pages 6 and 7: the result of a draw of the game is typed in, checked and stored.
+class AddDrawPage : public PageFrame
+{
+    Q_OBJECT
+
+public:
+    explicit AddDrawPage(const Game& drawGame);
+
+    /// F6Reset_Click, F7Reset_Click.
+    void Prepare() override;
+
+private:
+    void BuildCards();
+    /// F6Store_Click, F7Store_Click.
+    void Store_Click();
+    bool BallsAreValid() const;
+    EnteredDraw ReadControls() const;
+    /// Stores the draw as a new row, or over the row of the same date when the player wants that; false on Cancel.
+    bool StoreDraw(const EnteredDraw& draw);
+
+    const Game& game;
+    MonthCalendar* calendar;
+    BallFields* balls;
+    QComboBox* machine = nullptr;
+    QComboBox* ballSet = nullptr;
+    Button* reset;
+    Button* store;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "draws/ball_colours.h"
+
+#include <QString>
+
+struct Game;
+
+/// How the fields of a page check one typed ball when it loses the focus.
+struct BallFieldRule
+{
+    const Game* game;
+    QString mainMessage;
+    QString extraMessage;
+    /// Whether a value between 0 and 1, or between the highest ball and the next number, passes here; storing refuses
+    /// fractions in any case.
+    bool fractionsAtTheEdgesPass;
+};
+
+/// The rule of the pages on which new draws and entries of the game are typed in.
+const BallFieldRule& AddingRule(const Game& game);
+
+/// What became of a field: an accepted one (an empty one too) has its colours; a refused one has the empty colours and
+/// the message that says why.
+struct BallFieldVerdict
+{
+    BallColours colours;
+    QString message;
+
+    bool IsRefused() const { return !message.isEmpty(); }
+};
+
+BallFieldVerdict CheckBallField(const BallFieldRule& rule, int slot, const QString& text);

@@ -1,0 +1,39 @@
+#include "draws/draw_prompt.h"
+
+#include "platform/message_box.h"
+#include "platform/page_frame.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmmsgbox1"));
+    setWindowTitle(ApplicationTitle);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    layout->setSpacing(Spacing::Cards);
+    layout->addWidget(
+        MakeLabel(QStringLiteral("A %1 draw with this date already exists,\r\nwhat do you want to do?").arg(gameName),
+                  TextRole::Body, QStringLiteral("Label1")));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Spacing::Between);
+    const auto add = [&](const char* caption, const char* name, DrawPromptChoice chosen) {
+        auto* button = new Button(QLatin1String(caption), QLatin1String(name));
+        connect(button, &QPushButton::clicked, this, [this, chosen] { Choose(chosen); });
+        row->addWidget(button);
+        return button;
+    };
+    add("Add New Draw", "Command1", DrawPromptChoice::AddNewDraw);
+    add("Overwrite Existing Draw", "Command2", DrawPromptChoice::OverwriteExistingDraw);
+    Button* cancel = add("Cancel", "Command3", DrawPromptChoice::Cancel);
+    cancel->setDefault(true);
+    cancel->setFocus();
+    layout->addLayout(row);
+}
+
+void DrawPrompt::Choose(DrawPromptChoice chosen)
+{
+    choice = chosen;
+    accept();
+}

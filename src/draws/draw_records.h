@@ -1,0 +1,36 @@
+#pragma once
+
+#include "draws/draw_row.h"
+
+#include <QDate>
+#include <QString>
+
+#include <array>
+
+class RecordSet;
+struct Game;
+
+/// The current record of a draw table or list. Throws Failure where there is none.
+DrawRow ReadDraw(const RecordSet& set, const Game& game);
+
+/// Moves the table to the first row of the given date; false, and at the end, when there is none.
+bool FindDrawByDate(RecordSet& table, QDate date);
+
+/// Moves the table to the first row of the given number; false, and at the end, when there is none.
+bool FindRecord(RecordSet& table, std::int64_t number);
+
+/// What a page knows of a draw that is to be stored.
+struct EnteredDraw
+{
+    QDate date;
+    /// In slot order, main balls ascending.
+    std::array<double, 7> balls{};
+    QString machine;
+    QString ballSet;
+};
+
+/// Adds the draw to the game's table as a new row with the next number. Throws Failure; nothing is stored then.
+void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw);
+
+/// Writes balls, machine and set of balls over the table's current row; number, date and day stay. Throws Failure.
+void OverwriteDraw(RecordSet& table, const Game& game, const EnteredDraw& draw);

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+class QLabel;
+
+/// A ball: a disc of one colour, lit from the upper left, on which a label or a text field shows the number. Its colour
+/// is the Window role of its palette.
+class BallDisc : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BallDisc(QWidget* parent = nullptr);
+
+    /// Puts the control that shows the number onto the ball; the ball draws a ring while it has the focus.
+    void Carry(QWidget* number);
+    void SetColour(const QColor& colour);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void PlaceNumber();
+    QRectF BallRect() const;
+
+    QWidget* carried = nullptr;
+};
+
+/// Makes a ball with a label on it. `discName` and `numberName` are their object names.
+struct LabelledBall
+{
+    BallDisc* disc;
+    QLabel* number;
+
+    /// Shows a number in the given colours.
+    void Show(const QString& text, const QColor& ball, const QColor& digits) const;
+};
+LabelledBall MakeLabelledBall(const QString& discName, const QString& numberName, QWidget* parent);

@@ -1,0 +1,72 @@
+#include "platform/ball_edit.h"
+
+#include "platform/style.h"
+#include "platform/theme.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
+
+namespace {
+
+class PressSwallower : public QObject
+{
+public:
+    explicit PressSwallower(QObject* parent) : QObject(parent)
+    {
+        qApp->installEventFilter(this);
+        // The press is delivered in this turn of the event loop or not at all.
+        QTimer::singleShot(0, this, &QObject::deleteLater);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::MouseButtonPress || !watched->isWidgetType())
+            return false;
+        qApp->removeEventFilter(this);
+        return true;
+    }
+};
+
+} // namespace
+
+BallEdit::BallEdit(QWidget* parent) : QLineEdit(parent)
+{
+    setProperty(BareProperty, true);
+    setFrame(false);
+    setAlignment(Qt::AlignCenter);
+    setFont(FontFor(TextRole::Heading));
+    setAttribute(Qt::WA_MacShowFocusRect, false);
+}
+
+void BallEdit::SetColours(const QColor& ball, const QColor& digits)
+{
+    QPalette changed = palette();
+    changed.setColor(QPalette::Base, ball);
+    changed.setColor(QPalette::Text, digits);
+    setPalette(changed);
+}
+
+void BallEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT EnterPressed();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void BallEdit::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    const auto reason = event->reason();
+    // A message box, a menu or another program takes the focus for a while only; a page that is being left is hidden.
+    const bool goneForGood = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+                             reason != Qt::MenuBarFocusReason && isVisible();
+    if (goneForGood)
+        Q_EMIT Left(reason == Qt::MouseFocusReason);
+}
+
+void SwallowMousePressInProgress()
+{
+    new PressSwallower(qApp);
+}

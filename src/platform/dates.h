@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <array>
+#include <string>
+#include <string_view>
+
+/// The full English day names, indexed 0 to 6 = Monday to Sunday, as every day set of the program is.
+extern const std::array<QString, 7> DayNames;
+
+/// The index of the date's weekday in a day set: 0 Monday to 6 Sunday. The date must be valid.
+int DaySetIndex(QDate date);
+
+/// The three-letter English name of the date's weekday, "Sun" to "Sat"; empty for an invalid date.
+QString ShortDayName(QDate date);
+
+/// "Saturday, 5 February 2000", always in English; empty for an invalid date.
+QString LongDate(QDate date);
+
+/// "5 February 2000", always in English; empty for an invalid date.
+QString DateInWords(QDate date);
+
+/// The date in the desktop's own short form, with the year in four digits; empty for an invalid date.
+QString ShortDate(QDate date);
+
+/// The form in which the database files hold a date, YYYY-MM-DD, and back. A text of another form is an invalid date.
+std::string IsoDate(QDate date);
+QDate DateFromIso(std::string_view iso);

@@ -1,0 +1,121 @@
+#include "platform/files.h"
+
+#include "platform/failure.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace {
+
+[[noreturn]] void Fail(const std::string& doing, int error)
+{
+    std::string reason = "the disk reported an error";
+    if (error == ENOSPC || error == EDQUOT || error == EFBIG)
+        reason = "the disk is full";
+    else if (error == EACCES || error == EPERM || error == EROFS)
+        reason = "the file or its folder may not be changed";
+    else if (error == ENOENT)
+        reason = "the file or its folder is not there";
+    throw Failure(doing, reason, std::generic_category().message(error));
+}
+
+/// A file descriptor that is closed on every way out.
+class Descriptor
+{
+public:
+    Descriptor(const std::filesystem::path& path, int flags, mode_t mode = 0)
+        : descriptor(::open(path.c_str(), flags | O_CLOEXEC, mode))
+    {
+    }
+    ~Descriptor() { Close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int Number() const { return descriptor; }
+    bool Close()
+    {
+        const int closing = descriptor;
+        descriptor = -1;
+        return closing < 0 || ::close(closing) == 0;
+    }
+
+private:
+    int descriptor;
+};
+
+/// Returns 0, or the error at which the copy stopped.
+int CopyContent(int source, int target)
+{
+    std::array<char, 1 << 16> buffer{};
+    while (true) {
+        const ssize_t got = ::read(source, buffer.data(), buffer.size());
+        if (got == 0)
+            return 0;
+        if (got < 0)
+            return errno;
+        for (ssize_t done = 0; done < got;) {
+            const ssize_t written = ::write(target, buffer.data() + done, static_cast<size_t>(got - done));
+            if (written < 0)
+                return errno;
+            done += written;
+        }
+    }
+}
+
+int WriteBeside(const std::filesystem::path& source, const std::filesystem::path& beside)
+{
+    const Descriptor from(source, O_RDONLY);
+    struct stat attributes = {};
+    if (from.Number() < 0 || ::fstat(from.Number(), &attributes) != 0)
+        return errno;
+    Descriptor to(beside, O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    if (to.Number() < 0)
+        return errno;
+    if (const int error = CopyContent(from.Number(), to.Number()))
+        return error;
+    if (::fchmod(to.Number(), attributes.st_mode & 07777) != 0 || ::fsync(to.Number()) != 0 || !to.Close())
+        return errno;
+    return 0;
+}
+
+void SyncFolder(const std::filesystem::path& folder)
+{
+    // A folder that cannot be synced (some network disks) does not make the rename undone.
+    const Descriptor directory(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
+    if (directory.Number() >= 0)
+        ::fsync(directory.Number());
+}
+
+} // namespace
+
+void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath)
+{
+    // A link stays a link: the file that it leads to is the one replaced.
+    std::error_code missing;
+    const auto target = std::filesystem::is_symlink(targetPath, missing)
+                            ? std::filesystem::weakly_canonical(targetPath, missing)
+                            : targetPath;
+    const std::string doing = "The file " + target.filename().string() + " could not be written";
+    auto beside = target;
+    beside += ".new";
+    int error = WriteBeside(source, beside);
+    if (error == 0 && ::rename(beside.c_str(), target.c_str()) != 0)
+        error = errno;
+    if (error != 0) {
+        ::unlink(beside.c_str());
+        Fail(doing, error);
+    }
+    SyncFolder(target.parent_path());
+}
+
+void DeleteFileIfThere(const std::filesystem::path& file)
+{
+    if (::unlink(file.c_str()) != 0 && errno != ENOENT)
+        Fail("The file " + file.filename().string() + " could not be deleted", errno);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QCalendarWidget>
+
+/// A month calendar in the look of the pages, with English names and weeks from Monday, that opens on today.
+class MonthCalendar : public QCalendarWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MonthCalendar(QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// A day was chosen: clicked, or confirmed with Enter.
+    void DateChosen(QDate date);
+
+protected:
+    void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void TakeColours();
+};

@@ -1,0 +1,98 @@
+#include "platform/page_frame.h"
+
+#include "platform/style.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+Button::Button(const QString& caption, const QString& name, QWidget* parent) : QPushButton(caption, parent)
+{
+    setObjectName(name);
+    setAccessibleName(caption);
+    setFont(FontFor(TextRole::Strong));
+    setAutoDefault(false);
+}
+
+void Button::MakeAccent()
+{
+    setProperty(AccentProperty, true);
+    update();
+}
+
+void Button::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+QLabel* MakeLabel(const QString& text, TextRole role, const QString& name, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setObjectName(name);
+    label->setFont(FontFor(role));
+    if (role == TextRole::Caption)
+        label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+QString ElementName(const QString& array, int index)
+{
+    return array + u'_' + QString::number(index);
+}
+
+PageFrame::PageFrame(int index, const QString& title, const QString& titleName)
+    : body(new QVBoxLayout), footer(new QHBoxLayout)
+{
+    setObjectName(ElementName(QStringLiteral("Frame"), index));
+    setAccessibleName(title);
+    setAutoFillBackground(true);
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    page->setSpacing(Spacing::Cards);
+    if (!title.isEmpty())
+        page->addWidget(MakeLabel(title, TextRole::Title, titleName, this));
+    body->setSpacing(Spacing::Cards);
+    page->addLayout(body, 1);
+    footer->setSpacing(Spacing::Between);
+    footer->addStretch(1);
+    page->addLayout(footer);
+    hide();
+}
+
+void PageFrame::Prepare()
+{
+    show();
+}
+
+void PageFrame::ShowInFront()
+{
+    show();
+    raise();
+}
+
+Button* PageFrame::AddFooterButton(const QString& caption, const QString& name)
+{
+    auto* button = new Button(caption, name, this);
+    footer->addWidget(button);
+    return button;
+}
+
+Button* PageFrame::AddFooterDefault(const QString& caption, const QString& name)
+{
+    Button* button = AddFooterButton(caption, name);
+    button->MakeAccent();
+    return button;
+}
+
+void PageFrame::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && back != nullptr)
+        back->click();
+    else
+        QFrame::keyPressEvent(event);
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/theme.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+
+class QHBoxLayout;
+class QVBoxLayout;
+
+/// A button that also answers the Enter key.
+class Button : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    Button(const QString& caption, const QString& name, QWidget* parent = nullptr);
+
+    /// Marks it as the page's default action.
+    void MakeAccent();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// A label in one of the text roles; plain text, never guessed to be rich.
+QLabel* MakeLabel(const QString& text, TextRole role, const QString& name = {}, QWidget* parent = nullptr);
+
+/// The name of element `index` of a control array.
+QString ElementName(const QString& array, int index);
+
+/// One page of the main window: a title, a body, and a row of buttons at the lower right. It is hidden until its
+/// preparation makes it visible.
+class PageFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// `index` is the page's place in the frame array; a page without a title has an empty one.
+    PageFrame(int index, const QString& title, const QString& titleName = {});
+
+    /// Fills the page and makes it visible. Throws Failure.
+    virtual void Prepare();
+
+    /// Makes the page visible in front of the others.
+    void ShowInFront();
+
+protected:
+    QVBoxLayout* Body() const { return body; }
+    /// Adds a button to the row at the lower right, from left to right.
+    Button* AddFooterButton(const QString& caption, const QString& name);
+    Button* AddFooterDefault(const QString& caption, const QString& name);
+    /// The button that leaves the page; Escape presses it too.
+    void SetBackButton(Button* button) { back = button; }
+    QHBoxLayout* Footer() const { return footer; }
+
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Button* back = nullptr;
+    QVBoxLayout* body;
+    QHBoxLayout* footer;
+};

@@ -1,0 +1,99 @@
+#include "records/database.h"
+
+#include "platform/failure.h"
+#include "records/engine.h"
+#include "records/guarded_engine.h"
+#include "records/record_set.h"
+
+#include <algorithm>
+
+namespace {
+
+const char* const NotReadable = "The database could not be read";
+
+} // namespace
+
+Database::Database() = default;
+
+Database::~Database()
+{
+    Close();
+}
+
+void Database::Open(const std::filesystem::path& file, const std::string& connect)
+{
+    Close();
+    const std::string doing = "The file " + file.filename().string() + " could not be opened";
+    lock.Share(file, doing);
+    try {
+        engine = OpenGuarded(file, connect, lock.FirstBytes(SaltBytes), doing);
+        versionQuery = std::make_unique<Statement>(engine, "PRAGMA data_version", NotReadable);
+    } catch (...) {
+        Close();
+        throw;
+    }
+    path = file;
+}
+
+void Database::Close()
+{
+    while (!recordSets.empty())
+        recordSets.back()->Close();
+    versionQuery.reset();
+    // The engine goes first: closing the lock's descriptor would drop the engine's own locks.
+    sqlite3_close_v2(engine);
+    engine = nullptr;
+    inTransaction = false;
+    lock.Release();
+}
+
+std::int64_t Database::ChangesByOthers()
+{
+    versionQuery->Step();
+    const std::int64_t version = versionQuery->WholeNumber(0);
+    versionQuery->Reset();
+    return version;
+}
+
+void Database::Register(RecordSet* set)
+{
+    recordSets.push_back(set);
+}
+
+void Database::Unregister(RecordSet* set)
+{
+    recordSets.erase(std::remove(recordSets.begin(), recordSets.end(), set), recordSets.end());
+}
+
+void Database::RollBack()
+{
+    // A failed commit may have rolled back already; the answer to a second attempt does not matter.
+    sqlite3_exec(engine, "ROLLBACK", nullptr, nullptr, nullptr);
+    inTransaction = false;
+    for (RecordSet* set : recordSets)
+        set->TakeBackChanges();
+}
+
+Transaction::Transaction(Database& owner, std::string doingClause) : database(owner), doing(std::move(doingClause))
+{
+    if (database.inTransaction)
+        throw Failure(doing, "another change is still going on", "nested transaction");
+    Execute(database.engine, "BEGIN IMMEDIATE", doing);
+    database.inTransaction = true;
+    open = true;
+}
+
+Transaction::~Transaction()
+{
+    if (open && database.IsOpen())
+        database.RollBack();
+}
+
+void Transaction::Commit()
+{
+    Execute(database.engine, "COMMIT", doing);
+    open = false;
+    database.inTransaction = false;
+    for (RecordSet* set : database.recordSets)
+        set->KeepChanges();
+}

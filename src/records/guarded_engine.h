@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+struct sqlite3;
+
+/// The length of the salt at the start of a protected file.
+inline constexpr std::size_t SaltBytes = 16;
+
+/// Opens an existing file in the engine with every guard against what a file of unknown origin may carry, and proves
+/// the key by reading. `firstBytes` are the first bytes of the file. Throws Failure with the given clause.
+sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
+                     const std::string& doing);
+
+/// The password of a connect string: what follows ";pwd="; empty for an empty connect string.
+std::string PasswordOf(const std::string& connect);

@@ -1,0 +1,58 @@
+#include "records/key_store.h"
+
+#include <openssl/crypto.h>
+#include <openssl/evp.h>
+
+#include <array>
+#include <map>
+#include <stdexcept>
+
+namespace {
+
+constexpr int Iterations = 256000;
+constexpr std::size_t KeyBytes = 32;
+
+std::map<std::string, std::string, std::less<>>& KeptKeys()
+{
+    static std::map<std::string, std::string, std::less<>> keys;
+    return keys;
+}
+
+void AppendHexadecimal(std::string& text, const unsigned char* bytes, std::size_t count)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    for (std::size_t i = 0; i < count; ++i) {
+        text += digits[bytes[i] >> 4U];
+        text += digits[bytes[i] & 15U];
+    }
+}
+
+} // namespace
+
+std::string DerivedKeySpecification(std::string_view password, std::string_view salt)
+{
+    const std::string name = std::string(salt) + std::string(password);
+    if (const auto kept = KeptKeys().find(name); kept != KeptKeys().end())
+        return kept->second;
+    std::array<unsigned char, KeyBytes> key{};
+    const auto* saltBytes = reinterpret_cast<const unsigned char*>(salt.data());
+    if (PKCS5_PBKDF2_HMAC(password.data(), static_cast<int>(password.size()), saltBytes, static_cast<int>(salt.size()),
+                          Iterations, EVP_sha512(), static_cast<int>(key.size()), key.data()) != 1)
+        throw std::runtime_error("The key of the draw records could not be derived.");
+    std::string specification;
+    specification.reserve(2 * (KeyBytes + salt.size()) + 3);
+    specification += "x'";
+    AppendHexadecimal(specification, key.data(), key.size());
+    AppendHexadecimal(specification, saltBytes, salt.size());
+    specification += '\'';
+    OPENSSL_cleanse(key.data(), key.size());
+    KeptKeys().emplace(name, specification);
+    return specification;
+}
+
+void WipeDerivedKeys()
+{
+    for (auto& [name, specification] : KeptKeys())
+        OPENSSL_cleanse(specification.data(), specification.size());
+    KeptKeys().clear();
+}

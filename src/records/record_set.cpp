@@ -1,0 +1,406 @@
+#include "records/record_set.h"
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "records/database.h"
+#include "records/engine.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+std::string ColumnNames(const TableLayout& layout)
+{
+    std::string names;
+    for (const ColumnLayout& column : layout.columns)
+        names += (names.empty() ? "" : ", ") + Quoted(column.name);
+    return names;
+}
+
+} // namespace
+
+RecordSet::RecordSet() = default;
+
+RecordSet::~RecordSet()
+{
+    Close();
+}
+
+void RecordSet::Open(Database& owner, const TableLayout& tableLayout)
+{
+    Close();
+    database = &owner;
+    layout = tableLayout;
+    try {
+        ProveLayout();
+    } catch (...) {
+        database = nullptr;
+        throw;
+    }
+    owner.Register(this);
+}
+
+void RecordSet::Close()
+{
+    if (database != nullptr)
+        database->Unregister(this);
+    database = nullptr;
+    insertRow.reset();
+    updateRow.reset();
+    deleteRow.reset();
+    rows = {};
+    loaded = false;
+    changed = false;
+    editing = Editing::No;
+    current = -1;
+}
+
+std::string RecordSet::Doing(const char* failed) const
+{
+    return "The table " + layout.name + " could not be " + failed;
+}
+
+void RecordSet::ProveLayout() const
+{
+    const std::string doing = Doing("opened");
+    Statement kind(database->engine, "SELECT type FROM sqlite_master WHERE name = ?1", doing);
+    kind.Bind(1, Value(std::string_view(layout.name)));
+    const char* const wanted = layout.IsList() ? "view" : "table";
+    if (!kind.Step() || kind.Text(0) != wanted)
+        throw Failure(doing, "it is missing in the file", std::string("no such ") + wanted);
+    Statement columns(database->engine, "SELECT name FROM pragma_table_info(?1) ORDER BY cid", doing);
+    columns.Bind(1, Value(std::string_view(layout.name)));
+    std::size_t found = 0;
+    for (; columns.Step(); ++found) {
+        if (found >= layout.columns.size() || columns.Text(0) != layout.columns[found].name)
+            throw Failure(doing, "its columns are not as this program made them", std::string(columns.Text(0)));
+    }
+    if (found != layout.columns.size())
+        throw Failure(doing, "its columns are not as this program made them", "columns missing");
+}
+
+RecordSet::Cell RecordSet::Stored(Rows& target, const Value& value) const
+{
+    Cell cell = {};
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+        cell.whole = *whole;
+        cell.kind = CellKind::Whole;
+    } else if (const auto* real = std::get_if<double>(&value)) {
+        cell.real = *real;
+        cell.kind = CellKind::Real;
+    } else if (const auto* text = std::get_if<std::string_view>(&value)) {
+        if (target.texts.size() + text->size() > std::numeric_limits<std::uint32_t>::max())
+            throw Failure(Doing("read"), "its texts are too long", "more than 4 GiB of text");
+        cell.text = {static_cast<std::uint32_t>(target.texts.size()), static_cast<std::uint32_t>(text->size())};
+        cell.kind = CellKind::Text;
+        target.texts.append(*text);
+    }
+    return cell;
+}
+
+Value RecordSet::Read(const Cell& cell) const
+{
+    switch (cell.kind) {
+    case CellKind::Whole:
+        return cell.whole;
+    case CellKind::Real:
+        return cell.real;
+    case CellKind::Text:
+        return std::string_view(rows.texts).substr(cell.text.offset, cell.text.length);
+    case CellKind::Nothing:
+        break;
+    }
+    return std::monostate();
+}
+
+RecordSet::Rows RecordSet::ReadRows() const
+{
+    const int columns = layout.ColumnCount();
+    const std::string sql =
+        layout.IsList()
+            ? "SELECT 0, " + ColumnNames(layout) + " FROM " + Quoted(layout.name) + " ORDER BY " + layout.listOrder
+            : "SELECT rowid, " + ColumnNames(layout) + " FROM " + Quoted(layout.name) + " ORDER BY rowid";
+    Rows read;
+    Statement query(database->engine, sql, Doing("read"));
+    while (query.Step()) {
+        read.rowIds.push_back(query.WholeNumber(0));
+        for (int column = 1; column <= columns; ++column)
+            read.cells.push_back(Stored(read, query.Column(column)));
+    }
+    read.deleted.resize(read.rowIds.size(), false);
+    return read;
+}
+
+void RecordSet::Load()
+{
+    if (loaded)
+        return;
+    if (database == nullptr)
+        throw Failure(Doing("read"), "the file is not open", "record set closed");
+    // The version is taken first: a change that comes between the two is then seen once more, not missed.
+    loadedVersion = database->ChangesByOthers();
+    rows = ReadRows();
+    loaded = true;
+    current = rows.deleted.empty() ? -1 : 0;
+}
+
+void RecordSet::Refresh()
+{
+    if (loaded && database != nullptr && database->ChangesByOthers() != loadedVersion)
+        loaded = false;
+    Load();
+    DropDeletedRows();
+}
+
+void RecordSet::DropDeletedRows()
+{
+    if (rows.deletedCount == 0)
+        return;
+    const auto columns = static_cast<std::size_t>(layout.ColumnCount());
+    std::size_t kept = 0;
+    for (std::size_t row = 0; row < rows.deleted.size(); ++row) {
+        if (rows.deleted[row])
+            continue;
+        if (kept != row) {
+            rows.rowIds[kept] = rows.rowIds[row];
+            std::copy_n(rows.cells.begin() + static_cast<std::ptrdiff_t>(row * columns), columns,
+                        rows.cells.begin() + static_cast<std::ptrdiff_t>(kept * columns));
+        }
+        ++kept;
+    }
+    rows.rowIds.resize(kept);
+    rows.cells.resize(kept * columns);
+    rows.deleted.assign(kept, false);
+    rows.deletedCount = 0;
+}
+
+bool RecordSet::Bof()
+{
+    Load();
+    return current < 0 || rows.deletedCount == RowCount();
+}
+
+bool RecordSet::Eof()
+{
+    Load();
+    return current >= RowCount() || rows.deletedCount == RowCount();
+}
+
+int RecordSet::Count()
+{
+    Load();
+    return RowCount() - rows.deletedCount;
+}
+
+void RecordSet::MoveFirst()
+{
+    Refresh();
+    current = RowCount() == 0 ? -1 : 0;
+}
+
+void RecordSet::MoveLast()
+{
+    Refresh();
+    current = RowCount() - 1;
+}
+
+void RecordSet::Step(int direction)
+{
+    do
+        current += direction;
+    while (current >= 0 && current < RowCount() && rows.deleted[Index()]);
+    current = std::clamp(current, -1, RowCount());
+}
+
+void RecordSet::MoveNext()
+{
+    Load();
+    Step(1);
+}
+
+void RecordSet::MovePrevious()
+{
+    Load();
+    Step(-1);
+}
+
+void RecordSet::Move(int count)
+{
+    Load();
+    if (rows.deletedCount == 0) {
+        current = static_cast<int>(std::clamp<std::int64_t>(std::int64_t{current} + count, -1, RowCount()));
+        return;
+    }
+    const int direction = count < 0 ? -1 : 1;
+    for (int moved = 0; moved != count && current >= -1 && current <= RowCount(); moved += direction)
+        Step(direction);
+}
+
+Value RecordSet::Field(int position) const
+{
+    if (!OnRecord())
+        throw Failure(Doing("read"), "there is no current record", "record set at its start or end");
+    return Read(
+        rows.cells[Index() * static_cast<std::size_t>(layout.ColumnCount()) + static_cast<std::size_t>(position)]);
+}
+
+double RecordSet::Number(int position) const
+{
+    const Value value = Field(position);
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return static_cast<double>(*whole);
+    if (const auto* real = std::get_if<double>(&value))
+        return *real;
+    const auto* text = std::get_if<std::string_view>(&value);
+    return text == nullptr ? 0 : NumericValue(*text);
+}
+
+std::string_view RecordSet::Text(int position) const
+{
+    const Value value = Field(position);
+    const auto* text = std::get_if<std::string_view>(&value);
+    return text == nullptr ? std::string_view() : *text;
+}
+
+void RecordSet::AddNew()
+{
+    Load();
+    editing = Editing::NewRow;
+    edited.assign(layout.columns.size(), Value());
+    editedTexts.assign(layout.columns.size(), {});
+}
+
+void RecordSet::Edit()
+{
+    AddNew();
+    editing = Editing::CurrentRow;
+    for (int position = 0; position < layout.ColumnCount(); ++position)
+        SetField(position, Field(position));
+}
+
+void RecordSet::SetField(int position, const Value& value)
+{
+    const auto place = static_cast<std::size_t>(position);
+    edited.at(place) = value;
+    if (const auto* text = std::get_if<std::string_view>(&value)) {
+        editedTexts.at(place) = *text;
+        edited[place] = std::string_view(editedTexts[place]);
+    }
+}
+
+void RecordSet::Update()
+{
+    if (editing == Editing::NewRow)
+        StoreNewRow();
+    else if (editing == Editing::CurrentRow)
+        StoreCurrentRow();
+    editing = Editing::No;
+    changed = database->inTransaction;
+}
+
+void RecordSet::StoreNewRow()
+{
+    if (!insertRow) {
+        std::string parameters = "?1";
+        for (int column = 2; column <= layout.ColumnCount(); ++column)
+            parameters += ", ?" + std::to_string(column);
+        insertRow = std::make_unique<Statement>(database->engine,
+                                                "INSERT INTO " + Quoted(layout.name) + " (" + ColumnNames(layout) +
+                                                    ") VALUES (" + parameters + ")",
+                                                Doing("changed"));
+    }
+    for (int column = 0; column < layout.ColumnCount(); ++column)
+        insertRow->Bind(column + 1, edited[static_cast<std::size_t>(column)]);
+    insertRow->Step();
+    insertRow->Reset();
+    const bool first = Count() == 0;
+    rows.rowIds.push_back(sqlite3_last_insert_rowid(database->engine));
+    rows.deleted.push_back(false);
+    for (const Value& value : edited)
+        rows.cells.push_back(Stored(rows, value));
+    if (first)
+        current = RowCount() - 1;
+}
+
+void RecordSet::StoreCurrentRow()
+{
+    const auto columns = static_cast<std::size_t>(layout.ColumnCount());
+    if (!OnRecord())
+        throw Failure(Doing("changed"), "there is no current record", "record set at its start or end");
+    if (!updateRow) {
+        std::string assignments;
+        for (std::size_t column = 0; column < columns; ++column)
+            assignments +=
+                (column == 0 ? "" : ", ") + Quoted(layout.columns[column].name) + " = ?" + std::to_string(column + 1);
+        const std::string number = std::to_string(columns + 1);
+        // Another copy may have deleted the row and given its place to a new one; the number tells them apart.
+        updateRow = std::make_unique<Statement>(
+            database->engine,
+            "UPDATE " + Quoted(layout.name) + " SET " + assignments + " WHERE rowid = ?" + number + " AND " +
+                Quoted(layout.columns[0].name) + " IS ?" + std::to_string(columns + 2),
+            Doing("changed"));
+    }
+    for (std::size_t column = 0; column < columns; ++column)
+        updateRow->Bind(static_cast<int>(column) + 1, edited[column]);
+    updateRow->Bind(static_cast<int>(columns) + 1, rows.rowIds[Index()]);
+    updateRow->Bind(static_cast<int>(columns) + 2, Field(0));
+    updateRow->Step();
+    updateRow->Reset();
+    if (sqlite3_changes(database->engine) == 0)
+        throw Failure(Doing("changed"), "another copy of the program has deleted the row meanwhile", "no row changed");
+    for (std::size_t column = 0; column < columns; ++column)
+        rows.cells[Index() * columns + column] = Stored(rows, edited[column]);
+}
+
+void RecordSet::Delete()
+{
+    if (!OnRecord())
+        throw Failure(Doing("changed"), "there is no current record", "record set at its start or end");
+    if (!deleteRow)
+        deleteRow = std::make_unique<Statement>(database->engine,
+                                                "DELETE FROM " + Quoted(layout.name) + " WHERE rowid = ?1 AND " +
+                                                    Quoted(layout.columns[0].name) + " IS ?2",
+                                                Doing("changed"));
+    deleteRow->Bind(1, rows.rowIds[Index()]);
+    deleteRow->Bind(2, Field(0));
+    deleteRow->Step();
+    deleteRow->Reset();
+    rows.deleted[Index()] = true;
+    ++rows.deletedCount;
+    changed = database->inTransaction;
+}
+
+void RecordSet::Requery()
+{
+    loaded = false;
+    Load();
+}
+
+std::int64_t RecordSet::NextNumber()
+{
+    MoveLast();
+    // Beyond this bound a foreign file's number could not be raised by one.
+    constexpr double largest = 9007199254740990.0;
+    return IsEmpty() ? 1 : static_cast<std::int64_t>(std::clamp(Number(0), -largest, largest)) + 1;
+}
+
+void RecordSet::TakeBackChanges()
+{
+    if (!changed)
+        return;
+    changed = false;
+    editing = Editing::No;
+    const std::int64_t rowId = OnRecord() ? rows.rowIds[Index()] : 0;
+    const int place = current;
+    loaded = false;
+    try {
+        Load();
+    } catch (const Failure&) {
+        // The rows are read anew, and the failure told, when they are next asked for.
+        return;
+    }
+    const auto found = std::find(rows.rowIds.begin(), rows.rowIds.end(), rowId);
+    current =
+        found != rows.rowIds.end() ? static_cast<int>(found - rows.rowIds.begin()) : std::clamp(place, -1, RowCount());
+}

@@ -1,0 +1,143 @@
+#pragma once
+
+#include "records/table_layout.h"
+#include "records/value.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class Database;
+class Statement;
+
+/// The rows of one table or stored query, with a current record. The rows are read once, when they are first asked for,
+/// and held in memory in their own order, so that a walk costs no query; every change is on disk before its call
+/// returns. A change by another copy of the program is seen at the next move to the first or last row; a list shows the
+/// own program's changes after a requery. All operations that read or write throw Failure.
+class RecordSet
+{
+public:
+    RecordSet();
+    ~RecordSet();
+    RecordSet(const RecordSet&) = delete;
+    RecordSet& operator=(const RecordSet&) = delete;
+
+    /// Opens a table or stored query, after proving that it is of that kind and has exactly these columns. No row is
+    /// read yet. Throws Failure.
+    void Open(Database& owner, const TableLayout& tableLayout);
+    void Close();
+
+    /// At-start and at-end: before the first and behind the last record. Both are true only when there are no rows.
+    bool Bof();
+    bool Eof();
+    bool IsEmpty() { return Bof() && Eof(); }
+    /// The number of rows.
+    int Count();
+
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    void MovePrevious();
+    /// Moves by a number of rows, backwards when it is negative; a move past either end stops just outside it.
+    void Move(int rows);
+
+    /// The field at a position of the current record, counted from 0. Texts live until the rows change.
+    Value Field(int position) const;
+    /// The same field as a number: a text by its leading number, nothing as 0.
+    double Number(int position) const;
+    /// The same field as a text, where it holds one; empty otherwise.
+    std::string_view Text(int position) const;
+    /// Whether the field at a position holds a flag that is set.
+    bool Flag(int position) const { return Number(position) != 0; }
+
+    /// Begin a new row, or the change of the current one; SetField fills it, Update stores it. Texts given to SetField
+    /// are copied. The current record stays where it is.
+    void AddNew();
+    void Edit();
+    void SetField(int position, const Value& value);
+    void Update();
+
+    /// Deletes the current record; the next move goes to its neighbour. A row that another copy of the program has
+    /// deleted already is no failure.
+    void Delete();
+
+    /// Reads the rows anew and moves to the first.
+    void Requery();
+
+    /// The number that a new row gets: that of the last row plus 1, or 1. It must be asked for inside a transaction.
+    std::int64_t NextNumber();
+
+private:
+    friend class Database;
+    friend class Transaction;
+
+    enum class CellKind : std::uint8_t
+    {
+        Nothing,
+        Whole,
+        Real,
+        Text
+    };
+    struct TextPlace
+    {
+        std::uint32_t offset;
+        std::uint32_t length;
+    };
+    struct Cell
+    {
+        union {
+            std::int64_t whole;
+            double real;
+            TextPlace text;
+        };
+        CellKind kind;
+    };
+    struct Rows
+    {
+        std::vector<Cell> cells;
+        std::vector<std::int64_t> rowIds;
+        std::vector<bool> deleted;
+        std::string texts;
+        int deletedCount = 0;
+    };
+    enum class Editing
+    {
+        No,
+        NewRow,
+        CurrentRow
+    };
+
+    int RowCount() const { return static_cast<int>(rows.deleted.size()); }
+    bool OnRecord() const { return loaded && current >= 0 && current < RowCount() && !rows.deleted[Index()]; }
+    std::size_t Index() const { return static_cast<std::size_t>(current); }
+    void Load();
+    void Refresh();
+    void DropDeletedRows();
+    void Step(int direction);
+    void TakeBackChanges();
+    void KeepChanges() { changed = false; }
+    Rows ReadRows() const;
+    Cell Stored(Rows& target, const Value& value) const;
+    Value Read(const Cell& cell) const;
+    void ProveLayout() const;
+    void StoreNewRow();
+    void StoreCurrentRow();
+    std::string Doing(const char* failed) const;
+
+    Database* database = nullptr;
+    TableLayout layout;
+    Rows rows;
+    std::int64_t loadedVersion = 0;
+    bool loaded = false;
+    bool changed = false;
+    int current = -1;
+
+    Editing editing = Editing::No;
+    std::vector<Value> edited;
+    std::vector<std::string> editedTexts;
+    std::unique_ptr<Statement> insertRow;
+    std::unique_ptr<Statement> updateRow;
+    std::unique_ptr<Statement> deleteRow;
+};

@@ -1,0 +1,48 @@
+#include "shell/introduction_page.h"
+
+#include "platform/card.h"
+#include "platform/click_label.h"
+#include "shell/menu_table.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel* Description(int label, const QString& text)
+{
+    QLabel* description = MakeLabel(text, TextRole::Body, ElementName(QStringLiteral("lab"), label));
+    description->setWordWrap(true);
+    description->setForegroundRole(QPalette::PlaceholderText);
+    return description;
+}
+
+} // namespace
+
+IntroductionPage::IntroductionPage(int group) : PageFrame(group, IntroductionOf(group).title)
+{
+    const Introduction& introduction = IntroductionOf(group);
+    Body()->addWidget(Description(introduction.aboutLabel, introduction.about));
+    auto* card = new Card;
+    auto* rows = new QGridLayout;
+    rows->setHorizontalSpacing(Spacing::Page);
+    rows->setVerticalSpacing(Spacing::Cards);
+    rows->setColumnStretch(1, 1);
+    for (const IntroductionOption& option : introduction.options) {
+        auto* label = new ClickLabel(FindSuboption(group, option.suboption)->caption);
+        label->setObjectName(ElementName(QStringLiteral("lab"), option.label));
+        label->setFont(FontFor(TextRole::Strong));
+        label->setAccessibleDescription(option.description);
+        connect(label, &QAbstractButton::clicked, this, [this, &option] { Q_EMIT SuboptionClicked(option.suboption); });
+        const int row = rows->rowCount();
+        rows->addWidget(label, row, 0, Qt::AlignTop);
+        rows->addWidget(Description(option.descriptionLabel, option.description), row, 1);
+    }
+    card->Content()->addLayout(rows);
+    Body()->addWidget(card);
+    Body()->addStretch(1);
+    auto* start = new ClickLabel(QStringLiteral("Go to Start Screen"));
+    start->setObjectName(ElementName(QStringLiteral("main"), group));
+    connect(start, &QAbstractButton::clicked, this, &IntroductionPage::StartScreenClicked);
+    Body()->addWidget(start);
+}

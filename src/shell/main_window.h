@@ -1,0 +1,42 @@
+#pragma once
+
+#include "shell/page_switch.h"
+#include "shell/page_table.h"
+
+#include <QWidget>
+
+#include <array>
+
+class MenuColumn;
+class PageArea;
+
+/// The main window, frmmain: the menu column and the page area, in which one page is shown at a time.
+class MainWindow : public QWidget, public PageSwitch
+{
+    Q_OBJECT
+
+public:
+    MainWindow();
+
+    void ChooseMenu(int group, int suboption) override;
+    void ShowPage(int index) override;
+    PageFrame* Page(int index) override;
+    void ShowStartPage() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Form_Load();
+    void BuildMenu();
+    void ShowPage();
+    void Button_Click(int group);
+    void Suboption_Click(int number);
+    void Exit_Click();
+
+    MenuColumn* menu;
+    PageArea* area;
+    std::array<PageFrame*, PageCount> Frame{};
+    int MenuGroup = 0;
+    int SelectedPage = 0;
+};

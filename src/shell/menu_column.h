@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class MenuButton;
+class SuboptionLabel;
+class QFrame;
+
+/// The menu column at the left of the main window (Leftframe): the logo, the five group buttons, the sub-options of the
+/// open group with the marker beside the chosen one, and the exit button.
+class MenuColumn : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MenuColumn(QWidget* parent = nullptr);
+
+    /// Places the buttons for the open group (0 for none) and shows its sub-options; nothing is marked.
+    void LayOut(int openGroup);
+
+    /// Moves the marker beside a sub-option (1 to 4).
+    void Mark(int suboption);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void LogoClicked();
+    void GroupClicked(int group);
+    void SuboptionClicked(int suboption);
+    void ExitClicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void PlaceChildren();
+    void OrderTabs();
+
+    int open = 0;
+    int marked = 0;
+    QWidget* logo;
+    std::array<MenuButton*, 5> buttons{};
+    std::array<SuboptionLabel*, 4> suboptions{};
+    QWidget* optionMark;
+    QFrame* line;
+    MenuButton* exit;
+};

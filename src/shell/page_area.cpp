@@ -1,0 +1,82 @@
+#include "shell/page_area.h"
+
+#include "platform/page_frame.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+
+PageArea::PageArea(QWidget* parent) : QWidget(parent)
+{
+    auto* loading = new QFrame(this);
+    loading->setObjectName(QStringLiteral("Loadingframe"));
+    loading->setAutoFillBackground(true);
+    auto* layout = new QVBoxLayout(loading);
+    layout->addStretch(1);
+    for (auto* label : {MakeLabel(QStringLiteral("Loading Data"), TextRole::Title, QStringLiteral("LFlabel1")),
+                        MakeLabel(QStringLiteral("Please wait"), TextRole::Body, QStringLiteral("LFlabel2"))}) {
+        label->setAlignment(Qt::AlignCenter);
+        layout->addWidget(label);
+    }
+    layout->addStretch(1);
+    Add(loading);
+    loading->show();
+}
+
+void PageArea::Add(QWidget* page)
+{
+    page->setParent(this);
+    page->setGeometry(rect());
+    pages.append({page, nullptr});
+    page->installEventFilter(this);
+    updateGeometry();
+}
+
+QSize PageArea::minimumSizeHint() const
+{
+    QSize size;
+    for (const Place& place : pages)
+        if (!place.page->isHidden())
+            size = size.expandedTo(place.page->minimumSizeHint());
+    return size;
+}
+
+void PageArea::resizeEvent(QResizeEvent* /*event*/)
+{
+    for (const Place& place : pages)
+        place.page->setGeometry(rect());
+}
+
+bool PageArea::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QWidget::event(event);
+}
+
+bool PageArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent ||
+        event->type() == QEvent::ZOrderChange)
+        EnableFrontPageOnly();
+    return QWidget::eventFilter(watched, event);
+}
+
+void PageArea::EnableFrontPageOnly()
+{
+    // Children are held in stacking order, the front one last.
+    const QWidget* front = nullptr;
+    for (const QObject* child : children())
+        if (const auto* page = qobject_cast<const QWidget*>(child); page != nullptr && !page->isHidden())
+            front = page;
+    for (Place& place : pages) {
+        const bool inFront = place.page == front;
+        if (place.page->isEnabled() == inFront || place.page->isHidden())
+            continue;
+        if (!inFront)
+            place.focusWhenCovered =
+                place.page->isAncestorOf(window()->focusWidget()) ? window()->focusWidget() : nullptr;
+        place.page->setEnabled(inFront);
+        if (inFront && place.focusWhenCovered != nullptr)
+            place.focusWhenCovered->setFocus();
+    }
+}

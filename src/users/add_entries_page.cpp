@@ -1,0 +1,212 @@
+#include "users/add_entries_page.h"
+
+#include "draws/ball_fields.h"
+#include "draws/game.h"
+#include "platform/card.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "platform/numbers.h"
+#include "shell/open_databases.h"
+#include "shell/page_switch.h"
+#include "users/day_boxes.h"
+#include "users/user_records.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+QComboBox* MakeList(const QString& name, const QString& caption)
+{
+    auto* list = new QComboBox;
+    list->setObjectName(name);
+    list->setAccessibleName(caption);
+    return list;
+}
+
+QStringList EntryCaptions()
+{
+    QStringList captions;
+    for (int slot = 0; slot < 6; ++slot)
+        captions.append(MainGame.BallCaption(slot));
+    return captions;
+}
+
+} // namespace
+
+AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
+    : PageFrame(18, QStringLiteral("Add New Entries")),
+      pages(pageSwitch),
+      F18user(MakeList(QStringLiteral("F18user"), QStringLiteral("User Name"))),
+      F18type(MakeList(QStringLiteral("F18type"), QStringLiteral("Draw Type"))),
+      F18ent(new BallFields(
+          {QStringLiteral("F18ent"), QStringLiteral("F18ball"), QStringLiteral("F18blab"), {1, 2, 3, 4, 5, 6}},
+          EntryCaptions())),
+      F18day(new DayBoxes({QStringLiteral("F18day"), QStringLiteral("F18selallday"), QStringLiteral("F18clearday")},
+                          QStringLiteral(" "))),
+      F18reset(new Button(QStringLiteral("Clear Ball Values"), QStringLiteral("F18reset")))
+{
+    BuildCards();
+    F18store = AddFooterDefault(QStringLiteral("Store"), QStringLiteral("F18store"));
+    ConnectGuarded(F18user, &QComboBox::activated, this, [this] { F18user_Click(); });
+    ConnectGuarded(F18type, &QComboBox::activated, this, [this] { F18type_Click(); });
+    ConnectGuarded(F18ent, &BallFields::Completed, this, [this] { F18store->setFocus(Qt::TabFocusReason); });
+    ConnectGuarded(F18reset, &QPushButton::clicked, this, [this] { F18reset_Click(); });
+    ConnectGuarded(F18store, &QPushButton::clicked, this, [this] { F18store_Click(); });
+}
+
+void AddEntriesPage::BuildCards()
+{
+    auto* userCard = new Card;
+    auto* form = new QGridLayout;
+    form->setHorizontalSpacing(Spacing::Cards);
+    form->setVerticalSpacing(Spacing::Inside);
+    form->addWidget(MakeLabel(QStringLiteral("User Name"), TextRole::Caption, QStringLiteral("F18label2")), 0, 0);
+    form->addWidget(F18user, 1, 0);
+    form->addWidget(MakeLabel(QStringLiteral("Draw Type"), TextRole::Caption, QStringLiteral("F18label3")), 0, 1);
+    form->addWidget(F18type, 1, 1);
+    for (const QString& text :
+         {QStringLiteral("This user has __ entries stored."), QStringLiteral("Your spend limit is £__"),
+          QStringLiteral("To alter limit, goto \"User Details\"")}) {
+        const int index = static_cast<int>(F18userdata.size());
+        F18userdata.push_back(MakeLabel(text, TextRole::Body, ElementName(QStringLiteral("F18userdata"), index)));
+        F18userdata.back()->setForegroundRole(QPalette::PlaceholderText);
+        form->addWidget(F18userdata.back(), 2 + index, 0, 1, 2);
+    }
+    form->setColumnStretch(0, 1);
+    form->setColumnStretch(1, 1);
+    userCard->Content()->addLayout(form);
+
+    auto* ballCard = new Card;
+    ballCard->Content()->addWidget(F18ent);
+    ballCard->Content()->addWidget(F18reset, 0, Qt::AlignLeft);
+
+    auto* dayCard = new Card;
+    dayCard->Content()->addWidget(
+        MakeLabel(QStringLiteral("Draw day for this entry"), TextRole::Caption, QStringLiteral("F18label4")));
+    dayCard->Content()->addWidget(F18day);
+
+    for (Card* card : {userCard, ballCard, dayCard})
+        Body()->addWidget(card);
+    Body()->addStretch(1);
+}
+
+void AddEntriesPage::Prepare()
+{
+    F18user->clear();
+    const std::vector<UserRow> allUsers = ReadAllUsers(users);
+    if (allUsers.empty()) {
+        pages.ChooseMenu(3, 1);
+        ShowMessage(QStringLiteral("You cannot store entries until you have created a user profile."));
+        return;
+    }
+    for (const UserRow& user : allUsers)
+        F18user->addItem(user.name);
+    F18user->setCurrentIndex(0);
+    F18user_Click();
+    F18type->clear();
+    F18type->addItems({MainGame.name, ThunderballGame.name});
+    F18type->setCurrentIndex(0);
+    F18type_Click();
+    ClearDrawDays();
+    show();
+}
+
+void AddEntriesPage::F18user_Click()
+{
+    if (!FindUserByName(users, F18user->currentText()))
+        return;
+    const UserRow user = ReadUser(users);
+    selectedUserNumber = user.number;
+    selectedUserLimit = user.spendLimit;
+    F18userdata[1]->setText(QStringLiteral("Your limit is ") + PlainNumber(selectedUserLimit) +
+                            QStringLiteral(" entries."));
+    entryCount = CountEntries(entries, selectedUserNumber);
+    F18userdata[0]->setText(entryCount > 0 ? QStringLiteral("This user has ") + PlainNumber(entryCount) +
+                                                 QStringLiteral(" entries stored.")
+                                           : QStringLiteral("This user has no entries stored."));
+    if (IsUpToLimit())
+        ShowMessage(QStringLiteral("This user is up to the spend limit.") + Crlf +
+                    QStringLiteral("Go to 'User Details' to change the spend limit, or choose another user."));
+}
+
+void AddEntriesPage::F18type_Click()
+{
+    if (F18type->currentText() == previousDrawType)
+        return;
+    previousDrawType = F18type->currentText();
+    F18ent->SetRule(AddingRule(ChosenGame()));
+    F18ent->Clear();
+    ClearDrawDays();
+    LayoutBalls();
+}
+
+void AddEntriesPage::LayoutBalls()
+{
+    const bool isMain = &ChosenGame() == &MainGame;
+    F18ent->SetLastApart(!isMain);
+    F18ent->SetCaption(5, isMain ? MainGame.BallCaption(5) : ThunderballGame.extraBallName);
+}
+
+void AddEntriesPage::F18reset_Click()
+{
+    F18ent->Clear();
+    F18ent->FocusField(0);
+}
+
+void AddEntriesPage::ClearDrawDays()
+{
+    F18day->SetAll(false);
+}
+
+const Game& AddEntriesPage::ChosenGame() const
+{
+    return F18type->currentText() == MainGame.name ? MainGame : ThunderballGame;
+}
+
+bool AddEntriesPage::IsUpToLimit() const
+{
+    return !MayStoreEntries(entryCount, 1, selectedUserLimit) && entryCount >= selectedUserLimit;
+}
+
+void AddEntriesPage::F18store_Click()
+{
+    if (IsUpToLimit()) {
+        ShowMessage(QStringLiteral("This user is up to the spend limit, so this entry has NOT been stored.") + Crlf +
+                    QStringLiteral("Go to 'User Details' to change the spend limit, or choose another user."));
+        return;
+    }
+    if (!IsPossibleEntry(ChosenGame(), F18ent->Numbers())) {
+        ShowMessage(QStringLiteral("Error detected in the data that you entered.") + Crlf +
+                    QStringLiteral("Please re-check and press 'Store' again."));
+        return;
+    }
+    F18ent->Sort(ChosenGame().mainBalls);
+    F18ent->Recolour();
+    if (!F18day->AnyTicked()) {
+        ShowMessage(QStringLiteral("You must specify at least ONE draw day. Please retry."));
+        return;
+    }
+    StoreEntry();
+    ShowMessage(QStringLiteral("This entry has been stored."));
+    F18user_Click();
+    previousDrawType.clear();
+    F18type_Click();
+}
+
+void AddEntriesPage::StoreEntry()
+{
+    EntryRow entry;
+    entry.userId = selectedUserNumber;
+    entry.drawType = ChosenGame().drawType;
+    entry.days = F18day->Days();
+    const std::vector<double> numbers = F18ent->Numbers();
+    std::copy(numbers.begin(), numbers.end(), entry.numbers.begin());
+    Transaction transaction(UserDb, "The entry could not be stored");
+    entry.number = entries.NextNumber();
+    AddEntry(entries, entry);
+    transaction.Commit();
+}

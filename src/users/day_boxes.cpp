@@ -1,0 +1,52 @@
+#include "users/day_boxes.h"
+
+#include "platform/dates.h"
+#include "platform/guard.h"
+#include "platform/page_frame.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+
+#include <algorithm>
+
+DayBoxes::DayBoxes(const Names& names, const QString& captionPrefix, QWidget* parent) : QWidget(parent)
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(Spacing::Page);
+    grid->setVerticalSpacing(Spacing::Between);
+    constexpr int rowsInColumn = 4;
+    for (int day = 0; day < 7; ++day) {
+        auto* box = new QCheckBox(captionPrefix + DayNames.at(static_cast<size_t>(day)));
+        box->setObjectName(ElementName(names.box, day));
+        box->setAccessibleName(DayNames.at(static_cast<size_t>(day)));
+        boxes.at(static_cast<size_t>(day)) = box;
+        connect(box, &QCheckBox::toggled, this, &DayBoxes::Changed);
+        grid->addWidget(box, day % rowsInColumn, day / rowsInColumn);
+    }
+    auto* selectAll = new Button(QStringLiteral("Select All"), names.selectAll);
+    auto* clearAll = new Button(QStringLiteral("Clear All"), names.clearAll);
+    ConnectGuarded(selectAll, &QPushButton::clicked, this, [this] { SetAll(true); });
+    ConnectGuarded(clearAll, &QPushButton::clicked, this, [this] { SetAll(false); });
+    grid->addWidget(selectAll, 0, 2, 2, 1, Qt::AlignVCenter);
+    grid->addWidget(clearAll, 2, 2, 2, 1, Qt::AlignVCenter);
+    grid->setColumnStretch(3, 1);
+}
+
+DaySet DayBoxes::Days() const
+{
+    DaySet days{};
+    std::transform(boxes.begin(), boxes.end(), days.begin(), [](const QCheckBox* box) { return box->isChecked(); });
+    return days;
+}
+
+bool DayBoxes::AnyTicked() const
+{
+    return std::any_of(boxes.begin(), boxes.end(), [](const QCheckBox* box) { return box->isChecked(); });
+}
+
+void DayBoxes::SetAll(bool ticked)
+{
+    for (QCheckBox* box : boxes)
+        box->setChecked(ticked);
+}

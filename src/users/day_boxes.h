@@ -1,0 +1,36 @@
+#pragma once
+
+#include "users/entry_row.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QCheckBox;
+
+/// The seven day check boxes, Monday to Sunday, with the buttons that tick and untick them all.
+class DayBoxes : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Names
+    {
+        QString box;
+        QString selectAll;
+        QString clearAll;
+    };
+
+    /// `captionPrefix` stands before every day's name.
+    DayBoxes(const Names& names, const QString& captionPrefix, QWidget* parent = nullptr);
+
+    DaySet Days() const;
+    bool AnyTicked() const;
+    void SetAll(bool ticked);
+
+Q_SIGNALS:
+    void Changed();
+
+private:
+    std::array<QCheckBox*, 7> boxes{};
+};

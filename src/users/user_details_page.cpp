@@ -1,0 +1,269 @@
+#include "users/user_details_page.h"
+
+#include "platform/card.h"
+#include "platform/failure.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "platform/numbers.h"
+#include "shell/open_databases.h"
+#include "users/user_records.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+QLineEdit* MakeBox(const QString& name)
+{
+    auto* box = new QLineEdit;
+    box->setObjectName(name);
+    box->setMaximumWidth(box->fontMetrics().averageCharWidth() * 48);
+    return box;
+}
+
+QString UserCountText(int count)
+{
+    if (count == 0)
+        return QStringLiteral("There are currently no users.");
+    if (count == 1)
+        return QStringLiteral("There is currently 1 user.");
+    return QStringLiteral("There are currently ") + SpacedNumber(count) + QStringLiteral(" users.");
+}
+
+/// False, and nothing is stored, when there is a user of that name already.
+bool StoreNewUser(const QString& name, double spendLimit)
+{
+    Transaction transaction(UserDb, "The new user could not be stored");
+    if (FindUserByName(users, name))
+        return false;
+    AddUser(users, name, spendLimit);
+    transaction.Commit();
+    return true;
+}
+
+void StoreUserChanges(std::int64_t number, const QString& name, double spendLimit)
+{
+    const std::string doing = "The changes of the user could not be stored";
+    Transaction transaction(UserDb, doing);
+    if (!FindUserByNumber(users, number))
+        throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
+    ChangeUser(users, name, spendLimit);
+    transaction.Commit();
+}
+
+void DeleteUserWithEntries(std::int64_t number)
+{
+    Transaction transaction(UserDb, "The user could not be deleted");
+    DeleteUserEntries(entries, number);
+    if (FindUserByNumber(users, number))
+        users.Delete();
+    transaction.Commit();
+}
+
+} // namespace
+
+UserDetailsPage::UserDetailsPage()
+    : PageFrame(11, QStringLiteral("User Details")),
+      F11label1(MakeLabel({}, TextRole::Body, QStringLiteral("F11label1"))),
+      F11list(new QListWidget),
+      F11label2(MakeLabel({}, TextRole::Caption, QStringLiteral("F11label2"))),
+      F11seluser(MakeBox(QStringLiteral("F11seluser"))),
+      F11spend(MakeBox(QStringLiteral("F11spend"))),
+      F11label4(MakeLabel(QStringLiteral("Current number of entries"), TextRole::Caption, QStringLiteral("F11label4"))),
+      F11entrycount(MakeBox(QStringLiteral("F11entrycount")))
+{
+    BuildCards();
+    F11adduser = AddFooterButton(QStringLiteral("Add New User"), QStringLiteral("F11adduser"));
+    F11edituser = AddFooterButton(QStringLiteral("Edit User"), QStringLiteral("F11edituser"));
+    F11deleteuser = AddFooterButton(QStringLiteral("Delete User"), QStringLiteral("F11deleteuser"));
+    ConnectHandlers();
+}
+
+void UserDetailsPage::BuildCards()
+{
+    auto* listCard = new Card;
+    listCard->Content()->addWidget(F11label1);
+    F11list->setObjectName(QStringLiteral("F11list"));
+    F11list->setAccessibleName(QStringLiteral("Users"));
+    listCard->Content()->addWidget(F11list, 1);
+
+    auto* userCard = new Card;
+    QVBoxLayout* form = userCard->Content();
+    form->setSpacing(Spacing::Inside);
+    const auto add = [form](QLabel* caption, QLineEdit* box) {
+        form->addWidget(caption);
+        form->addWidget(box);
+        form->addSpacing(Spacing::Between);
+    };
+    add(F11label2, F11seluser);
+    add(MakeLabel(QStringLiteral("Maximum number of entries"), TextRole::Caption, QStringLiteral("F11label3")),
+        F11spend);
+    add(F11label4, F11entrycount);
+    F11spend->setAccessibleName(QStringLiteral("Maximum number of entries"));
+    F11entrycount->setAccessibleName(F11label4->text());
+    F11entrycount->setReadOnly(true);
+    F11storenu = new Button(QStringLiteral("Store New User"), QStringLiteral("F11storenu"));
+    F11storech = new Button(QStringLiteral("Store Changes"), QStringLiteral("F11storech"));
+    for (Button* store : {F11storenu, F11storech}) {
+        store->MakeAccent();
+        form->addWidget(store, 0, Qt::AlignLeft);
+    }
+    form->addStretch(1);
+
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(Spacing::Cards);
+    cards->addWidget(listCard, 1);
+    cards->addWidget(userCard, 1);
+    Body()->addLayout(cards, 1);
+}
+
+void UserDetailsPage::ConnectHandlers()
+{
+    ConnectGuarded(F11list, &QListWidget::itemClicked, this, [this] { F11list_Click(); });
+    ConnectGuarded(F11list, &QListWidget::currentRowChanged, this, [this] { F11list_Click(); });
+    ConnectGuarded(F11adduser, &QPushButton::clicked, this, [this] { F11adduser_Click(); });
+    ConnectGuarded(F11edituser, &QPushButton::clicked, this, [this] { F11edituser_Click(); });
+    ConnectGuarded(F11deleteuser, &QPushButton::clicked, this, [this] { F11deleteuser_Click(); });
+    ConnectGuarded(F11storenu, &QPushButton::clicked, this, [this] { F11storenu_Click(); });
+    ConnectGuarded(F11storech, &QPushButton::clicked, this, [this] { F11storech_Click(); });
+    ConnectGuarded(F11seluser, &QLineEdit::returnPressed, this, [this] { F11spend->setFocus(Qt::TabFocusReason); });
+    ConnectGuarded(F11spend, &QLineEdit::returnPressed, this, [this] { F11spend_KeyPress(); });
+}
+
+void UserDetailsPage::Prepare()
+{
+    show();
+    SetMode(Mode::View);
+    FillList();
+    if (F11list->count() == 0)
+        F11adduser_Click();
+}
+
+void UserDetailsPage::FillList()
+{
+    // Filling is no click of the player's.
+    const QSignalBlocker quiet(F11list);
+    F11list->clear();
+    for (const UserRow& user : ReadAllUsers(users))
+        F11list->addItem(user.name);
+    F11list->setCurrentRow(-1);
+    F11label1->setText(UserCountText(F11list->count()));
+}
+
+void UserDetailsPage::SetMode(Mode newMode)
+{
+    mode = newMode;
+    const bool typing = mode != Mode::View;
+    for (QLineEdit* box : {F11seluser, F11spend}) {
+        box->setReadOnly(!typing);
+        if (mode != Mode::Edit)
+            box->clear();
+    }
+    F11entrycount->setVisible(mode != Mode::Add);
+    F11label4->setVisible(mode != Mode::Add);
+    if (mode != Mode::Edit)
+        F11entrycount->clear();
+    F11storenu->setVisible(mode == Mode::Add);
+    F11storech->setVisible(mode == Mode::Edit);
+    F11label2->setText(mode == Mode::View  ? QStringLiteral("Currently selected user")
+                       : mode == Mode::Add ? QStringLiteral("New users name")
+                                           : QStringLiteral("Updated users name"));
+    F11seluser->setAccessibleName(F11label2->text());
+    if (typing)
+        F11seluser->setFocus(Qt::TabFocusReason);
+}
+
+void UserDetailsPage::F11list_Click()
+{
+    if (F11list->currentItem() == nullptr || !FindUserByName(users, F11list->currentItem()->text()))
+        return;
+    const UserRow user = ReadUser(users);
+    selectedUserNumber = user.number;
+    entryCount = CountEntries(entries, user.number);
+    SetMode(Mode::View);
+    F11seluser->setText(user.name);
+    F11spend->setText(PlainNumber(user.spendLimit));
+    F11entrycount->setText(PlainNumber(entryCount));
+}
+
+void UserDetailsPage::F11adduser_Click()
+{
+    SetMode(Mode::Add);
+}
+
+void UserDetailsPage::F11edituser_Click()
+{
+    if (mode == Mode::Edit)
+        return;
+    if (F11list->currentItem() == nullptr) {
+        ShowMessage(QStringLiteral("Select a user first."));
+        return;
+    }
+    // Typing that was begun for a new user is dropped, as by a click on the list.
+    if (mode == Mode::Add)
+        F11list_Click();
+    editedUserName = F11seluser->text();
+    SetMode(Mode::Edit);
+}
+
+void UserDetailsPage::F11storenu_Click()
+{
+    if (!StoreNewUser(F11seluser->text(), NumericValue(F11spend->text()))) {
+        ShowMessage(QStringLiteral("There is already a user with this name.") + Crlf +
+                    QStringLiteral("Try another name and try again."));
+        return;
+    }
+    Prepare();
+}
+
+void UserDetailsPage::F11storech_Click()
+{
+    const QString name = F11seluser->text();
+    const double limit = NumericValue(F11spend->text());
+    if (name.isEmpty()) {
+        ShowMessage(QStringLiteral("Invalid user name, please retry."));
+        return;
+    }
+    if (name != editedUserName && NameIsTaken(name, selectedUserNumber)) {
+        ShowMessage(QStringLiteral("This user name has already been used, please retry"));
+        return;
+    }
+    if (limit < entryCount) {
+        ShowMessage(QStringLiteral("This user already has more entries than you have specified as the maximum.") +
+                    Crlf + QStringLiteral("Change the maximum limit or delete some entries, then retry."));
+        return;
+    }
+    StoreUserChanges(selectedUserNumber, name, limit);
+    Prepare();
+}
+
+void UserDetailsPage::F11deleteuser_Click()
+{
+    if (F11list->currentItem() == nullptr) {
+        ShowMessage(QStringLiteral("Select a user first."));
+        return;
+    }
+    if (!AskYesNo(QStringLiteral("Are you sure you want to delete this user") + Crlf +
+                  QStringLiteral("and all entries stored with it?")))
+        return;
+    DeleteUserWithEntries(selectedUserNumber);
+    Prepare();
+}
+
+void UserDetailsPage::F11spend_KeyPress()
+{
+    if (mode == Mode::Add)
+        F11storenu->setFocus(Qt::TabFocusReason);
+    else if (mode == Mode::Edit)
+        F11storech->setFocus(Qt::TabFocusReason);
+}
+
+bool UserDetailsPage::NameIsTaken(const QString& name, std::int64_t exceptUser) const
+{
+    for (const UserRow& user : ReadAllUsers(users))
+        if (user.number != exceptUser && user.name == name)
+            return true;
+    return false;
+}

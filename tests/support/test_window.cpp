@@ -1,0 +1,224 @@
+#include "support/test_window.h"
+
+#include "draws/draw_tables.h"
+#include "draws/game.h"
+#include "platform/style.h"
+#include "records/database_creation.h"
+#include "records/record_set.h"
+#include "shell/shut_down.h"
+#include "users/user_tables.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+
+ModalWindows::ModalWindows()
+{
+    connect(&timer, &QTimer::timeout, this, &ModalWindows::Look);
+    timer.start(2);
+}
+
+void ModalWindows::WillPress(QMessageBox::StandardButton button)
+{
+    expected.emplace_back([button](QDialog& dialog) {
+        auto* box = qobject_cast<QMessageBox*>(&dialog);
+        if (box == nullptr || box->button(button) == nullptr)
+            return false;
+        QTest::mouseClick(box->button(button), Qt::LeftButton);
+        return true;
+    });
+}
+
+void ModalWindows::WillDo(std::function<void(QDialog&)> action)
+{
+    expected.emplace_back([action = std::move(action)](QDialog& dialog) {
+        if (qobject_cast<QMessageBox*>(&dialog) != nullptr)
+            return false;
+        action(dialog);
+        return true;
+    });
+}
+
+QList<SeenBox> ModalWindows::TakeSeen()
+{
+    return std::exchange(seen, {});
+}
+
+QStringList ModalWindows::TakeTexts()
+{
+    QStringList texts;
+    for (const SeenBox& box : TakeSeen())
+        texts.append(box.text);
+    return texts;
+}
+
+void ModalWindows::Look()
+{
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || dialog == answered || !dialog->isVisible())
+        return;
+    answered = dialog;
+    if (const auto* box = qobject_cast<QMessageBox*>(dialog))
+        seen.append({box->windowTitle(), box->text(), box->icon(), box->standardButtons(),
+                     box->standardButton(box->defaultButton())});
+    std::function<bool(QDialog&)> action;
+    if (!expected.empty()) {
+        action = std::move(expected.front());
+        expected.pop_front();
+    }
+    if (!action || !action(*dialog)) {
+        ++unforeseen;
+        qWarning("Not foreseen: %s",
+                 qPrintable(dialog->windowTitle() + u' ' + (seen.isEmpty() ? QString() : seen.last().text)));
+        dialog->reject();
+    }
+}
+
+TestFolder::TestFolder(Content content)
+{
+    SetProgramDir(folder.path().toStdString());
+    if (content == Content::Starter) {
+        for (const char* name : {"drawdata.tv3", "userdata.tv3"})
+            QFile::copy(QStringLiteral(TAVENOR_STARTER "/") + QLatin1String(name),
+                        folder.filePath(QLatin1String(name)));
+        return;
+    }
+    // One file serves all tests of a program, so that its key is derived once.
+    static const QTemporaryDir emptyFiles;
+    const QString draws = emptyFiles.filePath(QStringLiteral("drawdata.tv3"));
+    if (!QFile::exists(draws))
+        CreateDatabase(draws.toStdString(), DrawConnect,
+                       {DrawTable(MainGame), DrawTable(ThunderballGame), LinksTable()},
+                       {{DrawList(MainGame), DrawTable(MainGame).name},
+                        {DrawList(ThunderballGame), DrawTable(ThunderballGame).name}});
+    QFile::copy(draws, folder.filePath(QStringLiteral("drawdata.tv3")));
+    CreateDatabase(UserDataPath, {}, {UsersTable(), EntriesTable()}, {});
+}
+
+TestFolder::~TestFolder()
+{
+    DrawDb.Close();
+    UserDb.Close();
+}
+
+QStringList TestFolder::Files() const
+{
+    return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+QStringList TestFolder::StoredRows(const QString& table)
+{
+    const bool ofUsers = table == QLatin1String("users") || table == QLatin1String("entries");
+    // A copy is read: a second descriptor of the live file would drop the engine's locks when it is closed.
+    const QTemporaryDir copies;
+    const QString copy = copies.filePath(QStringLiteral("copy"));
+    QFile::copy(QString::fromStdString((ofUsers ? UserDataPath : DrawDataPath).string()), copy);
+    Database database;
+    database.Open(copy.toStdString(), ofUsers ? std::string() : DrawConnect);
+    TableLayout layout;
+    for (const TableLayout& known : {DrawTable(MainGame), DrawTable(ThunderballGame), DrawList(MainGame),
+                                     DrawList(ThunderballGame), LinksTable(), UsersTable(), EntriesTable()})
+        if (QString::fromStdString(known.name) == table)
+            layout = known;
+    RecordSet set;
+    set.Open(database, layout);
+    QStringList rows;
+    for (set.MoveFirst(); !set.Eof(); set.MoveNext()) {
+        QStringList fields;
+        for (int position = 0; position < layout.ColumnCount(); ++position) {
+            const Value value = set.Field(position);
+            if (const auto* whole = std::get_if<std::int64_t>(&value))
+                fields.append(QString::number(*whole));
+            else if (const auto* real = std::get_if<double>(&value))
+                fields.append(QString::number(*real, 'g', 17));
+            else if (const auto* text = std::get_if<std::string_view>(&value))
+                fields.append(QString::fromUtf8(text->data(), static_cast<qsizetype>(text->size())));
+            else
+                fields.append(QStringLiteral("(nothing)"));
+        }
+        rows.append(fields.join(u','));
+    }
+    return rows;
+}
+
+TestWindow::TestWindow(TestFolder::Content content) : files(content)
+{
+    EndProcess = [this] { ended = true; };
+    OpenDatabaseFiles();
+    window = std::make_unique<MainWindow>();
+    window->show();
+    if (!QTest::qWaitForWindowActive(window.get()))
+        qFatal("The window was not shown");
+}
+
+TestWindow::~TestWindow()
+{
+    window.reset();
+}
+
+void TestWindow::Settle()
+{
+    QApplication::processEvents();
+    // There is no window manager that would give the focus back when a message box has closed.
+    if (QApplication::activeWindow() == nullptr) {
+        window->activateWindow();
+        QApplication::processEvents();
+    }
+}
+
+QString TestWindow::TextOf(const QString& name) const
+{
+    if (const auto* label = qobject_cast<QLabel*>(Find(name)))
+        return label->text();
+    if (const auto* edit = qobject_cast<QLineEdit*>(Find(name)))
+        return edit->text();
+    if (const auto* button = qobject_cast<QAbstractButton*>(Find(name)))
+        return button->text();
+    return Find(name)->property("text").toString();
+}
+
+void TestWindow::Click(const QString& name)
+{
+    QTest::mouseClick(Find(name), Qt::LeftButton);
+    Settle();
+}
+
+void TestWindow::Type(const QString& name, const QString& text)
+{
+    auto* edit = Find<QLineEdit>(name);
+    QTest::mouseClick(edit, Qt::LeftButton);
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, text);
+}
+
+void TestWindow::Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(Find(name), key, modifiers);
+    Settle();
+}
+
+void TestWindow::PressFocused(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+    Settle();
+}
+
+QString TestWindow::FocusedName() const
+{
+    return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
+}
+
+QColor TestWindow::ColourOf(const QString& name, QPalette::ColorRole role) const
+{
+    return Find(name)->palette().color(role);
+}
+
+int RunTests(QObject& tests, int count, char** arguments)
+{
+    QApplication::setStyle(new Style);
+    return QTest::qExec(&tests, count, arguments);
+}

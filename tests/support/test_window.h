@@ -1,0 +1,133 @@
+#pragma once
+
+#include "shell/main_window.h"
+#include "shell/open_databases.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+/// What a message box said before it was answered.
+struct SeenBox
+{
+    QString title;
+    QString text;
+    QMessageBox::Icon icon;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton defaultButton;
+};
+
+/// Answers the program's modal windows in the order in which the test foresees them. A window that nobody foresaw is
+/// noted and closed, so that a test fails instead of hanging.
+class ModalWindows : public QObject
+{
+    Q_OBJECT
+
+public:
+    ModalWindows();
+
+    /// The next modal window is a message box, and this button of it is pressed.
+    void WillPress(QMessageBox::StandardButton button);
+    /// The next modal window is a dialog of the program's own; the action works in it and closes it.
+    void WillDo(std::function<void(QDialog&)> action);
+
+    /// The message boxes seen since this was last asked.
+    QList<SeenBox> TakeSeen();
+    /// Their texts only.
+    QStringList TakeTexts();
+    /// Whether every foreseen window has come, and no other.
+    bool AllCame() const { return expected.empty() && unforeseen == 0; }
+
+private:
+    void Look();
+
+    std::deque<std::function<bool(QDialog&)>> expected;
+    QList<SeenBox> seen;
+    QPointer<QDialog> answered;
+    int unforeseen = 0;
+    QTimer timer;
+};
+
+/// The files of one test: a folder of its own with databases in it, in which the program works.
+class TestFolder
+{
+public:
+    enum class Content
+    {
+        Empty,
+        Starter
+    };
+
+    explicit TestFolder(Content content);
+    ~TestFolder();
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    QString Path(const QString& file) const { return folder.filePath(file); }
+    QStringList Files() const;
+
+    /// Every row of a table, as the file holds it, read by a connection of its own: fields joined by commas.
+    static QStringList StoredRows(const QString& table);
+
+private:
+    QTemporaryDir folder;
+};
+
+/// The real main window on the files of one test, with what is needed to press its keys and read its labels.
+class TestWindow
+{
+public:
+    explicit TestWindow(TestFolder::Content content = TestFolder::Content::Empty);
+    ~TestWindow();
+    TestWindow(const TestWindow&) = delete;
+    TestWindow& operator=(const TestWindow&) = delete;
+
+    MainWindow& Window() { return *window; }
+    /// The control of that object name; the test fails where there is none.
+    template <typename Type = QWidget>
+    Type* Find(const QString& name) const
+    {
+        auto* found = window->findChild<Type*>(name);
+        if (found == nullptr)
+            qFatal("There is no control named %s", qPrintable(name));
+        return found;
+    }
+    QString TextOf(const QString& name) const;
+    bool IsShown(const QString& name) const { return Find(name)->isVisible(); }
+    void Click(const QString& name);
+    /// Clicks into a text field, replaces its text by typing, and leaves it alone.
+    void Type(const QString& name, const QString& text);
+    void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void PressFocused(Qt::Key key);
+    QString FocusedName() const;
+    QColor ColourOf(const QString& name, QPalette::ColorRole role) const;
+
+    TestFolder files;
+    ModalWindows modals;
+    bool ended = false;
+
+private:
+    void Settle();
+
+    std::unique_ptr<MainWindow> window;
+};
+
+/// Sets up the application as the program does, and runs the tests of one class.
+int RunTests(QObject& tests, int count, char** arguments);
+
+#define TAVENOR_TEST_MAIN(TestClass)                                                                                   \
+    int main(int count, char** arguments)                                                                              \
+    {                                                                                                                  \
+        QApplication application(count, arguments);                                                                    \
+        TestClass tests;                                                                                               \
+        return RunTests(tests, count, arguments);                                                                      \
+    }
