@@ -39,17 +39,20 @@ Card* MakeGroup(const QString& caption, const QString& captionName, const QStrin
     return card;
 }
 
-void AddOptions(Card* card, std::initializer_list<QRadioButton*> options)
+void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRadioButton*> options)
 {
+    auto* frame = new QWidget;
+    frame->setObjectName(frameName);
     auto* group = new QButtonGroup(card);
-    auto* row = new QHBoxLayout;
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Spacing::Between);
     for (QRadioButton* option : options) {
         group->addButton(option);
         row->addWidget(option);
     }
     row->addStretch(1);
-    card->Content()->addLayout(row);
+    card->Content()->addWidget(frame);
 }
 
 } // namespace
@@ -93,10 +96,10 @@ void CheckPage::BuildCards()
 
     Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
     userCard->Content()->addWidget(F12user);
-    Card* typeCard = MakeGroup(QStringLiteral("Draw Type"), QStringLiteral("F12label2"), QStringLiteral("F12frame1"));
-    AddOptions(typeCard, {F12typem, F12typet, F12typeb});
+    Card* typeCard = MakeGroup(QStringLiteral("Draw Type"), QStringLiteral("F12label2"), QString());
+    AddOptions(typeCard, QStringLiteral("F12frame1"), {F12typem, F12typet, F12typeb});
     Card* dateCard = MakeGroup(QStringLiteral("Date"), QStringLiteral("F12label3"), QStringLiteral("F12shape2"));
-    AddOptions(dateCard, {F12datelatest, F12dateselect});
+    AddOptions(dateCard, QStringLiteral("F12frame2"), {F12datelatest, F12dateselect});
     dateCard->Content()->addWidget(F12cal);
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);

@@ -17,7 +17,7 @@ void ConnectGuarded(const Sender* sender, Signal signal, const QObject* context,
         Guard([&] {
             if constexpr (std::is_invocable_v<const Handler&, decltype(arguments)...>)
                 handler(arguments...);
-            else
+            else if constexpr (std::is_invocable_v<const Handler&>)
                 handler();
         });
     });
