@@ -1,0 +1,12 @@
+#pragma once
+
+#include "analysis/charts.h"
+
+class RecordSet;
+
+/// Walks the record set from its first record to its end and takes the balls of the given slots. Throws Failure.
+DrawnBalls ReadDrawnBalls(RecordSet& draws, SlotRange slots);
+
+/// What the chart is counted from, in one walk over its source: the game's draws in their own order or newest first.
+/// Throws Failure.
+ChartRows ReadChartRows(const Chart& chart);
