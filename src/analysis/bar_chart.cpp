@@ -1,5 +1,6 @@
 #include "analysis/bar_chart.h"
 
+#include "analysis/bar_colours.h"
 #include "platform/theme.h"
 
 #include <QBarCategoryAxis>
@@ -7,7 +8,6 @@
 #include <QChart>
 #include <QEvent>
 #include <QFontMetricsF>
-#include <QGraphicsLayout>
 #include <QGraphicsSimpleTextItem>
 #include <QLegend>
 #include <QMouseEvent>
@@ -74,28 +74,6 @@ qreal DigitMiddle(const QFont& font)
 
 } // namespace
 
-QColor FillOf(BarColour colour)
-{
-    switch (colour) {
-    case BarColour::LightBlue:
-        return QColor("#8CC8F5");
-    case BarColour::LightGreen:
-        return QColor("#8EDB9A");
-    case BarColour::LightRed:
-        return QColor("#F28B82");
-    case BarColour::Yellow:
-        return QColor("#F5E27A");
-    case BarColour::White:
-        break;
-    }
-    return QColor("#FFFFFF");
-}
-
-QColor OutlineOf(const QColor& fill)
-{
-    return fill.darker(fill.lightness() > 250 ? 170 : 145);
-}
-
 BarChart::BarChart(QWidget* parent)
     : QChartView(parent),
       series(new QStackedBarSeries),
@@ -114,13 +92,9 @@ BarChart::BarChart(QWidget* parent)
     chart()->addAxis(valueAxis, Qt::AlignLeft);
     series->attachAxis(barAxis);
     series->attachAxis(valueAxis);
-    // The axes cut long rows of labels short, so that labels and figures are placed here.
-    for (QAbstractAxis* axis : {static_cast<QAbstractAxis*>(barAxis), static_cast<QAbstractAxis*>(valueAxis)})
-        axis->setLabelsVisible(false);
-    barAxis->setGridLineVisible(false);
-    // Its line would come with a tick between any two bars.
-    barAxis->setLineVisible(false);
-    valueAxis->setLineVisible(false);
+    // The axes cut long rows of labels short and lose lines at their ends, so that all but the bars is placed here.
+    barAxis->setVisible(false);
+    valueAxis->setVisible(false);
     baseLine->setZValue(chart()->zValue() + 1);
 }
 
@@ -158,7 +132,6 @@ void BarChart::FillSeries()
     for (const ChartBar& bar : bars)
         barAxis->append(bar.label);
     valueAxis->setRange(0, axisEnd);
-    valueAxis->setTickCount(axisEnd / axisStep + 1);
 }
 
 void BarChart::FillTexts()
@@ -177,8 +150,13 @@ void BarChart::FillTexts()
         add(labels, ChartText::Label, bar.label);
         add(figures, ChartText::Figure, QString::number(bar.value));
     }
-    for (int value = 0; value <= axisEnd; value += axisStep)
+    qDeleteAll(gridLines);
+    gridLines.clear();
+    for (int value = 0; value <= axisEnd; value += axisStep) {
+        gridLines.append(scene()->addLine({}));
+        gridLines.back()->setZValue(chart()->zValue() - 1);
         add(axisNumbers, ChartText::AxisNumber, QString::number(value));
+    }
 }
 
 void BarChart::LayOut()
@@ -188,22 +166,17 @@ void BarChart::LayOut()
     const QFont caption = FontFor(TextRole::Caption);
     const qreal line = QFontMetricsF(FontFor(TextRole::Body)).height();
     plot = QRectF(viewport()->rect());
-    plot.setLeft(plot.left() + WidestOf(axisNumbers, caption) + 2 * Gap);
-    plot.setRight(plot.right() - Gap);
-    plot.setBottom(plot.bottom() - line - Gap);
+    plot.adjust(WidestOf(axisNumbers, caption) + 3 * Gap, Gap, -2 * Gap, -line - 2 * Gap);
     // The figure over a bar that reaches the end of the axis stands above the plot.
     const qreal figure = qMax(line, WidestOf(figures, caption)) + Gap;
     const qreal spare = (plot.height() - figure) * (axisEnd - highest) / axisEnd;
     plot.setTop(plot.top() + qMax(line / 2, figure - spare));
     chart()->setPlotArea(plot);
-    // The axes take the new place only when the chart lays itself out anew.
-    chart()->layout()->invalidate();
-    chart()->layout()->activate();
     baseLine->setLine(QLineF(plot.bottomLeft(), plot.bottomRight()));
     series->setBarWidth(qMin(BarShare, WidestBar / ColumnWidth()));
     PlaceLabels();
     PlaceFigures();
-    PlaceAxisNumbers();
+    PlaceAxis();
 }
 
 void BarChart::PlaceLabels()
@@ -220,8 +193,10 @@ void BarChart::PlaceFigures()
     const QFont caption = FontFor(TextRole::Caption);
     const bool turned = WidestOf(figures, caption) > ColumnWidth() - 2;
     const qreal line = QFontMetricsF(caption).height();
-    const QFont font =
+    QFont font =
         turned ? Scaled(caption, qMin(1.0, ColumnWidth() / line * 0.99)) : FontThatFits(figures, ColumnWidth());
+    // Digits fitted to the pixels of a level line would stand unevenly on a turned one.
+    font.setHintingPreference(turned ? QFont::PreferNoHinting : QFont::PreferDefaultHinting);
     for (int bar = 0; bar < figures.size(); ++bar) {
         QGraphicsSimpleTextItem* figure = figures[bar];
         const QPointF top = TopOf(bar);
@@ -235,13 +210,14 @@ void BarChart::PlaceFigures()
     }
 }
 
-void BarChart::PlaceAxisNumbers()
+void BarChart::PlaceAxis()
 {
     const QFont font = FontFor(TextRole::Caption);
     for (int step = 0; step < axisNumbers.size(); ++step) {
+        const qreal y = plot.bottom() - plot.height() * step * axisStep / axisEnd;
+        gridLines[step]->setLine(QLineF(plot.left(), y, plot.right(), y));
         axisNumbers[step]->setFont(font);
-        axisNumbers[step]->setPos(plot.left() - Gap - axisNumbers[step]->boundingRect().width(),
-                                  plot.bottom() - plot.height() * step * axisStep / axisEnd - DigitMiddle(font));
+        axisNumbers[step]->setPos(plot.left() - Gap - axisNumbers[step]->boundingRect().width(), y - DigitMiddle(font));
     }
 }
 
@@ -264,7 +240,8 @@ void BarChart::TakeColours()
     for (const QList<QGraphicsSimpleTextItem*>& texts : {figures, axisNumbers})
         for (QGraphicsSimpleTextItem* text : texts)
             text->setBrush(theme.secondaryText);
-    valueAxis->setGridLineColor(theme.cardLine);
+    for (QGraphicsLineItem* line : gridLines)
+        line->setPen(QPen(theme.cardLine, 1));
     baseLine->setPen(QPen(theme.secondaryText, 1));
 }
 

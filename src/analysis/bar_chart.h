@@ -44,7 +44,7 @@ private:
     void LayOut();
     void PlaceLabels();
     void PlaceFigures();
-    void PlaceAxisNumbers();
+    void PlaceAxis();
     void TakeColours();
     qreal ColumnWidth() const;
     QPointF TopOf(int bar) const;
@@ -57,14 +57,9 @@ private:
     QBarCategoryAxis* barAxis;
     QValueAxis* valueAxis;
     QGraphicsLineItem* baseLine;
+    QList<QGraphicsLineItem*> gridLines;
     QRectF plot;
     QList<QGraphicsSimpleTextItem*> labels;
     QList<QGraphicsSimpleTextItem*> figures;
     QList<QGraphicsSimpleTextItem*> axisNumbers;
 };
-
-/// The softened colour in which bars of that palette colour are filled.
-QColor FillOf(BarColour colour);
-
-/// The line around a bar, dark enough to set a white bar off from the card.
-QColor OutlineOf(const QColor& fill);

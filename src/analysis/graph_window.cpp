@@ -23,7 +23,8 @@ GraphWindow::GraphWindow(QWidget* parent)
       description(MakeLabel({}, TextRole::Body, QStringLiteral("description"))),
       typelabel(MakeLabel(QStringLiteral("Ball type to count"), TextRole::Caption, QStringLiteral("typelabel"))),
       balltype(new QComboBox),
-      graph(new BarChart)
+      graph(new BarChart),
+      back(new Button(QStringLiteral("BACK"), QStringLiteral("back")))
 {
     setObjectName(QStringLiteral("frmgraph"));
     setWindowTitle(ApplicationTitle);
@@ -56,8 +57,8 @@ void GraphWindow::BuildLayout()
     head->addLayout(choice);
 
     auto* card = new Card;
+    card->Content()->setContentsMargins(Spacing::Inside, Spacing::Inside, Spacing::Inside, Spacing::Inside);
     card->Content()->addWidget(graph);
-    auto* back = new Button(QStringLiteral("BACK"), QStringLiteral("back"));
     // back_Click.
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -83,6 +84,7 @@ void GraphWindow::PrepareChart(int chartNumber)
             {QStringLiteral("Main balls only"), QStringLiteral("Bonus balls only"), QStringLiteral("All balls")});
         balltype->setCurrentIndex(static_cast<int>(ballType));
     }
+    (hasOption ? static_cast<QWidget*>(balltype) : back)->setFocus();
     title->setText(chart->Title());
     graph->setAccessibleName(QStringLiteral("Bar chart, %1").arg(chart->Title()));
     rows = ReadChartRows(*chart);

@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class BarChart;
+class Button;
 class QComboBox;
 class QLabel;
 
@@ -37,4 +38,5 @@ private:
     QLabel* typelabel;
     QComboBox* balltype;
     BarChart* graph;
+    Button* back;
 };

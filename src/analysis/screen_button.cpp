@@ -1,7 +1,7 @@
 #include "analysis/screen_button.h"
 
 #include "analysis/analysis_screens.h"
-#include "analysis/bar_chart.h"
+#include "analysis/bar_colours.h"
 #include "draws/ball_colours.h"
 #include "draws/game.h"
 #include "platform/theme.h"
