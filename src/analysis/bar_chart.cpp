@@ -193,10 +193,8 @@ void BarChart::PlaceFigures()
     const QFont caption = FontFor(TextRole::Caption);
     const bool turned = WidestOf(figures, caption) > ColumnWidth() - 2;
     const qreal line = QFontMetricsF(caption).height();
-    QFont font =
+    const QFont font =
         turned ? Scaled(caption, qMin(1.0, ColumnWidth() / line * 0.99)) : FontThatFits(figures, ColumnWidth());
-    // Digits fitted to the pixels of a level line would stand unevenly on a turned one.
-    font.setHintingPreference(turned ? QFont::PreferNoHinting : QFont::PreferDefaultHinting);
     for (int bar = 0; bar < figures.size(); ++bar) {
         QGraphicsSimpleTextItem* figure = figures[bar];
         const QPointF top = TopOf(bar);

@@ -5,8 +5,7 @@
 #include "platform/numbers.h"
 
 #include <algorithm>
-#include <cmath>
-#include <string>
+#include <limits>
 
 namespace {
 
@@ -109,37 +108,18 @@ constexpr Chart Charts[] = {
      NoPhrases},
 };
 
-/// The values of the bars while they are counted.
-class Tally
+/// The highest ball of both games.
+constexpr int HighestBall = 49;
+
+constexpr int NotYet = std::numeric_limits<int>::max();
+
+/// A bar numbered by a value; 0 for a value that numbers none.
+int NumberedBar(double value, int bars)
 {
-public:
-    Tally(int bars, int start) : values(static_cast<size_t>(bars), start) {}
-
-    /// The bar that a value numbers, or nullptr where there is none.
-    int* BarOf(double value)
-    {
-        if (!IsWholeBetween(value, 1, static_cast<int>(values.size())))
-            return nullptr;
-        return &values[static_cast<size_t>(value) - 1];
-    }
-    void AddTo(double value)
-    {
-        if (int* bar = BarOf(value))
-            ++*bar;
-    }
-    std::vector<int> Take() { return std::move(values); }
-
-private:
-    std::vector<int> values;
-};
-
-template <typename Action>
-void ForEachBall(const DrawnBalls& balls, SlotRange counted, Action action)
-{
-    const int draws = balls.Draws();
-    for (int draw = 0; draw < draws; ++draw)
-        for (int slot = counted.first; slot < counted.end; ++slot)
-            action(draw, balls.At(draw, slot));
+    if (!(value >= 1 && value <= bars))
+        return 0;
+    const int whole = static_cast<int>(value);
+    return whole == value ? whole : 0;
 }
 
 int ColourBar(double ball)
@@ -152,59 +132,19 @@ int ColourBar(double ball)
 
 int OddOrEvenBar(double ball)
 {
-    return ball / 2 == std::trunc(ball / 2) ? 2 : 1;
+    // Numbers too large for the conversion are whole and even anyhow.
+    constexpr double largest = 9007199254740992.0;
+    const double half = ball / 2;
+    const bool isWhole = !(half > -largest && half < largest) || half == static_cast<double>(static_cast<qint64>(half));
+    return isWhole ? 2 : 1;
 }
 
-std::vector<int> CountDrawsSince(int bars, const DrawnBalls& balls, SlotRange counted)
+int BallSetBar(std::string_view ballSet, int bars)
 {
-    // A ball that never came is as old as the history is long; so is, until it comes, every other.
-    const int draws = balls.Draws();
-    Tally tally(bars, draws);
-    ForEachBall(balls, counted, [&](int draw, double ball) {
-        if (int* bar = tally.BarOf(ball); bar != nullptr && *bar == draws)
-            *bar = draw;
-    });
-    return tally.Take();
-}
-
-std::vector<int> CountMachines(int bars, std::span<const std::string_view> machines)
-{
-    std::vector<std::string> names;
-    for (const QString& name : MachineNames)
-        names.push_back(name.toStdString());
-    std::vector<int> values(static_cast<size_t>(bars), 0);
-    for (const std::string_view machine : machines) {
-        const auto found = std::find(names.begin(), names.end(), machine);
-        if (found != names.end())
-            ++values[static_cast<size_t>(found - names.begin())];
-    }
-    return values;
-}
-
-std::vector<int> CountValues(const Chart& chart, const ChartRows& rows, BallType type)
-{
-    const SlotRange counted = SlotsOf(*chart.game, type);
-    Tally tally(chart.bars, 0);
-    switch (chart.subject) {
-    case ChartSubject::Balls:
-        ForEachBall(rows.balls, counted, [&](int /*draw*/, double ball) { tally.AddTo(ball); });
-        break;
-    case ChartSubject::Colours:
-        ForEachBall(rows.balls, counted, [&](int /*draw*/, double ball) { tally.AddTo(ColourBar(ball)); });
-        break;
-    case ChartSubject::OddAndEven:
-        ForEachBall(rows.balls, counted, [&](int /*draw*/, double ball) { tally.AddTo(OddOrEvenBar(ball)); });
-        break;
-    case ChartSubject::DrawsSince:
-        return CountDrawsSince(chart.bars, rows.balls, counted);
-    case ChartSubject::Machines:
-        return CountMachines(chart.bars, rows.texts);
-    case ChartSubject::BallSets:
-        for (const std::string_view ballSet : rows.texts)
-            tally.AddTo(NumericValue(ballSet));
-        break;
-    }
-    return tally.Take();
+    // Nearly every set is one digit, and reading any number takes as long as the walk itself.
+    if (ballSet.size() == 1)
+        return NumberedBar(ballSet.front() - '0', bars);
+    return NumberedBar(NumericValue(ballSet), bars);
 }
 
 } // namespace
@@ -238,11 +178,102 @@ const Chart& FindChart(int number)
                          [&](const Chart& chart) { return chart.number == number; });
 }
 
-std::vector<ChartBar> CountBars(const Chart& chart, const ChartRows& rows, BallType type)
+ChartCount::ChartCount(const Chart& countedChart)
+    : chart(&countedChart), mainBalls(static_cast<size_t>(chart->bars) + 1), extraBall(mainBalls)
 {
-    const std::vector<int> values = CountValues(chart, rows, type);
+    if (chart->subject == ChartSubject::DrawsSince) {
+        const SlotRange slots = chart->SlotsRead();
+        for (int slot : {slots.first, slots.end - 1})
+            std::fill(TallyOf(slot).begin() + 1, TallyOf(slot).end(), NotYet);
+        for (const Tally* tally : {&mainBalls, &extraBall})
+            missing += static_cast<int>(std::count(tally->begin(), tally->end(), NotYet));
+    }
+    // No two machines begin with the same letter, so that one comparison a draw tells them apart.
+    for (size_t bar = 1; bar < machines.size(); ++bar) {
+        machines.at(bar) = MachineNames.at(bar - 1).toStdString();
+        machineByLetter.at(static_cast<unsigned char>(machines.at(bar).front())) = static_cast<std::uint8_t>(bar);
+    }
+}
+
+ChartCount::Tally& ChartCount::TallyOf(int slot)
+{
+    return chart->game->IsExtra(slot) ? extraBall : mainBalls;
+}
+
+template <typename BarOf>
+void ChartCount::CountDraws(const DrawnBalls& balls, BarOf barOf)
+{
+    // Balls are first counted by their numbers, which is the quickest; only what is no ball goes to its bar at once.
+    const int newDraws = balls.Draws();
+    for (int slot = balls.slots.first; slot < balls.slots.end; ++slot) {
+        std::array<int, HighestBall + 1> numbers{};
+        Tally& tally = TallyOf(slot);
+        for (int draw = 0; draw < newDraws; ++draw) {
+            const double ball = balls.At(draw, slot);
+            if (const int number = NumberedBar(ball, HighestBall); number != 0)
+                ++numbers[static_cast<size_t>(number)];
+            else
+                ++tally[static_cast<size_t>(barOf(ball))];
+        }
+        for (int number = 1; number <= HighestBall; ++number)
+            tally[static_cast<size_t>(barOf(number))] += numbers[static_cast<size_t>(number)];
+    }
+}
+
+void ChartCount::CountDrawsSince(const DrawnBalls& balls)
+{
+    const int newDraws = balls.Draws();
+    for (int draw = 0; draw < newDraws && missing > 0; ++draw) {
+        for (int slot = balls.slots.first; slot < balls.slots.end; ++slot) {
+            int& since = TallyOf(slot)[static_cast<size_t>(NumberedBar(balls.At(draw, slot), chart->bars))];
+            if (since != NotYet)
+                continue;
+            since = draws + draw;
+            --missing;
+        }
+    }
+}
+
+void ChartCount::AddDraws(const DrawnBalls& balls)
+{
+    if (chart->subject == ChartSubject::Colours)
+        CountDraws(balls, ColourBar);
+    else if (chart->subject == ChartSubject::OddAndEven)
+        CountDraws(balls, OddOrEvenBar);
+    else if (chart->subject == ChartSubject::DrawsSince)
+        CountDrawsSince(balls);
+    else
+        CountDraws(balls, [bars = chart->bars](double ball) { return NumberedBar(ball, bars); });
+    draws += balls.Draws();
+}
+
+void ChartCount::AddText(std::string_view text)
+{
+    const int bar = chart->subject == ChartSubject::Machines ? MachineBar(text) : BallSetBar(text, chart->bars);
+    ++mainBalls[static_cast<size_t>(bar)];
+    ++draws;
+}
+
+int ChartCount::MachineBar(std::string_view machine) const
+{
+    const size_t bar = machine.empty() ? 0 : machineByLetter[static_cast<unsigned char>(machine.front())];
+    return bar != 0 && machines[bar] == machine ? static_cast<int>(bar) : 0;
+}
+
+int ChartCount::Value(int bar, BallType type) const
+{
+    const int main = mainBalls[static_cast<size_t>(bar)];
+    const int extra = extraBall[static_cast<size_t>(bar)];
+    if (chart->subject != ChartSubject::DrawsSince)
+        return (type == BallType::ExtraBall ? 0 : main) + (type == BallType::MainBalls ? 0 : extra);
+    // A ball that never came is as old as the history is long.
+    return std::min({draws, type == BallType::ExtraBall ? NotYet : main, type == BallType::MainBalls ? NotYet : extra});
+}
+
+std::vector<ChartBar> ChartCount::Bars(BallType type) const
+{
     std::vector<ChartBar> bars;
-    for (int bar = 1; bar <= chart.bars; ++bar)
-        bars.push_back({chart.label(bar), chart.colour(bar), values[static_cast<size_t>(bar) - 1]});
+    for (int bar = 1; bar <= chart->bars; ++bar)
+        bars.push_back({chart->label(bar), chart->colour(bar), Value(bar, type)});
     return bars;
 }

@@ -87,20 +87,20 @@ void GraphWindow::PrepareChart(int chartNumber)
     (hasOption ? static_cast<QWidget*>(balltype) : back)->setFocus();
     title->setText(chart->Title());
     graph->setAccessibleName(QStringLiteral("Bar chart, %1").arg(chart->Title()));
-    rows = ReadChartRows(*chart);
+    count = CountChart(*chart);
     ComputeChart();
 }
 
 void GraphWindow::ComputeChart()
 {
     description->setText(chart->Description(ballType));
-    aborted = rows.IsEmpty();
+    aborted = count->IsEmpty();
     if (aborted) {
         ShowMessage(QStringLiteral("There are no draws in the database."));
         reject();
         return;
     }
-    graph->ShowBars(CountBars(*chart, rows, ballType));
+    graph->ShowBars(count->Bars(ballType));
 }
 
 void GraphWindow::balltype_Click(int index)

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <optional>
+
 class BarChart;
 class Button;
 class QComboBox;
@@ -31,7 +33,7 @@ private:
 
     const Chart* chart = nullptr;
     BallType ballType = BallType::AllBalls;
-    ChartRows rows;
+    std::optional<ChartCount> count;
     bool aborted = false;
     QLabel* title;
     QLabel* description;

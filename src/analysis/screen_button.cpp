@@ -55,8 +55,8 @@ void ScreenButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF card = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen(CurrentTheme().cardLine, 1));
+    const QRectF card = QRectF(rect()).adjusted(1, 1, -1, -1);
+    painter.setPen(hasFocus() ? QPen(CurrentTheme().accent, 2) : QPen(CurrentTheme().cardLine, 1));
     painter.setBrush(CurrentTheme().card);
     painter.drawRoundedRect(card, Corner, Corner);
     const QRectF picture = card.adjusted(Spacing::Between, Spacing::Between, -Spacing::Between, -Spacing::Between);
