@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/charts.h"
+#include "analysis/chart_count.h"
 
 #include <QDialog>
 
