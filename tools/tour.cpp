@@ -1,5 +1,8 @@
 // Walks the real program through its pages and writes a picture of each: tour STARTER-FOLDER PICTURE-FOLDER [dark]
 
+#include "analysis/charts.h"
+#include "analysis/graph_window.h"
+#include "platform/page_frame.h"
 #include "platform/style.h"
 #include "platform/theme.h"
 #include "shell/main_window.h"
@@ -22,9 +25,48 @@ struct Stop
 };
 
 constexpr Stop Stops[] = {
-    {"start", 0, 0},   {"group_1", 1, 0},  {"group_2", 2, 0},         {"group_3", 3, 0},      {"group_4", 4, 0},
-    {"group_5", 5, 0}, {"add_main", 1, 1}, {"add_thunderball", 1, 2}, {"user_details", 3, 1},
+    {"start", 0, 0},
+    {"group_1", 1, 0},
+    {"group_2", 2, 0},
+    {"group_3", 3, 0},
+    {"group_4", 4, 0},
+    {"group_5", 5, 0},
+    {"add_main", 1, 1},
+    {"add_thunderball", 1, 2},
+    {"user_details", 3, 1},
+    {"analysis_main", 5, 1},
+    {"analysis_thunderball", 5, 2},
 };
+
+/// The pages that lie over the page of another menu choice.
+struct LaidOver
+{
+    const char* picture;
+    int group;
+    int suboption;
+    int page;
+};
+
+constexpr LaidOver PagesLaidOver[] = {
+    {"ball_data_main", 5, 1, 23},
+    {"ball_data_thunderball", 5, 2, 24},
+};
+
+void Save(QWidget& shown, const QDir& pictures, const QString& picture)
+{
+    QApplication::processEvents();
+    shown.grab().save(pictures.filePath(picture + QStringLiteral(".png")));
+}
+
+void VisitCharts(MainWindow& window, const QDir& pictures)
+{
+    for (const Chart& chart : AllCharts()) {
+        GraphWindow frmgraph(&window);
+        frmgraph.PrepareChart(chart.number);
+        frmgraph.show();
+        Save(frmgraph, pictures, QStringLiteral("chart_%1").arg(chart.number));
+    }
+}
 
 } // namespace
 
@@ -53,8 +95,16 @@ int main(int count, char** arguments)
             window.ShowStartPage();
         else
             window.ChooseMenu(stop.group, stop.suboption);
-        QApplication::processEvents();
-        window.grab().save(pictures.filePath(QLatin1String(stop.picture) + QStringLiteral(".png")));
+        Save(window, pictures, QLatin1String(stop.picture));
     }
+    for (const LaidOver& page : PagesLaidOver) {
+        window.ChooseMenu(page.group, page.suboption);
+        window.Page(page.page)->Prepare();
+        Save(window, pictures, QLatin1String(page.picture));
+    }
+    window.ChooseMenu(5, 1);
+    window.findChild<QWidget*>(QStringLiteral("F21screen_2"))->setFocus(Qt::TabFocusReason);
+    Save(window, pictures, QStringLiteral("analysis_main_pointed_at"));
+    VisitCharts(window, pictures);
     return 0;
 }

@@ -88,7 +88,7 @@ QFont FontFor(TextRole role)
         scale = 24.0 / 14;
         font.setWeight(QFont::DemiBold);
         break;
-    case TextRole::Display:
+    case TextRole::Product:
         scale = 44.0 / 14;
         font.setWeight(QFont::Bold);
         break;

@@ -53,6 +53,6 @@ enum class TextRole
     Strong,
     Heading,
     Title,
-    Display
+    Product
 };
 QFont FontFor(TextRole role);

@@ -1,5 +1,7 @@
 #include "shell/page_table.h"
 
+#include "analysis/analysis_page.h"
+#include "analysis/ball_data_page.h"
 #include "checking/check_page.h"
 #include "draws/add_draw_page.h"
 #include "draws/game.h"
@@ -16,6 +18,10 @@ constexpr PageTableRow Pages[] = {
     {11, [](PageSwitch&) -> PageFrame* { return new UserDetailsPage; }, true},
     {12, [](PageSwitch& pages) -> PageFrame* { return new CheckPage(pages); }, true},
     {18, [](PageSwitch& pages) -> PageFrame* { return new AddEntriesPage(pages); }, true},
+    {21, [](PageSwitch& pages) -> PageFrame* { return new AnalysisPage(MainGame, pages); }, true},
+    {22, [](PageSwitch& pages) -> PageFrame* { return new AnalysisPage(ThunderballGame, pages); }, true},
+    {23, [](PageSwitch&) -> PageFrame* { return new BallDataPage(MainGame); }, false},
+    {24, [](PageSwitch&) -> PageFrame* { return new BallDataPage(ThunderballGame); }, false},
 };
 
 } // namespace

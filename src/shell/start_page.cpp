@@ -43,7 +43,7 @@ StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pa
     welcome->setForegroundRole(QPalette::PlaceholderText);
     Body()->addWidget(Centred(welcome));
     Body()->addWidget(new LogoPicture, 0, Qt::AlignHCenter);
-    Body()->addWidget(Centred(MakeLabel(QStringLiteral("Tavenor"), TextRole::Display)));
+    Body()->addWidget(Centred(MakeLabel(QStringLiteral("Tavenor"), TextRole::Product)));
     QLabel* hint =
         MakeLabel(QStringLiteral("Click on the buttons to the left to get a description of what it does.  Click "
                                  "the Tavenor logo above the buttons to return to this page."),

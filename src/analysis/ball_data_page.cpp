@@ -1,0 +1,157 @@
+#include "analysis/ball_data_page.h"
+
+#include "analysis/draw_history.h"
+#include "draws/ball_colours.h"
+#include "draws/draw_records.h"
+#include "draws/game.h"
+#include "platform/card.h"
+#include "platform/dates.h"
+#include "platform/guard.h"
+#include "shell/open_databases.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+
+namespace {
+
+int PageOf(const Game& game)
+{
+    return game.drawType == MainGame.drawType ? 23 : 24;
+}
+
+/// The draw at a place of the list, counted from 0. The list stands behind its last record and is left there: a move
+/// from there reads nothing anew, so that the places are those of the walk before.
+DrawRow DrawAt(RecordSet& list, int place, const Game& game)
+{
+    const int back = list.Count() - place;
+    list.Move(-back);
+    const DrawRow draw = ReadDraw(list, game);
+    list.Move(back);
+    return draw;
+}
+
+QString Utf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void ShowIn(const LabelledBall& disc, const Game& game, int slot, int ball)
+{
+    const BallColours colours = ColoursOfBall(game, slot, ball);
+    disc.Show(TwoDigits(ball), QColor(colours.ball), QColor(colours.number));
+}
+
+} // namespace
+
+BallDataPage::BallDataPage(const Game& drawGame)
+    : PageFrame(PageOf(drawGame), QStringLiteral("Individual Ball Data")),
+      game(drawGame),
+      enter(new QLineEdit),
+      mainBall(MakeLabelledBall(ControlName("ball"), ControlName("number"), nullptr))
+{
+    if (!game.extraFromSameMachine)
+        extraBall = MakeLabelledBall(ControlName("ball2"), ControlName("number2"), nullptr);
+    BuildCards();
+    Button* backButton = AddFooterButton(QStringLiteral("BACK"), ControlName("back"));
+    SetBackButton(backButton);
+    ConnectGuarded(enter, &QLineEdit::textChanged, this, [this] { enter_Change(); });
+    ConnectGuarded(enter, &QLineEdit::returnPressed, this, [this] { enter_KeyPress(); });
+    // F23back_Click, F24back_Click.
+    ConnectGuarded(backButton, &QPushButton::clicked, this, [this] { hide(); });
+}
+
+void BallDataPage::BuildCards()
+{
+    QLabel* subtitle = MakeLabel(game.name + QStringLiteral(" Draw"), TextRole::Heading, ControlName("titlelabel2"));
+    subtitle->setForegroundRole(QPalette::PlaceholderText);
+    Body()->addWidget(subtitle);
+
+    enter->setObjectName(ControlName("enter"));
+    enter->setAccessibleName(QStringLiteral("Ball Number"));
+    enter->setFont(FontFor(TextRole::Heading));
+    enter->setAlignment(Qt::AlignCenter);
+    enter->setFixedWidth(enter->fontMetrics().averageCharWidth() * 12);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Spacing::Between);
+    row->addWidget(MakeLabel(QStringLiteral("Enter"), TextRole::Body, ControlName("label1")));
+    row->addWidget(MakeLabel(QStringLiteral("Ball Number"), TextRole::Strong, ControlName("label2")));
+    row->addWidget(enter);
+    row->addSpacing(Spacing::Page);
+    row->addWidget(mainBall.disc);
+    if (extraBall.disc != nullptr)
+        row->addWidget(extraBall.disc);
+    row->addStretch(1);
+    auto* entryCard = new Card;
+    entryCard->Content()->addLayout(row);
+    Body()->addWidget(entryCard);
+
+    auto* box = new Card;
+    box->setObjectName(ControlName("box"));
+    for (int index = 1; index <= 4; ++index) {
+        QLabel*& sentence = data.at(static_cast<size_t>(index) - 1);
+        sentence = MakeLabel({}, TextRole::Body, ElementName(ControlName("data"), index));
+        sentence->setWordWrap(true);
+        sentence->setMinimumHeight(sentence->fontMetrics().lineSpacing());
+        if (index == 3)
+            box->Content()->addSpacing(Spacing::Cards);
+        box->Content()->addWidget(sentence);
+    }
+    Body()->addWidget(box);
+    Body()->addStretch(1);
+}
+
+void BallDataPage::Prepare()
+{
+    // A text that does not change would fill nothing.
+    enter->clear();
+    enter->setText(QStringLiteral("1"));
+    enter->clear();
+    ShowInFront();
+    enter->setFocus();
+}
+
+void BallDataPage::enter_Change()
+{
+    if (const std::optional<int> ball = TypedBall(game, enter->text()))
+        ShowBallData(*ball);
+}
+
+void BallDataPage::enter_KeyPress()
+{
+    enter_Change();
+    enter->clear();
+}
+
+void BallDataPage::ShowBallData(int ball)
+{
+    const DrawnBalls balls = ReadDrawnBalls(DrawListOf(game), SlotsOf(game, BallType::AllBalls));
+    ShowIn(mainBall, game, 0, ball);
+    ShowRole(MainBallRole(game), balls, ball, data[0], data[1]);
+    const bool canBeExtra = ball <= game.highestExtra;
+    if (extraBall.disc != nullptr) {
+        ShowIn(extraBall, game, game.mainBalls, ball);
+        extraBall.disc->setVisible(canBeExtra);
+        extraBall.number->setVisible(canBeExtra);
+    }
+    if (canBeExtra) {
+        ShowRole(ExtraBallRole(game), balls, ball, data[2], data[3]);
+    } else {
+        data[2]->clear();
+        data[3]->clear();
+    }
+}
+
+void BallDataPage::ShowRole(const BallRole& role, const DrawnBalls& balls, int ball, QLabel* lastDrawn, QLabel* count)
+{
+    const BallAppearances found = FindBall(balls, role.slots, ball);
+    DrawRow draw;
+    if (found.drawsAgo)
+        draw = DrawAt(DrawListOf(game), *found.drawsAgo, game);
+    lastDrawn->setText(LastDrawnSentence(role, found.drawsAgo, Utf8(draw.day), DateFromIso(draw.date)));
+    count->setText(CountSentence(role, found.count));
+}
+
+QString BallDataPage::ControlName(const char* name) const
+{
+    return QStringLiteral("F%1%2").arg(PageOf(game)).arg(QLatin1String(name));
+}

@@ -1,0 +1,9 @@
+#include "analysis/drawn_balls.h"
+
+#include "draws/game.h"
+
+SlotRange SlotsOf(const Game& game, BallType type)
+{
+    return {type == BallType::ExtraBall ? game.mainBalls : 0,
+            type == BallType::MainBalls ? game.mainBalls : game.BallCount()};
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+struct Game;
+
+/// Which balls of a draw are looked at. The values are the places in the list that the player chooses from.
+enum class BallType
+{
+    MainBalls = 0,
+    ExtraBall = 1,
+    AllBalls = 2
+};
+
+/// Some neighbouring slots of a draw: from `first` up to, but not including, `end`.
+struct SlotRange
+{
+    int first = 0;
+    int end = 0;
+
+    int Count() const { return end - first; }
+};
+
+SlotRange SlotsOf(const Game& game, BallType type);
+
+/// The balls of many draws in the order of their rows, one draw behind the other; only the given slots are held.
+struct DrawnBalls
+{
+    SlotRange slots;
+    std::vector<double> values;
+
+    int Draws() const { return slots.Count() == 0 ? 0 : static_cast<int>(values.size()) / slots.Count(); }
+    /// The ball of a draw, counted from 0, in a slot that is held.
+    double At(int draw, int slot) const
+    {
+        return values[static_cast<std::size_t>(draw) * static_cast<std::size_t>(slots.Count()) +
+                      static_cast<std::size_t>(slot - slots.first)];
+    }
+};

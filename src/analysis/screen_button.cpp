@@ -1,0 +1,133 @@
+#include "analysis/screen_button.h"
+
+#include "analysis/analysis_screens.h"
+#include "analysis/bar_colours.h"
+#include "draws/ball_colours.h"
+#include "draws/game.h"
+#include "platform/theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <array>
+
+namespace {
+
+constexpr qreal Corner = 8;
+
+// Heights of the example bars, in hundredths. Those of "how long since" are many low ones and a few high ones.
+constexpr std::array<int, 17> CountHeights{71, 76, 68, 83, 64, 79, 88, 73, 95, 67, 81, 59, 86, 75, 92, 70, 78};
+constexpr std::array<int, 17> SinceHeights{22, 6, 47, 14, 31, 3, 68, 11, 19, 39, 8, 95, 26, 5, 54, 16, 12};
+
+int ExampleHeight(ChartSubject subject, int bar)
+{
+    const auto& heights = subject == ChartSubject::DrawsSince ? SinceHeights : CountHeights;
+    return heights.at(static_cast<size_t>(bar) % heights.size());
+}
+
+} // namespace
+
+ScreenButton::ScreenButton(const Game& drawGame, const AnalysisScreen& shownScreen, const QString& name)
+    : game(drawGame), screen(shownScreen)
+{
+    setObjectName(name);
+    setText(QLatin1String(screen.title));
+    setAccessibleName(text());
+    setAccessibleDescription(screen.Description());
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMaximumSize(320, 230);
+}
+
+QSize ScreenButton::sizeHint() const
+{
+    return {160, 115};
+}
+
+QSize ScreenButton::minimumSizeHint() const
+{
+    return {120, 86};
+}
+
+void ScreenButton::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF card = QRectF(rect()).adjusted(1, 1, -1, -1);
+    painter.setPen(hasFocus() ? QPen(CurrentTheme().accent, 2) : QPen(CurrentTheme().cardLine, 1));
+    painter.setBrush(CurrentTheme().card);
+    painter.drawRoundedRect(card, Corner, Corner);
+    const QRectF picture = card.adjusted(Spacing::Between, Spacing::Between, -Spacing::Between, -Spacing::Between);
+    if (screen.chart == 0)
+        DrawBallData(painter, picture);
+    else
+        DrawChart(painter, picture);
+}
+
+void ScreenButton::DrawChart(QPainter& painter, const QRectF& picture) const
+{
+    const Chart& chart = FindChart(screen.chart);
+    painter.setPen(QPen(CurrentTheme().cardLine, 1));
+    for (int line = 0; line <= 3; ++line) {
+        const qreal y = picture.top() + picture.height() * line / 4;
+        painter.drawLine(QPointF(picture.left(), y), QPointF(picture.right(), y));
+    }
+    const qreal column = picture.width() / chart.bars;
+    const qreal width = qMin(column * 0.8, 34.0);
+    for (int bar = 1; bar <= chart.bars; ++bar) {
+        const QColor fill = FillOf(chart.colour(bar));
+        const qreal height = picture.height() * ExampleHeight(chart.subject, bar) / 100;
+        painter.setPen(QPen(OutlineOf(fill), qMin(1.0, column / 6)));
+        painter.setBrush(fill);
+        painter.drawRect(
+            QRectF(picture.left() + column * (bar - 0.5) - width / 2, picture.bottom() - height, width, height));
+    }
+    painter.setPen(QPen(CurrentTheme().secondaryText, 1));
+    painter.drawLine(picture.bottomLeft(), picture.bottomRight());
+}
+
+void ScreenButton::DrawBallData(QPainter& painter, const QRectF& picture) const
+{
+    constexpr int exampleBall = 12;
+    const BallColours colours = ColoursOfBall(game, 0, exampleBall);
+    const qreal side = picture.height() * 0.5;
+    const QRectF disc(picture.center().x() - side / 2, picture.top(), side, side);
+    painter.setPen(QPen(OutlineOf(QColor(colours.ball)), 1));
+    painter.setBrush(QColor(colours.ball));
+    painter.drawEllipse(disc);
+    QFont digits = FontFor(TextRole::Strong);
+    digits.setPixelSize(qRound(side * 0.45));
+    painter.setFont(digits);
+    painter.setPen(QColor(colours.number));
+    painter.drawText(disc, Qt::AlignCenter, QString::number(exampleBall));
+    painter.setPen(QPen(CurrentTheme().secondaryText, 2, Qt::SolidLine, Qt::RoundCap));
+    const std::array<qreal, 3> lengths{0.86, 0.6, 0.74};
+    for (size_t line = 0; line < lengths.size(); ++line) {
+        const qreal y = picture.top() + picture.height() * (0.66 + 0.15 * static_cast<qreal>(line));
+        painter.drawLine(QPointF(picture.left() + picture.width() * 0.07, y),
+                         QPointF(picture.left() + picture.width() * (0.07 + lengths.at(line)), y));
+    }
+}
+
+void ScreenButton::mouseMoveEvent(QMouseEvent* event)
+{
+    QAbstractButton::mouseMoveEvent(event);
+    Q_EMIT PointedAt();
+}
+
+void ScreenButton::focusInEvent(QFocusEvent* event)
+{
+    QAbstractButton::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        Q_EMIT PointedAt();
+}
+
+void ScreenButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}

@@ -1,0 +1,174 @@
+#include "analysis/stored_draws.h"
+#include "support/test_window.h"
+
+namespace {
+
+/// Opens the ball data page by its screen on the analysis menu.
+void Open(TestWindow& window, int page)
+{
+    window.Click("Button5");
+    window.Click(page == 23 ? "Suboption1" : "Suboption2");
+    window.Click(page == 23 ? "F21screen_7" : "F22screen_5");
+}
+
+QStringList Sentences(const TestWindow& window, int page)
+{
+    QStringList sentences;
+    for (int index = 1; index <= 4; ++index)
+        sentences.append(window.TextOf(QString("F%1data_%2").arg(page).arg(index)));
+    return sentences;
+}
+
+/// The two sentences on one role, from the rows that the list's file holds.
+QStringList PlainSentences(const QList<QStringList>& draws, int firstField, int lastField, int ball,
+                           const QString& role)
+{
+    int count = 0;
+    QString last = "This ball has never been drawn as " + role + ".";
+    for (int draw = 0; draw < draws.size(); ++draw) {
+        const QStringList& fields = draws[draw];
+        if (!fields.mid(firstField, lastField - firstField + 1).contains(QString::number(ball)))
+            continue;
+        if (++count == 1)
+            last =
+                QString("This ball was last drawn as %1 %2 draws ago, on %3 %4.")
+                    .arg(role, QString::number(draw), fields[2],
+                         QLocale(QLocale::English).toString(QDate::fromString(fields[1], Qt::ISODate), "d MMMM yyyy"));
+    }
+    return {last, count == 0 ? QString() : QString("This ball has been drawn %1 times as %2.").arg(count).arg(role)};
+}
+
+} // namespace
+
+class BallDataPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EveryBallOfTheRealHistoryIsTold_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::newRow("Main") << 23;
+        QTest::newRow("Thunderball") << 24;
+    }
+
+    void EveryBallOfTheRealHistoryIsTold()
+    {
+        QFETCH(int, page);
+        const bool isMain = page == 23;
+        TestWindow window(TestFolder::Content::Starter);
+        Open(window, page);
+        QList<QStringList> draws;
+        for (const QString& row : TestFolder::StoredRows(isMain ? "ukmainlist" : "ukthunderlist"))
+            draws.append(row.split(u','));
+        const QString prefix = QString("F%1").arg(page);
+        for (int ball = 1; ball <= (isMain ? 49 : 34); ++ball) {
+            window.Type(prefix + "enter", QString::number(ball));
+            QStringList expected = PlainSentences(draws, 3, isMain ? 8 : 7, ball, "a main ball");
+            if (isMain)
+                expected += PlainSentences(draws, 9, 9, ball, "the bonus ball");
+            else
+                expected += ball <= 14 ? PlainSentences(draws, 8, 8, ball, "the thunderball") : QStringList{"", ""};
+            QCOMPARE(Sentences(window, page), expected);
+            QCOMPARE(window.TextOf(prefix + "number"), (ball < 10 ? "0" : "") + QString::number(ball));
+            if (!isMain) {
+                QCOMPARE(window.IsShown("F24ball2"), ball <= 14);
+                QCOMPARE(window.IsShown("F24number2"), ball <= 14);
+            }
+        }
+    }
+
+    void SentencesAreLetterForLetter()
+    {
+        TestWindow window;
+        Open(window, 24);
+        const QString neverMain = "This ball has never been drawn as a main ball.";
+        QCOMPARE(Sentences(window, 24),
+                 (QStringList{neverMain, "", "This ball has never been drawn as the thunderball.", ""}));
+        Open(window, 23);
+        QCOMPARE(Sentences(window, 23).first(), neverMain);
+        window.Type("F23enter", "1");
+        window.Click("F23back");
+        StoreDraw(MainGame, QDate(2000, 1, 5), {1, 2, 3, 4, 5, 6, 7});
+        StoreDraw(MainGame, QDate(2000, 1, 15), {1, 12, 13, 14, 15, 16, 7});
+        for (const int day : {19, 22})
+            StoreDraw(MainGame, QDate(2000, 1, day), {21, 22, 23, 24, 25, 26, 27});
+        // As the page opens it tells anew of ball 1, and its box waits for a number.
+        window.Click("F21screen_7");
+        QCOMPARE(Sentences(window, 23),
+                 (QStringList{"This ball was last drawn as a main ball 2 draws ago, on Sat 15 January 2000.",
+                              "This ball has been drawn 2 times as a main ball.",
+                              "This ball has never been drawn as the bonus ball.", ""}));
+        QCOMPARE(window.TextOf("F23enter"), QString());
+        QCOMPARE(window.FocusedName(), QString("F23enter"));
+        window.Type("F23enter", "7");
+        QCOMPARE(Sentences(window, 23),
+                 (QStringList{neverMain, "",
+                              "This ball was last drawn as the bonus ball 2 draws ago, on Sat 15 January 2000.",
+                              "This ball has been drawn 2 times as the bonus ball."}));
+        window.Type("F23enter", "21");
+        QCOMPARE(Sentences(window, 23).first(),
+                 QString("This ball was last drawn as a main ball 0 draws ago, on Sat 22 January 2000."));
+    }
+
+    void WholePartOfTheTypedNumberCounts_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QColor>("disc");
+        struct Row
+        {
+            int page;
+            const char* typed;
+            const char* shown;
+            const char* disc;
+        };
+        // What is no ball of the game leaves the ball 3, typed before, or that of the number's first digit.
+        for (const Row& row :
+             {Row{23, "10", "10", "#80FFFF"}, Row{23, "29", "29", "#FF8080"}, Row{23, "30", "30", "#80FF80"},
+              Row{23, "49.9", "49", "#FFFF80"}, Row{23, "7.9", "07", "#FFFFFF"}, Row{23, "8x", "08", "#FFFFFF"},
+              Row{23, " 9", "09", "#FFFFFF"}, Row{23, "0", "03", "#FFFFFF"}, Row{23, "0.9", "03", "#FFFFFF"},
+              Row{23, "-5", "03", "#FFFFFF"}, Row{23, "abc", "03", "#FFFFFF"}, Row{23, "50", "05", "#FFFFFF"},
+              Row{24, "34", "34", "#000080"}, Row{24, "35", "03", "#000080"}})
+            QTest::addRow("%s on page %d", row.typed, row.page)
+                << row.page << QString(row.typed) << QString(row.shown) << QColor(row.disc);
+    }
+
+    void WholePartOfTheTypedNumberCounts()
+    {
+        QFETCH(int, page);
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        QFETCH(QColor, disc);
+        TestWindow window;
+        Open(window, page);
+        const QString prefix = QString("F%1").arg(page);
+        window.Type(prefix + "enter", "3");
+        window.Type(prefix + "enter", typed);
+        QCOMPARE(window.TextOf(prefix + "number"), shown);
+        QCOMPARE(window.ColourOf(prefix + "ball", QPalette::Window), disc);
+        window.Press(prefix + "enter", Qt::Key_Return);
+        QCOMPARE(window.TextOf(prefix + "number"), shown);
+        QCOMPARE(window.TextOf(prefix + "enter"), QString());
+    }
+
+    void BackAndEscapeUncoverTheMenu()
+    {
+        TestWindow window;
+        for (const bool byEscape : {false, true}) {
+            Open(window, 23);
+            QVERIFY(window.IsShown("Frame_21"));
+            if (byEscape)
+                window.Press("F23enter", Qt::Key_Escape);
+            else
+                window.Click("F23back");
+            QVERIFY(!window.IsShown("Frame_23"));
+            QVERIFY(window.IsShown("Frame_21"));
+            QCOMPARE(window.TextOf("F21title"), QString("Individual Ball Data"));
+        }
+    }
+};
+
+TAVENOR_TEST_MAIN(BallDataPageTest)
+#include "ball_data_page_test.moc"

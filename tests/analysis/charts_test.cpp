@@ -1,0 +1,233 @@
+#include "analysis/stored_draws.h"
+#include "support/test_window.h"
+
+#include "analysis/draw_history.h"
+#include "draws/draw_tables.h"
+
+#include <cmath>
+#include <random>
+
+namespace {
+
+/// What may stand in a ball's field of a file that another hand has written.
+const std::vector<Value> OddBalls{std::monostate(),
+                                  std::int64_t{0},
+                                  std::int64_t{77},
+                                  std::int64_t{-4},
+                                  3.5,
+                                  std::string_view("abc"),
+                                  std::string_view("9x"),
+                                  49.5,
+                                  1e300};
+const QStringList Machines{"ARTHUR", "GUINEVERE", "LANCELOT", "MERLIN", "Merlin", "MERLIN ", ""};
+const QStringList BallSets{"1", "2", "3", "4", "5", "6", "7", "8", "", "0", "9", "A", "2.5", " 3", "-1", "8b"};
+
+/// Fills both games with draws on dates that often meet; some fields of an odd history hold no ball.
+void StoreRandomHistory(unsigned seed, int draws, bool odd)
+{
+    std::mt19937 random(seed);
+    const auto below = [&](qsizetype end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
+    Transaction transaction(DrawDb, "The draws could not be stored");
+    for (const Game* game : {&MainGame, &ThunderballGame}) {
+        RecordSet& table = DrawsOf(*game);
+        for (int draw = 0; draw < draws; ++draw) {
+            EnteredDraw entered{QDate(2000, 1, 1).addDays(below(draws)),
+                                {},
+                                Machines[below(Machines.size())],
+                                BallSets[below(BallSets.size())]};
+            for (int slot = 0; slot < game->BallCount(); ++slot)
+                entered.balls.at(static_cast<size_t>(slot)) = 1 + below(game->Highest(slot));
+            AddDraw(table, *game, entered);
+            if (!odd || below(2) == 0)
+                continue;
+            table.MoveLast();
+            table.Edit();
+            table.SetField(DrawField::FirstBall + below(game->BallCount()),
+                           OddBalls[static_cast<size_t>(below(std::ssize(OddBalls)))]);
+            table.Update();
+        }
+    }
+    transaction.Commit();
+    ukmainlist.Requery();
+    ukthunderlist.Requery();
+}
+
+/// The draws of a table or list as its file holds them, every field as a text.
+QList<QStringList> StoredDraws(const QString& table)
+{
+    QList<QStringList> draws;
+    for (const QString& row : TestFolder::StoredRows(table))
+        draws.append(row.split(u','));
+    return draws;
+}
+
+double Number(QString text)
+{
+    while (!text.isEmpty() && text.back().isLetter())
+        text.chop(1);
+    return text.toDouble();
+}
+
+/// The counted balls of a draw; `type` is the choice of the ball-type list, or 0 and 1 for the Thunderball charts.
+QList<double> CountedBalls(const QStringList& draw, bool isMain, int type)
+{
+    QList<double> balls;
+    const int mainBalls = isMain ? 6 : 5;
+    for (int slot = 0; slot <= mainBalls; ++slot)
+        if (!(type == 1 && slot < mainBalls) && !(type == 0 && slot == mainBalls))
+            balls.append(Number(draw[3 + slot]));
+    return balls;
+}
+
+/// One bar counted on its own, by walking all draws for it.
+int PlainBar(int chart, int bar, const QList<QStringList>& draws, int type)
+{
+    const bool since = chart == 4 || chart == 22 || chart == 24;
+    int value = 0;
+    for (const QStringList& draw : draws) {
+        if (chart == 5 || chart == 6) {
+            const QString names[] = {"ARTHUR", "GUINEVERE", "LANCELOT", "MERLIN"};
+            value += chart == 5 ? draw[10] == names[bar - 1] : !draw[11].isEmpty() && Number(draw[11]) == bar;
+            continue;
+        }
+        const QList<double> balls = CountedBalls(draw, chart < 20, type);
+        if (since && balls.contains(bar))
+            break;
+        value += since ? 1 : 0;
+        for (const double ball : since ? QList<double>() : balls) {
+            if (chart == 2)
+                value += (bar == 1 || ball >= 10 * (bar - 1)) && (bar == 5 || ball < 10 * bar);
+            else if (chart == 3)
+                value += (std::fmod(ball, 2) == 0) == (bar == 2);
+            else
+                value += ball == bar;
+        }
+    }
+    return value;
+}
+
+/// A bar as a text that a failing comparison can show.
+QString Text(int chart, int type, int bar, const QString& label, int colour, int value)
+{
+    return QStringLiteral("chart %1, type %2, bar %3, %4, colour %5: %6")
+        .arg(chart)
+        .arg(type)
+        .arg(bar)
+        .arg(label)
+        .arg(colour)
+        .arg(value);
+}
+
+/// What the table of the charts must say of one of them.
+struct Expected
+{
+    int chart;
+    QString source;
+    int bars;
+    QList<int> types;
+    /// Empty for the bars' own numbers.
+    QStringList labels;
+    /// Used in turn; empty for the bands of the balls.
+    QList<int> colours;
+};
+const Expected ExpectedCharts[] = {
+    {1, "ukmain", 49, {0, 1, 2}, {}, {}},
+    {2, "ukmain", 5, {0, 1, 2}, {"1 - 9", "10 - 19", "20 - 29", "30 - 39", "40 - 49"}, {15, 9, 12, 10, 14}},
+    {3, "ukmain", 2, {0, 1, 2}, {"Odd", "Even"}, {9, 12}},
+    {4, "ukmainlist", 49, {0, 1, 2}, {}, {}},
+    {5, "ukmain", 4, {2}, {"Arthur", "Guinevere", "Lancelot", "Merlin"}, {15, 9, 12, 10}},
+    {6,
+     "ukmain",
+     8,
+     {2},
+     {"Set 1", "Set 2", "Set 3", "Set 4", "Set 5", "Set 6", "Set 7", "Set 8"},
+     {15, 9, 12, 10, 15, 9, 12, 10}},
+    {21, "ukthunder", 34, {0}, {}, {9}},
+    {22, "ukthunderlist", 34, {0}, {}, {9}},
+    {23, "ukthunder", 14, {1}, {}, {12}},
+    {24, "ukthunderlist", 14, {1}, {}, {12}},
+};
+
+QString ExpectedText(const Expected& chart, int type, int bar, const QList<QStringList>& draws)
+{
+    const QString label = chart.labels.isEmpty() ? QString::number(bar) : chart.labels[bar - 1];
+    const int band = bar < 10 ? 15 : bar < 20 ? 9 : bar < 30 ? 12 : bar < 40 ? 10 : 14;
+    const int colour = chart.colours.isEmpty() ? band : chart.colours[(bar - 1) % chart.colours.size()];
+    return Text(chart.chart, type, bar, label, colour, PlainBar(chart.chart, bar, draws, type));
+}
+
+} // namespace
+
+class ChartsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EveryBarIsWhatAPlainCountFinds_data()
+    {
+        QTest::addColumn<TestFolder::Content>("content");
+        QTest::addColumn<unsigned>("seed");
+        QTest::addColumn<int>("draws");
+        QTest::addColumn<bool>("odd");
+        QTest::newRow("the real history") << TestFolder::Content::Starter << 0U << 0 << false;
+        QTest::newRow("one draw") << TestFolder::Content::Empty << 1U << 1 << false;
+        QTest::newRow("few draws, so that many balls never came") << TestFolder::Content::Empty << 2U << 6 << false;
+        QTest::newRow("many draws") << TestFolder::Content::Empty << 3U << 600 << false;
+        QTest::newRow("fields that hold no ball") << TestFolder::Content::Empty << 4U << 200 << true;
+        QTest::newRow("few such draws") << TestFolder::Content::Empty << 5U << 12 << true;
+    }
+
+    void EveryBarIsWhatAPlainCountFinds()
+    {
+        QFETCH(TestFolder::Content, content);
+        QFETCH(unsigned, seed);
+        QFETCH(int, draws);
+        QFETCH(bool, odd);
+        const TestFolder folder(content);
+        OpenDatabaseFiles();
+        StoreRandomHistory(seed, draws, odd);
+        for (const Expected& expected : ExpectedCharts) {
+            const QList<QStringList> stored = StoredDraws(expected.source);
+            const Chart& chart = FindChart(expected.chart);
+            const ChartCount count = CountChart(chart);
+            QCOMPARE(static_cast<int>(chart.ballType), expected.types.last());
+            for (const int type : expected.types) {
+                const std::vector<ChartBar> bars = count.Bars(static_cast<BallType>(type));
+                QCOMPARE(static_cast<int>(bars.size()), expected.bars);
+                for (int bar = 1; bar <= expected.bars; ++bar) {
+                    const ChartBar& counted = bars[static_cast<size_t>(bar) - 1];
+                    QCOMPARE(
+                        Text(expected.chart, type, bar, counted.label, static_cast<int>(counted.colour), counted.value),
+                        ExpectedText(expected, type, bar, stored));
+                }
+            }
+        }
+    }
+
+    void TheRealHistoryHasItsKnownFigures()
+    {
+        const TestFolder folder(TestFolder::Content::Starter);
+        OpenDatabaseFiles();
+        struct Known
+        {
+            int chart;
+            int type;
+            const char* label;
+            int value;
+        };
+        for (const Known& known : {Known{1, 0, "23", 282}, Known{1, 0, "13", 215}, Known{1, 0, "20", 215},
+                                   Known{3, 0, "Odd", 6354}, Known{3, 0, "Even", 6036}, Known{5, 2, "Arthur", 382},
+                                   Known{5, 2, "Guinevere", 361}, Known{5, 2, "Lancelot", 323},
+                                   Known{5, 2, "Merlin", 265}, Known{21, 0, "4", 159}, Known{23, 1, "5", 84}}) {
+            const Chart& chart = FindChart(known.chart);
+            int value = -1;
+            for (const ChartBar& bar : CountChart(chart).Bars(static_cast<BallType>(known.type)))
+                if (bar.label == QLatin1String(known.label))
+                    value = bar.value;
+            QVERIFY2(value == known.value, known.label);
+        }
+    }
+};
+
+TAVENOR_TEST_MAIN(ChartsTest)
+#include "charts_test.moc"

@@ -1,0 +1,251 @@
+// Ahead of the test framework, which brings a Display of its own.
+#include "platform/theme.h"
+
+#include "analysis/stored_draws.h"
+#include "support/test_window.h"
+
+#include "analysis/bar_chart.h"
+#include "analysis/graph_window.h"
+
+#include <QChartView>
+#include <QComboBox>
+#include <QGraphicsSimpleTextItem>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+/// The texts of one part of the chart, from left to right, or from the bottom upwards on the axis.
+QList<QGraphicsSimpleTextItem*> Texts(const QDialog& window, ChartText part)
+{
+    QList<QGraphicsSimpleTextItem*> texts;
+    for (QGraphicsItem* item : window.findChild<QChartView*>("graph")->scene()->items())
+        if (auto* text = dynamic_cast<QGraphicsSimpleTextItem*>(item))
+            if (text->data(0) == static_cast<int>(part))
+                texts.append(text);
+    std::sort(texts.begin(), texts.end(), [&](const auto* first, const auto* second) {
+        return part == ChartText::AxisNumber ? first->sceneBoundingRect().top() > second->sceneBoundingRect().top()
+                                             : first->sceneBoundingRect().left() < second->sceneBoundingRect().left();
+    });
+    return texts;
+}
+
+QStringList Bars(const QDialog& window)
+{
+    return window.findChild<QWidget*>("graph")->accessibleDescription().split(u'\n');
+}
+
+/// The middle of a bar's foot, in the coordinates of the chart.
+QPoint FootOf(const QDialog& window, int bar)
+{
+    const qreal base = Texts(window, ChartText::AxisNumber).first()->sceneBoundingRect().center().y();
+    return {qRound(Texts(window, ChartText::Label)[bar]->sceneBoundingRect().center().x()), qRound(base) - 6};
+}
+
+/// How far two colours stand apart in brightness, by the usual measure: 1 for the same, 21 for black on white.
+double Contrast(const QColor& first, const QColor& second)
+{
+    const auto brightness = [](const QColor& colour) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    };
+    const double a = brightness(first) + 0.05;
+    const double b = brightness(second) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+/// A chart window as the menus show it, over the real history.
+class ShownChart
+{
+public:
+    explicit ShownChart(int chart) : folder(TestFolder::Content::Starter), window((OpenDatabaseFiles(), nullptr))
+    {
+        window.PrepareChart(chart);
+        window.show();
+        QApplication::processEvents();
+    }
+
+    void Choose(const QString& type)
+    {
+        window.findChild<QComboBox*>("balltype")->setCurrentText(type);
+        QApplication::processEvents();
+    }
+
+    TestFolder folder;
+    GraphWindow window;
+};
+
+} // namespace
+
+class GraphWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { SetAppearance(Appearance::FromDesktop); }
+
+    void BallTypeChoosesPhraseAndCount_data()
+    {
+        QTest::addColumn<int>("chart");
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("description");
+        QTest::addColumn<QString>("firstBar");
+        const QString mainOnly = "Main balls only";
+        const QString bonusOnly = "Bonus balls only";
+        const QString all = "All balls";
+        const QString drawn = "This is a bar chart, showing how many times each lottery ball has been drawn ";
+        QTest::newRow("1 all") << 1 << all << drawn + "in the main lottery draw."
+                               << "1: 277";
+        QTest::newRow("1 main") << 1 << mainOnly << drawn + "as a main ball, in the main lottery draw."
+                                << "1: 234";
+        QTest::newRow("1 bonus") << 1 << bonusOnly << drawn + "as a bonus ball, in the main lottery draw."
+                                 << "1: 43";
+        const QString colour =
+            "This is a bar chart, showing how many times each different colour of lottery ball has been drawn ";
+        QTest::newRow("2 all") << 2 << all << colour + "in the main lottery draw."
+                               << "1 - 9: 2623";
+        QTest::newRow("2 main") << 2 << mainOnly << colour + "as a main ball, in the main lottery draw."
+                                << "1 - 9: 2230";
+        QTest::newRow("2 bonus") << 2 << bonusOnly << colour + "as a bonus ball, in the main lottery draw."
+                                 << "1 - 9: 393";
+        const QString times = "This is a bar chart, showing how many times the ";
+        const QString odd = "been either odd, or even, in the main lottery draw.";
+        QTest::newRow("3 all") << 3 << all << times + "lottery balls have " + odd << "Odd: 7419";
+        QTest::newRow("3 main") << 3 << mainOnly << times + "main balls have " + odd << "Odd: 6354";
+        QTest::newRow("3 bonus") << 3 << bonusOnly << times + "bonus ball has " + odd << "Odd: 1065";
+        const QString since =
+            "This is a bar chart, showing how many draws have taken place since each ball has been drawn";
+        QTest::newRow("4 all") << 4 << all << since + "."
+                               << "1: 19";
+        QTest::newRow("4 main") << 4 << mainOnly << since + " as a main ball."
+                                << "1: 19";
+        QTest::newRow("4 bonus") << 4 << bonusOnly << since + " as a bonus ball."
+                                 << "1: 25";
+    }
+
+    void BallTypeChoosesPhraseAndCount()
+    {
+        QFETCH(int, chart);
+        QFETCH(QString, type);
+        QFETCH(QString, description);
+        QFETCH(QString, firstBar);
+        ShownChart shown(chart);
+        auto* balltype = shown.window.findChild<QComboBox*>("balltype");
+        QCOMPARE(balltype->currentText(), QString("All balls"));
+        QCOMPARE(balltype->count(), 3);
+        QCOMPARE(shown.window.findChild<QLabel*>("typelabel")->text(), QString("Ball type to count"));
+        shown.Choose(type);
+        QCOMPARE(shown.window.findChild<QLabel*>("description")->text(), description);
+        QCOMPARE(Bars(shown.window).first(), firstBar);
+    }
+
+    void AnotherBallTypeIsCountedFromTheRowsAtHand()
+    {
+        ShownChart shown(3);
+        StoreDraw(MainGame, QDate(2026, 11, 21), {1, 3, 5, 7, 9, 11, 13});
+        shown.Choose("Main balls only");
+        QCOMPARE(Bars(shown.window), (QStringList{"Odd: 6354", "Even: 6036"}));
+        shown.window.PrepareChart(3);
+        QCOMPARE(Bars(shown.window).first(), QString("Odd: 7426"));
+    }
+
+    void EveryTextIsWholeAndStandsFree_data()
+    {
+        QTest::addColumn<int>("chart");
+        QTest::addColumn<QSize>("size");
+        for (const Chart& chart : AllCharts())
+            for (const QSize size : {QSize(), QSize(1600, 1000)})
+                QTest::addRow("%d at %d", chart.number, size.width()) << chart.number << size;
+    }
+
+    void EveryTextIsWholeAndStandsFree()
+    {
+        QFETCH(int, chart);
+        QFETCH(QSize, size);
+        ShownChart shown(chart);
+        if (size.isValid())
+            shown.window.resize(size);
+        QApplication::processEvents();
+        const auto labels = Texts(shown.window, ChartText::Label);
+        const auto figures = Texts(shown.window, ChartText::Figure);
+        QStringList lines;
+        for (int bar = 0; bar < labels.size(); ++bar)
+            lines.append(labels[bar]->text() + ": " + figures[bar]->text());
+        QCOMPARE(lines, Bars(shown.window));
+        const auto numbers = Texts(shown.window, ChartText::AxisNumber);
+        for (int number = 0; number < numbers.size(); ++number)
+            QCOMPARE(numbers[number]->text(), QString::number(number * numbers[1]->text().toInt()));
+        const QRectF room(shown.window.findChild<QChartView*>("graph")->viewport()->rect());
+        for (const auto& part : {labels, figures, numbers}) {
+            for (int text = 0; text < part.size(); ++text) {
+                QVERIFY2(room.contains(part[text]->sceneBoundingRect()), qPrintable(part[text]->text()));
+                QVERIFY2(part[text]->isVisible() && part[text]->font().pointSizeF() > 6, "too small to be read");
+                if (text > 0)
+                    QVERIFY2(!part[text]->sceneBoundingRect().intersects(part[text - 1]->sceneBoundingRect()),
+                             qPrintable(part[text]->text()));
+            }
+        }
+    }
+
+    void BarsAndTextsCanBeSeen_data()
+    {
+        QTest::addColumn<Appearance>("appearance");
+        QTest::newRow("light") << Appearance::Light;
+        QTest::newRow("dark") << Appearance::Dark;
+    }
+
+    void BarsAndTextsCanBeSeen()
+    {
+        QFETCH(Appearance, appearance);
+        ShownChart shown(2);
+        // The theme changes while the window is open.
+        SetAppearance(appearance);
+        QApplication::processEvents();
+        const auto* graph = shown.window.findChild<QChartView*>("graph");
+        const QImage picture = shown.window.grab(QRect(graph->mapTo(&shown.window, QPoint()), graph->size())).toImage();
+        QStringList colours;
+        for (int bar = 0; bar < 5; ++bar)
+            colours.append(picture.pixelColor(FootOf(shown.window, bar)).name().toUpper());
+        QCOMPARE(colours, (QStringList{"#FFFFFF", "#8CC8F5", "#F28B82", "#8EDB9A", "#F5E27A"}));
+        const QColor card = picture.pixelColor(2, picture.height() / 2);
+        QCOMPARE(card, CurrentTheme().card);
+        for (const ChartText part : {ChartText::Label, ChartText::Figure, ChartText::AxisNumber})
+            for (const QGraphicsSimpleTextItem* text : Texts(shown.window, part))
+                QVERIFY(Contrast(text->brush().color(), card) >= 4.5);
+        // The edge of the white bar, looked for from outside at half its height.
+        const QPoint foot = FootOf(shown.window, 0);
+        double edge = 1;
+        for (int x = foot.x(); x > foot.x() - 100; --x)
+            edge = std::max(edge, Contrast(picture.pixelColor(x, foot.y()), Qt::white));
+        QVERIFY(edge >= 2);
+    }
+
+    void PointingAtABarTellsItsLabelAndFigure()
+    {
+        const ShownChart shown(2);
+        QWidget* viewport = shown.window.findChild<QChartView*>("graph")->viewport();
+        for (const int bar : {0, 4, 2}) {
+            QTest::mouseMove(viewport, FootOf(shown.window, bar));
+            QTRY_COMPARE(QToolTip::text(), Bars(shown.window)[bar]);
+        }
+    }
+
+    void EscapeAndBackCloseTheWindow()
+    {
+        ShownChart shown(5);
+        QVERIFY(!shown.window.findChild<QComboBox*>("balltype")->isVisible());
+        QVERIFY(!shown.window.findChild<QLabel*>("typelabel")->isVisible());
+        QTest::keyClick(&shown.window, Qt::Key_Escape);
+        QVERIFY(!shown.window.isVisible());
+        shown.window.show();
+        QCOMPARE(shown.window.findChild<QPushButton*>("back")->text(), QString("BACK"));
+        QTest::mouseClick(shown.window.findChild<QWidget*>("back"), Qt::LeftButton);
+        QVERIFY(!shown.window.isVisible());
+    }
+};
+
+TAVENOR_TEST_MAIN(GraphWindowTest)
+#include "graph_window_test.moc"
