@@ -5,6 +5,10 @@
 
 class QLabel;
 
+/// Paints a ball of one colour, lit from the upper left, with a thin dark outline and a soft shadow. The shadow needs
+/// about three pixels around the ball.
+void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour);
+
 /// A ball: a disc of one colour, lit from the upper left, on which a label or a text field shows the number. Its colour
 /// is the Window role of its palette.
 class BallDisc : public QWidget
