@@ -4,11 +4,17 @@
 #include "platform/theme.h"
 #include "shell/main_window.h"
 #include "shell/open_databases.h"
+#include "users/user_records.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -24,6 +30,80 @@ struct Stop
 constexpr Stop Stops[] = {
     {"start", 0, 0},   {"group_1", 1, 0},  {"group_2", 2, 0},         {"group_3", 3, 0},      {"group_4", 4, 0},
     {"group_5", 5, 0}, {"add_main", 1, 1}, {"add_thunderball", 1, 2}, {"user_details", 3, 1},
+};
+
+class Tour
+{
+public:
+    Tour(MainWindow& mainWindow, const QString& pictureFolder) : window(mainWindow), pictures(pictureFolder) {}
+
+    void Picture(const QString& name, QWidget& widget) const
+    {
+        QApplication::processEvents();
+        widget.grab().save(pictures.filePath(name + QStringLiteral(".png")));
+    }
+
+    void EntryGenerator() const
+    {
+        window.ChooseMenu(4, 1);
+        Picture(QStringLiteral("generator_1_opened"), window);
+        Choose(0, 0);
+        Choose(1, 0);
+        Picture(QStringLiteral("generator_2_random"), window);
+        Find<QLineEdit>("F26text")->setText(QStringLiteral("200"));
+        Find<QWidget>("F26combo_1")->setFocus();
+        InModal("generator_3_description", "", [](QDialog&) {});
+        Find<QAbstractButton>("F26go")->click();
+        Picture(QStringLiteral("generator_4_200_lines"), window);
+        Choose(1, 3);
+        Picture(QStringLiteral("generator_5_full"), window);
+        Choose(1, 2);
+        Choose(2, 1);
+        Picture(QStringLiteral("generator_6_wheel"), window);
+        InModal("number_window", "store", [](QDialog& dialog) {
+            dialog.findChild<QAbstractButton*>(QStringLiteral("random"))->click();
+            dialog.findChild<QWidget*>(QStringLiteral("n_25"))->setFocus();
+        });
+        Find<QAbstractButton>("F26choose")->click();
+        InModal("generator_7_description", "", [](QDialog&) {});
+        Find<QAbstractButton>("F26go")->click();
+        Picture(QStringLiteral("generator_8_wheel_built"), window);
+    }
+
+private:
+    template <typename Type>
+    Type* Find(const char* name) const
+    {
+        return window.findChild<Type*>(QLatin1String(name));
+    }
+
+    void Choose(int list, int item) const
+    {
+        auto* combo = window.findChild<QComboBox*>(QStringLiteral("F26combo_%1").arg(list));
+        combo->setCurrentIndex(item);
+        Q_EMIT combo->activated(item);
+    }
+
+    /// The next modal window is pictured, after something was done in it, and left by the button of that name; a
+    /// message box by its default.
+    template <typename Action>
+    void InModal(const char* name, const char* leavingButton, Action action) const
+    {
+        QTimer::singleShot(100, &window, [this, name, leavingButton, action] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return;
+            action(*dialog);
+            Picture(QLatin1String(name), *dialog);
+            if (auto* button = dialog->findChild<QAbstractButton*>(QLatin1String(leavingButton)))
+                button->click();
+            else
+                dialog->accept();
+        });
+    }
+
+    MainWindow& window;
+    QDir pictures;
 };
 
 } // namespace
@@ -48,13 +128,15 @@ int main(int count, char** arguments)
     window.show();
     const QDir pictures(QString::fromLocal8Bit(arguments[2]));
     pictures.mkpath(QStringLiteral("."));
+    const Tour tour(window, pictures.path());
+    AddUser(users, QStringLiteral("Ann"), 500);
     for (const Stop& stop : Stops) {
         if (stop.group == 0)
             window.ShowStartPage();
         else
             window.ChooseMenu(stop.group, stop.suboption);
-        QApplication::processEvents();
-        window.grab().save(pictures.filePath(QLatin1String(stop.picture) + QStringLiteral(".png")));
+        tour.Picture(QLatin1String(stop.picture), window);
     }
+    tour.EntryGenerator();
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "shell/page_table.h"
 
+#include "builder/entry_generator_page.h"
 #include "checking/check_page.h"
 #include "draws/add_draw_page.h"
 #include "draws/game.h"
@@ -16,6 +17,7 @@ constexpr PageTableRow Pages[] = {
     {11, [](PageSwitch&) -> PageFrame* { return new UserDetailsPage; }, true},
     {12, [](PageSwitch& pages) -> PageFrame* { return new CheckPage(pages); }, true},
     {18, [](PageSwitch& pages) -> PageFrame* { return new AddEntriesPage(pages); }, true},
+    {26, [](PageSwitch& pages) -> PageFrame* { return new EntryGeneratorPage(pages); }, true},
 };
 
 } // namespace

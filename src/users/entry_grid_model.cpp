@@ -1,0 +1,52 @@
+#include "users/entry_grid_model.h"
+
+#include "draws/game.h"
+#include "platform/numbers.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int FirstBallColumn = 2;
+constexpr int BallColumns = 6;
+
+std::vector<GridModel::Column> Columns()
+{
+    std::vector<GridModel::Column> columns{{QString()}, {QStringLiteral("Entry"), Qt::AlignCenter, true}};
+    for (int slot = 0; slot < BallColumns; ++slot)
+        columns.push_back({MainGame.BallCaption(slot)});
+    return columns;
+}
+
+} // namespace
+
+EntryGridModel::EntryGridModel() : GridModel(Columns()) {}
+
+void EntryGridModel::SetEntries(std::vector<EntryRow> entryRows)
+{
+    beginResetModel();
+    entries = std::move(entryRows);
+    endResetModel();
+}
+
+int EntryGridModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(entries.size());
+}
+
+std::vector<double> EntryGridModel::ColumnShares()
+{
+    std::vector<double> shares{0};
+    shares.resize(FirstBallColumn + BallColumns, 1.0 / (1 + BallColumns));
+    return shares;
+}
+
+QString EntryGridModel::CellText(int row, int column) const
+{
+    const EntryRow& entry = entries.at(static_cast<size_t>(row));
+    if (column == 0)
+        return QString::number(entry.number);
+    if (column < FirstBallColumn)
+        return QString::number(row + 1);
+    return PlainNumber(entry.numbers.at(static_cast<size_t>(column - FirstBallColumn)));
+}
