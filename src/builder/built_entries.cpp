@@ -17,6 +17,18 @@ UserRow FindOwner(const QString& userName)
     return ReadUser(users);
 }
 
+/// Raises the limit of the current user where more entries do not fit under it.
+void MakeRoom(const UserRow& owner, int more, RaiseLimit raise)
+{
+    // Another copy of the program may have changed the user or its entries since the player was asked.
+    const int count = CountEntries(entries, owner.number);
+    if (MayStoreEntries(count, more, owner.spendLimit))
+        return;
+    if (raise == RaiseLimit::No)
+        throw Failure(Storing, "the user's spend limit no longer allows them", "changed by another copy");
+    ChangeUser(users, owner.name, count + more);
+}
+
 } // namespace
 
 bool ExceedsSpendLimit(const QString& userName, int more)
@@ -28,23 +40,20 @@ bool ExceedsSpendLimit(const QString& userName, int more)
 void StoreEntriesOfUser(const QString& userName, const std::vector<EntryRow>& built, const DaySet& days,
                         RaiseLimit raise)
 {
-    Transaction transaction(UserDb, Storing);
-    // Another copy of the program may have changed the user or its entries since the player was asked.
-    const UserRow owner = FindOwner(userName);
-    const int count = CountEntries(entries, owner.number);
-    const int more = static_cast<int>(built.size());
-    if (!MayStoreEntries(count, more, owner.spendLimit)) {
-        if (raise == RaiseLimit::No)
-            throw Failure(Storing, "the user's spend limit no longer allows them", "changed by another copy");
-        ChangeUser(users, owner.name, count + more);
+    try {
+        Transaction transaction(UserDb, Storing);
+        const UserRow owner = FindOwner(userName);
+        MakeRoom(owner, static_cast<int>(built.size()), raise);
+        std::int64_t number = entries.NextNumber();
+        for (EntryRow entry : built) {
+            entry.number = number++;
+            entry.userId = owner.number;
+            entry.drawType = MainGame.drawType;
+            entry.days = days;
+            AddEntry(entries, entry);
+        }
+        transaction.Commit();
+    } catch (const Failure& failure) {
+        throw failure.During(Storing);
     }
-    std::int64_t number = entries.NextNumber();
-    for (EntryRow entry : built) {
-        entry.number = number++;
-        entry.userId = owner.number;
-        entry.drawType = MainGame.drawType;
-        entry.days = days;
-        AddEntry(entries, entry);
-    }
-    transaction.Commit();
 }
