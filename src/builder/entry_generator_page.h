@@ -11,7 +11,7 @@
 class Card;
 class PageSwitch;
 class QComboBox;
-class TextBox;
+class StepCard;
 
 /// Page 26, "Main Draw Entry Generator": user, way of building, option and numbers are chosen step by step, then lines
 /// are built and stored for the user.
@@ -26,7 +26,6 @@ public:
     void Prepare() override;
 
 private:
-    void LayOutSteps(Card* card);
     void ConnectHandlers();
     void UserChosen();
     void TypeChosen();
@@ -45,15 +44,9 @@ private:
     BuilderSteps steps;
     EntryGridModel lines;
 
-    std::array<QComboBox*, 3> F26combo;
-    TextBox* F26text;
-    Button* F26info;
-    Button* F26choose;
-    Button* F26go;
-    Button* F26store;
-    GridView* F26grid;
+    StepCard* card;
+    std::array<QComboBox*, 3>& F26combo;
     Card* gridCard;
-    QLabel* entriesLabel;
-    QLabel* promptLabel;
-    QLabel* noNumbersLabel;
+    GridView* F26grid;
+    Button* F26store;
 };

@@ -180,4 +180,5 @@ void NumberBoard::MakeTabStop(int number)
     // The board is one stop on the way of the Tab key: the number that had the focus last.
     for (QCheckBox* toggle : toggles)
         toggle->setFocusPolicy(toggle == Toggle(number) ? Qt::StrongFocus : Qt::ClickFocus);
+    setFocusProxy(Toggle(number));
 }

@@ -47,6 +47,7 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     keepsRoom.setRetainSizeWhenHidden(true);
     store->setSizePolicy(keepsRoom);
     store->setDefault(true);
+    board->setFocus();
 
     layout->addWidget(MakeLabel(QStringLiteral("Select %1 numbers.").arg(state.NumbersRequired), TextRole::Heading,
                                 QStringLiteral("Label_0")));

@@ -101,13 +101,6 @@ private Q_SLOTS:
                     }));
     }
 
-    void WheelOfEightIsInThisOrder()
-    {
-        const std::vector<int> chosen{1, 2, 3, 4, 5, 6, 7, 8};
-        const std::vector<Line> lines{{2, 3, 4, 5, 6, 7}, {1, 3, 4, 5, 6, 8}, {1, 2, 4, 5, 7, 8}, {1, 2, 3, 6, 7, 8}};
-        QVERIFY(BuildWheeledPairEntries(chosen) == lines);
-    }
-
     void KeyNumbersStandOnEveryLine_data()
     {
         QTest::addColumn<int>("entries");
