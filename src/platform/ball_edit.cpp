@@ -55,6 +55,17 @@ void BallEdit::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
+void BallEdit::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (!selectsOnFocus)
+        return;
+    selectAll();
+    // The press of the mouse that brings the focus goes on to place the cursor, so the text is selected after it.
+    if (event->reason() == Qt::MouseFocusReason)
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
+}
+
 void BallEdit::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);

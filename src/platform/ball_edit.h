@@ -12,6 +12,8 @@ public:
     explicit BallEdit(QWidget* parent = nullptr);
 
     void SetColours(const QColor& ball, const QColor& digits);
+    /// Selects the whole text whenever the field gets the focus.
+    void SelectTextOnFocus() { selectsOnFocus = true; }
 
 Q_SIGNALS:
     /// The Enter key was pressed.
@@ -21,7 +23,11 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool selectsOnFocus = false;
 };
 
 /// Makes the press of the mouse that is just being delivered do nothing: it took the focus from a field whose content
