@@ -33,7 +33,8 @@ QStringList EntryBallCaptions();
 template <typename Balls>
 void KeepThunderballCaptionOnly(Balls* balls, const QString& name)
 {
-    for (int slot = 0; slot < 6; ++slot) {
+    // The last caption is wider than its ball; it takes room only where it is shown.
+    for (int slot = 0; slot < 5; ++slot) {
         QLabel* caption = balls->Caption(slot);
         QSizePolicy keepsItsPlace = caption->sizePolicy();
         keepsItsPlace.setRetainSizeWhenHidden(true);
