@@ -1,5 +1,6 @@
 // Walks the real program through its pages and writes a picture of each: tour STARTER-FOLDER PICTURE-FOLDER [dark]
 
+#include "platform/dates.h"
 #include "platform/month_calendar.h"
 #include "platform/style.h"
 #include "platform/theme.h"
@@ -17,13 +18,14 @@
 
 namespace {
 
-/// A page of the menu, and the button that is pressed on it before the picture is taken.
+/// A page of the menu, and the buttons that are pressed on it before the picture is taken.
 struct Stop
 {
     const char* picture;
     int group;
     int suboption;
     const char* press = nullptr;
+    const char* thenPress = nullptr;
 };
 
 constexpr Stop Stops[] = {
@@ -47,7 +49,8 @@ constexpr Stop Stops[] = {
     {"entries", 3, 3},
     {"view_entry", 3, 3, "F13view"},
     {"edit_entry", 3, 3, "F13edit"},
-    {"no_entries", 3, 3, "F13typethunder"},
+    {"view_thunderball_entry", 3, 3, "F13typethunder", "F13view"},
+    {"edit_thunderball_entry", 3, 3, "F13typethunder", "F13edit"},
 };
 
 /// A user with a handful of entries.
@@ -63,6 +66,7 @@ void AddEntries()
                            {first, first + 9, first + 13, first + 21, first + 30, first + 40},
                            {false, false, true, false, false, i % 2 == 0, false}});
     }
+    AddEntry(entries, {entries.NextNumber(), 1, 2, {4, 9, 17, 23, 34, 14}, {}});
     transaction.Commit();
 }
 
@@ -71,15 +75,13 @@ void Press(const MainWindow& window, const char* name)
     auto* control = window.findChild<QWidget*>(QLatin1String(name));
     if (auto* button = qobject_cast<QAbstractButton*>(control))
         button->click();
-    if (auto* calendar = qobject_cast<MonthCalendar*>(control)) {
-        // The newest draw of the history.
-        ukmainlist.MoveFirst();
-        const std::string_view newest = ukmainlist.Text(1);
-        const QDate date =
-            QDate::fromString(QString::fromUtf8(newest.data(), static_cast<qsizetype>(newest.size())), Qt::ISODate);
-        calendar->setSelectedDate(date);
-        Q_EMIT calendar->clicked(date);
-    }
+    ukmainlist.MoveFirst();
+    auto* calendar = qobject_cast<MonthCalendar*>(control);
+    if (calendar == nullptr || ukmainlist.IsEmpty())
+        return;
+    const QDate newest = DateFromIso(ukmainlist.Text(1));
+    calendar->setSelectedDate(newest);
+    Q_EMIT calendar->clicked(newest);
 }
 
 } // namespace
@@ -111,8 +113,9 @@ int main(int count, char** arguments)
         else
             window.ChooseMenu(stop.group, stop.suboption);
         QApplication::processEvents();
-        if (stop.press != nullptr)
-            Press(window, stop.press);
+        for (const char* name : {stop.press, stop.thenPress})
+            if (name != nullptr)
+                Press(window, name);
         QApplication::processEvents();
         window.grab().save(pictures.filePath(QLatin1String(stop.picture) + QStringLiteral(".png")));
     }

@@ -38,7 +38,7 @@ BallFields::BallFields(const Names& names, const QStringList& captions, QWidget*
         }
         auto* column = new QVBoxLayout;
         column->setSpacing(Spacing::Inside);
-        column->addWidget(disc, 0, Qt::AlignHCenter);
+        column->addWidget(disc, 0, Qt::AlignHCenter | Qt::AlignTop);
         column->addWidget(caption, 0, Qt::AlignHCenter);
         row->addLayout(column);
         ConnectGuarded(field, &BallEdit::Left, this, [this, slot](bool byMouse) { FieldLeft(slot, byMouse); });

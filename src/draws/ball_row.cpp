@@ -23,7 +23,7 @@ BallRow::BallRow(const BallFields::Names& names, const QStringList& ballCaptions
         }
         auto* column = new QVBoxLayout;
         column->setSpacing(Spacing::Inside);
-        column->addWidget(balls.back().disc, 0, Qt::AlignHCenter);
+        column->addWidget(balls.back().disc, 0, Qt::AlignHCenter | Qt::AlignTop);
         if (!names.caption.isEmpty()) {
             captionLabels.push_back(
                 MakeLabel(captions[slot], TextRole::Caption, ElementName(names.caption, slot), this));

@@ -146,6 +146,7 @@ DrawBrowserPage::DrawBrowserPage()
 void DrawBrowserPage::Prepare()
 {
     F9Cal->setSelectedDate(QDate::currentDate());
+    F9Cal->showSelectedDate();
     FindDrawsOfDate(QDate::currentDate());
     show();
 }

@@ -29,18 +29,12 @@ private:
 QStringList EntryBallCaptions();
 
 /// Leaves a row of balls without captions but for the last one, which says "Thunderball" and is shown for an entry of
-/// that game only. The balls keep their places.
+/// that game only.
 template <typename Balls>
 void KeepThunderballCaptionOnly(Balls* balls, const QString& name)
 {
-    // The last caption is wider than its ball; it takes room only where it is shown.
-    for (int slot = 0; slot < 5; ++slot) {
-        QLabel* caption = balls->Caption(slot);
-        QSizePolicy keepsItsPlace = caption->sizePolicy();
-        keepsItsPlace.setRetainSizeWhenHidden(true);
-        caption->setSizePolicy(keepsItsPlace);
-        caption->hide();
-    }
+    for (int slot = 0; slot < 6; ++slot)
+        balls->Caption(slot)->hide();
     balls->Caption(5)->setObjectName(name);
     balls->Caption(5)->setText(QStringLiteral("Thunderball"));
 }

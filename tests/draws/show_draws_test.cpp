@@ -130,8 +130,11 @@ private Q_SLOTS:
         QCOMPARE(window.ColourOf("F9Tball_0", QPalette::Window), QColor("#FF0000"));
         QVERIFY(!window.IsShown("F9Mframe"));
         QCOMPARE(window.TextOf("F9Mnodraw"), QString("There was no main draw on this date."));
+        window.Find<MonthCalendar>("F9Cal")->setSelectedDate(QDate::currentDate());
+        window.Find<MonthCalendar>("F9Cal")->showPreviousYear();
         window.Window().ChooseMenu(2, 2);
         QCOMPARE(window.Find<MonthCalendar>("F9Cal")->selectedDate(), QDate::currentDate());
+        QCOMPARE(window.Find<MonthCalendar>("F9Cal")->yearShown(), QDate::currentDate().year());
         QVERIFY(!window.IsShown("F9Tframe"));
     }
 
