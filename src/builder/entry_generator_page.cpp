@@ -3,6 +3,7 @@
 #include "builder/built_entries.h"
 #include "builder/number_window.h"
 #include "builder/step_card.h"
+#include "draws/game.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/numbers.h"
@@ -66,7 +67,7 @@ void EntryGeneratorPage::ConnectHandlers()
 void EntryGeneratorPage::Prepare()
 {
     steps.Begin();
-    lines.SetEntries({});
+    lines.Fill(MainGame, {});
     F26combo[0]->clear();
     const std::vector<UserRow> allUsers = ReadAllUsers(users);
     if (allUsers.empty()) {
@@ -175,7 +176,7 @@ void EntryGeneratorPage::F26go_Click()
     // The press may have taken the focus from a count that was refused.
     if (!steps.MayBuild())
         return;
-    lines.SetEntries(AsEntries(Build()));
+    lines.Fill(MainGame, AsEntries(Build()));
     F26grid->scrollToTop();
     steps.LinesBuilt();
     ShowControls();
@@ -215,7 +216,7 @@ void EntryGeneratorPage::StoreBuiltEntries()
         raise = RaiseLimit::Yes;
     }
     DrawDayWindow(state.BuilderDays, this).exec();
-    StoreEntriesOfUser(userName, lines.Entries(), state.BuilderDays, raise);
+    StoreEntriesOfUser(userName, lines.Rows(), state.BuilderDays, raise);
     ShowMessage(QStringLiteral("The entries have been stored."));
     Prepare();
 }

@@ -53,10 +53,16 @@ void BallDisc::SetColour(const QColor& colour)
     setPalette(changed);
 }
 
+void BallDisc::MakeCompact()
+{
+    compact = true;
+    updateGeometry();
+}
+
 QSize BallDisc::sizeHint() const
 {
     const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.5));
-    return {side, side};
+    return compact ? QSize(side, side) * 5 / 6 : QSize(side, side);
 }
 
 QRectF BallDisc::BallRect() const

@@ -21,6 +21,8 @@ public:
     /// Puts the control that shows the number onto the ball; the ball draws a ring while it has the focus.
     void Carry(QWidget* number);
     void SetColour(const QColor& colour);
+    /// Makes the ball a little smaller, for two draws that stand side by side.
+    void MakeCompact();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -36,6 +38,7 @@ private:
     QRectF BallRect() const;
 
     QWidget* carried = nullptr;
+    bool compact = false;
 };
 
 /// Makes a ball with a label on it. `discName` and `numberName` are their object names.

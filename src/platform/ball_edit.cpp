@@ -4,7 +4,7 @@
 #include "platform/theme.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QTimer>
 
 namespace {
@@ -45,6 +45,17 @@ void BallEdit::SetColours(const QColor& ball, const QColor& digits)
     changed.setColor(QPalette::Base, ball);
     changed.setColor(QPalette::Text, digits);
     setPalette(changed);
+}
+
+void BallEdit::focusInEvent(QFocusEvent* event)
+{
+    TextBox::focusInEvent(event);
+    if (!selectsOnFocus)
+        return;
+    selectAll();
+    // The press of the mouse that brings the focus goes on to place the cursor, so the text is selected after it.
+    if (event->reason() == Qt::MouseFocusReason)
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
 void SwallowMousePressInProgress()

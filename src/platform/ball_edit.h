@@ -12,6 +12,14 @@ public:
     explicit BallEdit(QWidget* parent = nullptr);
 
     void SetColours(const QColor& ball, const QColor& digits);
+    /// Selects the whole text whenever the field gets the focus.
+    void SelectTextOnFocus() { selectsOnFocus = true; }
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    bool selectsOnFocus = false;
 };
 
 /// Makes the press of the mouse that is just being delivered do nothing: it took the focus from a field whose content

@@ -72,7 +72,10 @@ public:
         bool numbersEntries = false;
     };
 
-    explicit GridModel(std::vector<Column> gridColumns) : columns(std::move(gridColumns)) {}
+    explicit GridModel(std::vector<Column> gridColumns, QObject* parent = nullptr)
+        : QAbstractTableModel(parent), columns(std::move(gridColumns))
+    {
+    }
 
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

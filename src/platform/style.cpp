@@ -1,5 +1,6 @@
 #include "platform/style.h"
 
+#include "platform/scroll_bar.h"
 #include "platform/theme.h"
 
 #include <QAbstractItemView>
@@ -199,6 +200,11 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                const QWidget* widget) const
 {
+    if (control == CC_ScrollBar) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            DrawScrollBar(*bar, painter);
+        return;
+    }
     if (control != CC_ComboBox) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         return;
@@ -218,6 +224,9 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
         return visualRect(option->direction, option->rect,
                           option->rect.adjusted(Spacing::Between - 2, 2, -ArrowWidth, -2));
+    if (control == CC_ScrollBar)
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return ScrollBarPart(*bar, subControl);
     return QProxyStyle::subControlRect(control, option, subControl, widget);
 }
 

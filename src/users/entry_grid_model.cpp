@@ -20,18 +20,20 @@ std::vector<GridModel::Column> Columns()
 
 } // namespace
 
-EntryGridModel::EntryGridModel() : GridModel(Columns()) {}
+EntryGridModel::EntryGridModel(QObject* parent) : GridModel(Columns(), parent) {}
 
-void EntryGridModel::SetEntries(std::vector<EntryRow> entryRows)
+void EntryGridModel::Fill(const Game& game, std::vector<EntryRow> entriesOfGame)
 {
     beginResetModel();
-    entries = std::move(entryRows);
+    rows = std::move(entriesOfGame);
     endResetModel();
+    SetHeading(FirstBallColumn + BallColumns - 1,
+               &game == &MainGame ? MainGame.BallCaption(BallColumns - 1) : QStringLiteral("Thunder"));
 }
 
 int EntryGridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(entries.size());
+    return parent.isValid() ? 0 : static_cast<int>(rows.size());
 }
 
 std::vector<double> EntryGridModel::ColumnShares()
@@ -43,7 +45,7 @@ std::vector<double> EntryGridModel::ColumnShares()
 
 QString EntryGridModel::CellText(int row, int column) const
 {
-    const EntryRow& entry = entries.at(static_cast<size_t>(row));
+    const EntryRow& entry = rows.at(static_cast<size_t>(row));
     if (column == 0)
         return QString::number(entry.number);
     if (column < FirstBallColumn)
