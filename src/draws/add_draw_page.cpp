@@ -83,18 +83,8 @@ void AddDrawPage::BuildCards()
     if (game.hasMachine) {
         machine = MakeEditableList(ControlName(game, "Mmachine"), QStringLiteral("Machine"));
         ballSet = MakeEditableList(ControlName(game, "Mballset"), QStringLiteral("Set of Balls"));
-        auto* form = new QGridLayout;
-        form->setHorizontalSpacing(Spacing::Page);
-        form->setVerticalSpacing(Spacing::Between);
-        const QString captions = QLatin1String(TextsOf(game).caption);
-        form->addWidget(MakeLabel(QStringLiteral("Machine"), TextRole::Caption, ElementName(captions, 7)), 0, 0);
-        form->addWidget(machine, 0, 1);
-        form->addWidget(MakeLabel(QStringLiteral("Set of Balls"), TextRole::Caption, ElementName(captions, 8)), 1, 0);
-        form->addWidget(ballSet, 1, 1);
-        form->setColumnMinimumWidth(1, 14 * fontMetrics().averageCharWidth());
-        form->setColumnStretch(2, 1);
         drawCard->Content()->addSpacing(Spacing::Between);
-        drawCard->Content()->addLayout(form);
+        drawCard->Content()->addLayout(MakeMachineForm(machine, ballSet, QLatin1String(TextsOf(game).caption)));
     }
     drawCard->Content()->addStretch(1);
     auto* cards = new QHBoxLayout;

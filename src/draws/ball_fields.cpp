@@ -39,7 +39,7 @@ BallFields::BallFields(const Names& names, const QStringList& captions, QWidget*
         }
         auto* column = new QVBoxLayout;
         column->setSpacing(Spacing::Inside);
-        column->addWidget(disc, 0, Qt::AlignHCenter);
+        column->addWidget(disc, 0, Qt::AlignHCenter | Qt::AlignTop);
         column->addWidget(caption, 0, Qt::AlignHCenter);
         row->addLayout(column);
         ConnectGuarded(field, &BallEdit::Left, this, [this, slot](bool byMouse) { FieldLeft(slot, byMouse); });
@@ -119,6 +119,12 @@ void BallFields::SetCaption(int slot, const QString& caption)
         numbered || caption == QLatin1String("Thunderball") ? caption : caption + QStringLiteral(" ball"));
 }
 
+void BallFields::SelectTextOnFocus()
+{
+    for (BallEdit* field : fields)
+        field->SelectTextOnFocus();
+}
+
 void BallFields::SetLastApart(bool apart)
 {
     gap->setVisible(apart);
@@ -133,12 +139,12 @@ void BallFields::FieldLeft(int slot, bool byMouse)
     if (byMouse)
         SwallowMousePressInProgress();
     // The message waits until the focus has arrived where it was going: a box opened in between would lose it.
-    QTimer::singleShot(0, this, [this, slot, message = verdict.message] {
+    QTimer::singleShot(0, this, [this, slot, verdict] {
         if (!isVisible())
             return;
-        ShowMessage(message);
+        ShowMessage(verdict.message);
         Field(slot)->clear();
-        SetColours(slot, EmptyBallColours);
+        SetColours(slot, verdict.colours);
         FocusField(slot);
     });
 }

@@ -56,6 +56,8 @@ public:
     QLabel* Caption(int slot) const { return captionLabels.at(static_cast<size_t>(slot)); }
     /// Names a slot for the eye and for a screen reader.
     void SetCaption(int slot, const QString& caption);
+    /// Selects the whole text of a field that gets the focus, so that typing replaces it.
+    void SelectTextOnFocus();
     /// The gap before the last field, where the extra ball stands apart.
     void SetLastApart(bool apart);
 

@@ -1,8 +1,10 @@
 #include "draws/draw_controls.h"
 
 #include "draws/game.h"
+#include "platform/page_frame.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 
 BallFields::Names DrawFieldNames(const Game& game, const QString& field, const QString& disc, const QString& caption)
 {
@@ -29,4 +31,18 @@ QComboBox* MakeEditableList(const QString& name, const QString& accessibleName)
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setCompleter(nullptr);
     return list;
+}
+
+QGridLayout* MakeMachineForm(QComboBox* machine, QComboBox* ballSet, const QString& captionArray)
+{
+    auto* form = new QGridLayout;
+    form->setHorizontalSpacing(Spacing::Page);
+    form->setVerticalSpacing(Spacing::Between);
+    form->addWidget(MakeLabel(QStringLiteral("Machine"), TextRole::Caption, ElementName(captionArray, 7)), 0, 0);
+    form->addWidget(machine, 0, 1);
+    form->addWidget(MakeLabel(QStringLiteral("Set of Balls"), TextRole::Caption, ElementName(captionArray, 8)), 1, 0);
+    form->addWidget(ballSet, 1, 1);
+    form->setColumnMinimumWidth(1, 14 * machine->fontMetrics().averageCharWidth());
+    form->setColumnStretch(2, 1);
+    return form;
 }

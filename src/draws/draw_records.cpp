@@ -3,7 +3,10 @@
 #include "draws/draw_tables.h"
 #include "draws/game.h"
 #include "platform/dates.h"
+#include "platform/failure.h"
 #include "records/record_set.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -28,7 +31,9 @@ void SetDrawnBalls(RecordSet& table, const Game& game, const EnteredDraw& draw)
 DrawRow ReadDraw(const RecordSet& set, const Game& game)
 {
     DrawRow row;
-    row.number = static_cast<std::int64_t>(set.Number(DrawField::DrawId));
+    // Numbers beyond this bound are not whole any more; only a foreign file can hold them.
+    constexpr double largest = 9007199254740992.0;
+    row.number = static_cast<std::int64_t>(std::clamp(set.Number(DrawField::DrawId), -largest, largest));
     row.date = set.Text(DrawField::Date);
     row.day = set.Text(DrawField::Day);
     for (int slot = 0; slot < game.BallCount(); ++slot)
@@ -49,12 +54,25 @@ bool FindDrawByDate(RecordSet& table, QDate date)
     return false;
 }
 
-bool FindRecord(RecordSet& table, std::int64_t number)
+bool IsOnDate(RecordSet& list, QDate date)
 {
-    for (table.MoveFirst(); !table.Eof(); table.MoveNext())
-        if (table.Number(0) == static_cast<double>(number))
+    return !list.Bof() && !list.Eof() && list.Text(DrawField::Date) == IsoDate(date);
+}
+
+bool FindLastDrawOfDate(RecordSet& list, QDate date)
+{
+    const std::string wanted = IsoDate(date);
+    for (list.MoveLast(); !list.Bof(); list.MovePrevious())
+        if (list.Text(DrawField::Date) == wanted)
             return true;
     return false;
+}
+
+void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing)
+{
+    if (!FindRecord(set, drawId))
+        throw Failure(doing, "another copy of the program has deleted it meanwhile",
+                      "no draw of number " + std::to_string(drawId));
 }
 
 void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw)

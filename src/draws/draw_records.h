@@ -1,11 +1,13 @@
 #pragma once
 
 #include "draws/draw_row.h"
+#include "records/record_numbers.h"
 
 #include <QDate>
 #include <QString>
 
 #include <array>
+#include <string>
 
 class RecordSet;
 struct Game;
@@ -16,8 +18,15 @@ DrawRow ReadDraw(const RecordSet& set, const Game& game);
 /// Moves the table to the first row of the given date; false, and at the end, when there is none.
 bool FindDrawByDate(RecordSet& table, QDate date);
 
-/// Moves the table to the first row of the given number; false, and at the end, when there is none.
-bool FindRecord(RecordSet& table, std::int64_t number);
+/// Whether the list stands on a record of the given date.
+bool IsOnDate(RecordSet& list, QDate date);
+
+/// Moves the list to the last of its records of the given date; false, and at the start, when there is none.
+bool FindLastDrawOfDate(RecordSet& list, QDate date);
+
+/// Moves the table or list to the draw of the given number. Throws Failure where there is none any more; `doing` is
+/// the clause that it carries.
+void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing);
 
 /// What a page knows of a draw that is to be stored.
 struct EnteredDraw

@@ -14,6 +14,25 @@ constexpr qreal RingRoom = 3;
 
 } // namespace
 
+void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour)
+{
+    painter.setPen(Qt::NoPen);
+    for (int step = 3; step >= 1; --step) {
+        painter.setBrush(QColor(0, 0, 0, 14));
+        painter.drawEllipse(ball.translated(0, ShadowRoom - 1).adjusted(-step + 1, -step + 1, step - 1, step - 1));
+    }
+
+    // The digits stand in the middle, so the middle keeps the ball's own colour and only the rim is shaded.
+    QRadialGradient light(ball.center(), ball.width() / 2 * 1.15,
+                          ball.topLeft() + QPointF(ball.width() * 0.33, ball.height() * 0.28));
+    light.setColorAt(0, colour.lightness() > 200 ? QColor(Qt::white) : colour.lighter(122));
+    light.setColorAt(0.45, colour);
+    light.setColorAt(1, colour.darker(116));
+    painter.setBrush(light);
+    painter.setPen(QPen(QColor(0, 0, 0, CurrentTheme().dark ? 150 : 120), 1));
+    painter.drawEllipse(ball);
+}
+
 BallDisc::BallDisc(QWidget* parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -34,10 +53,16 @@ void BallDisc::SetColour(const QColor& colour)
     setPalette(changed);
 }
 
+void BallDisc::MakeCompact()
+{
+    compact = true;
+    updateGeometry();
+}
+
 QSize BallDisc::sizeHint() const
 {
     const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.5));
-    return {side, side};
+    return compact ? QSize(side, side) * 5 / 6 : QSize(side, side);
 }
 
 QRectF BallDisc::BallRect() const
@@ -54,21 +79,7 @@ void BallDisc::paintEvent(QPaintEvent* /*event*/)
     const QColor colour = palette().color(QPalette::Window);
     const QRectF ball = BallRect();
 
-    painter.setPen(Qt::NoPen);
-    for (int step = 3; step >= 1; --step) {
-        painter.setBrush(QColor(0, 0, 0, 14));
-        painter.drawEllipse(ball.translated(0, ShadowRoom - 1).adjusted(-step + 1, -step + 1, step - 1, step - 1));
-    }
-
-    // The digits stand in the middle, so the middle keeps the ball's own colour and only the rim is shaded.
-    QRadialGradient light(ball.center(), ball.width() / 2 * 1.15,
-                          ball.topLeft() + QPointF(ball.width() * 0.33, ball.height() * 0.28));
-    light.setColorAt(0, colour.lightness() > 200 ? QColor(Qt::white) : colour.lighter(122));
-    light.setColorAt(0.45, colour);
-    light.setColorAt(1, colour.darker(116));
-    painter.setBrush(light);
-    painter.setPen(QPen(QColor(0, 0, 0, CurrentTheme().dark ? 150 : 120), 1));
-    painter.drawEllipse(ball);
+    PaintBall(painter, ball, colour);
 
     if (carried != nullptr && carried->hasFocus()) {
         painter.setBrush(Qt::NoBrush);

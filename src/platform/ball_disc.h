@@ -5,6 +5,10 @@
 
 class QLabel;
 
+/// Paints a ball of one colour, lit from the upper left, with a thin dark outline and a soft shadow. The shadow needs
+/// about three pixels around the ball.
+void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour);
+
 /// A ball: a disc of one colour, lit from the upper left, on which a label or a text field shows the number. Its colour
 /// is the Window role of its palette.
 class BallDisc : public QWidget
@@ -17,6 +21,8 @@ public:
     /// Puts the control that shows the number onto the ball; the ball draws a ring while it has the focus.
     void Carry(QWidget* number);
     void SetColour(const QColor& colour);
+    /// Makes the ball a little smaller, for two draws that stand side by side.
+    void MakeCompact();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -32,6 +38,7 @@ private:
     QRectF BallRect() const;
 
     QWidget* carried = nullptr;
+    bool compact = false;
 };
 
 /// Makes a ball with a label on it. `discName` and `numberName` are their object names.

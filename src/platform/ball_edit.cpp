@@ -4,7 +4,7 @@
 #include "platform/theme.h"
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QFocusEvent>
 #include <QTimer>
 
 namespace {
@@ -30,7 +30,7 @@ public:
 
 } // namespace
 
-BallEdit::BallEdit(QWidget* parent) : QLineEdit(parent)
+BallEdit::BallEdit(QWidget* parent) : TextBox(parent)
 {
     setProperty(BareProperty, true);
     setFrame(false);
@@ -47,23 +47,15 @@ void BallEdit::SetColours(const QColor& ball, const QColor& digits)
     setPalette(changed);
 }
 
-void BallEdit::keyPressEvent(QKeyEvent* event)
+void BallEdit::focusInEvent(QFocusEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Q_EMIT EnterPressed();
-    else
-        QLineEdit::keyPressEvent(event);
-}
-
-void BallEdit::focusOutEvent(QFocusEvent* event)
-{
-    QLineEdit::focusOutEvent(event);
-    const auto reason = event->reason();
-    // A message box, a menu or another program takes the focus for a while only; a page that is being left is hidden.
-    const bool goneForGood = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
-                             reason != Qt::MenuBarFocusReason && isVisible();
-    if (goneForGood)
-        Q_EMIT Left(reason == Qt::MouseFocusReason);
+    TextBox::focusInEvent(event);
+    if (!selectsOnFocus)
+        return;
+    selectAll();
+    // The press of the mouse that brings the focus goes on to place the cursor, so the text is selected after it.
+    if (event->reason() == Qt::MouseFocusReason)
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
 void SwallowMousePressInProgress()

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QLineEdit>
+#include "platform/text_box.h"
 
 /// The text field on a ball: no frame and no background of its own. Its colours are the Base and Text roles of its
 /// palette, as the ball's is its Window role.
-class BallEdit : public QLineEdit
+class BallEdit : public TextBox
 {
     Q_OBJECT
 
@@ -12,16 +12,14 @@ public:
     explicit BallEdit(QWidget* parent = nullptr);
 
     void SetColours(const QColor& ball, const QColor& digits);
-
-Q_SIGNALS:
-    /// The Enter key was pressed.
-    void EnterPressed();
-    /// The focus went to another control of the window. `byMouse` when a press of the mouse took it.
-    void Left(bool byMouse);
+    /// Selects the whole text whenever the field gets the focus.
+    void SelectTextOnFocus() { selectsOnFocus = true; }
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    bool selectsOnFocus = false;
 };
 
 /// Makes the press of the mouse that is just being delivered do nothing: it took the focus from a field whose content

@@ -1,5 +1,7 @@
 #include "platform/dates.h"
 
+#include "platform/texts.h"
+
 #include <QLocale>
 
 namespace {
@@ -48,6 +50,12 @@ QString ShortDayName(QDate date)
 QString LongDate(QDate date)
 {
     return English().toString(date, QStringLiteral("dddd, d MMMM yyyy"));
+}
+
+QString LongStoredDate(std::string_view iso)
+{
+    const QDate date = DateFromIso(iso);
+    return date.isValid() ? LongDate(date) : FromUtf8(iso);
 }
 
 QString DateInWords(QDate date)

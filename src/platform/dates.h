@@ -19,6 +19,9 @@ QString ShortDayName(QDate date);
 /// "Saturday, 5 February 2000", always in English; empty for an invalid date.
 QString LongDate(QDate date);
 
+/// The same for a date as the files hold it; a text that is no date is given as it stands.
+QString LongStoredDate(std::string_view iso);
+
 /// "5 February 2000", always in English; empty for an invalid date.
 QString DateInWords(QDate date);
 

@@ -1,11 +1,23 @@
 #include "platform/message_box.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 const QString ApplicationTitle = QStringLiteral("Tavenor 3");
 
 namespace {
+
+/// The box would break lines that are a little longer than others; lines of a usual length stay whole.
+void KeepLinesWhole(QMessageBox& box)
+{
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (label == nullptr)
+        return;
+    const QFontMetrics metrics = label->fontMetrics();
+    const int natural = metrics.size(0, label->text()).width() + 2 * metrics.averageCharWidth();
+    label->setMinimumWidth(qMin(natural, metrics.averageCharWidth() * 90));
+}
 
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, const QString& title, const QString& text,
                                  QMessageBox::StandardButtons buttons, QMessageBox::StandardButton quietButton)
@@ -13,6 +25,7 @@ QMessageBox::StandardButton Show(QMessageBox::Icon icon, const QString& title, c
     QMessageBox box(icon, title, QString(), buttons, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
+    KeepLinesWhole(box);
     box.setDefaultButton(quietButton);
     box.setEscapeButton(quietButton);
     return static_cast<QMessageBox::StandardButton>(box.exec());

@@ -1,5 +1,6 @@
 #include "platform/style.h"
 
+#include "platform/scroll_bar.h"
 #include "platform/theme.h"
 
 #include <QAbstractItemView>
@@ -123,43 +124,6 @@ void DrawHeaderSection(const QStyleOption* option, QPainter* painter)
     painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
 }
 
-/// The place of the slider, or of the groove before or behind it.
-QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part)
-{
-    const bool across = bar.orientation == Qt::Horizontal;
-    const int length = across ? bar.rect.width() : bar.rect.height();
-    const int range = bar.maximum - bar.minimum;
-    int slider = length;
-    if (range > 0)
-        slider =
-            qBound(qMin(length, 28), static_cast<int>(qint64{length} * bar.pageStep / (range + bar.pageStep)), length);
-    const int start =
-        QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, length - slider, bar.upsideDown);
-    int from = 0;
-    int size = length;
-    if (part == QStyle::SC_ScrollBarSubPage) {
-        size = start;
-    } else if (part == QStyle::SC_ScrollBarAddPage) {
-        from = start + slider;
-        size = length - from;
-    } else if (part == QStyle::SC_ScrollBarSlider) {
-        from = start;
-        size = slider;
-    }
-    return across ? QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height())
-                  : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size);
-}
-
-void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter* painter)
-{
-    painter->fillRect(bar.rect, bar.palette.color(QPalette::AlternateBase));
-    QColor thumb = OutlineColour(bar.palette);
-    if (bar.activeSubControls & QStyle::SC_ScrollBarSlider)
-        thumb = bar.palette.color(QPalette::PlaceholderText);
-    const QRectF inner = QRectF(slider).adjusted(3, 3, -3, -3);
-    FillRounded(painter, inner, qMin(inner.width(), inner.height()) / 2, thumb, QColor());
-}
-
 } // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
@@ -239,7 +203,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 {
     if (control == CC_ScrollBar) {
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
-            DrawScrollBar(*bar, proxy()->subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget), painter);
+            DrawScrollBar(*bar, painter);
         return;
     }
     if (control == CC_ToolButton) {
@@ -270,13 +234,9 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
         return visualRect(option->direction, option->rect,
                           option->rect.adjusted(Spacing::Between - 2, 2, -ArrowWidth, -2));
-    if (control == CC_ScrollBar) {
-        // The bar has no arrows at its ends, so that all of its length is for the slider.
-        if (subControl == SC_ScrollBarAddLine || subControl == SC_ScrollBarSubLine)
-            return {};
+    if (control == CC_ScrollBar)
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
             return ScrollBarPart(*bar, subControl);
-    }
     return QProxyStyle::subControlRect(control, option, subControl, widget);
 }
 
@@ -295,8 +255,6 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return IndicatorSize;
-    case PM_ScrollBarExtent:
-        return 2 * Spacing::Inside + 2;
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return Spacing::Inside + 2;
@@ -337,7 +295,6 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 {
     switch (hint) {
     case SH_ComboBox_Popup:
-    case SH_ScrollBar_Transient:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
         return 0;

@@ -24,13 +24,15 @@ DayBoxes::DayBoxes(const Names& names, const QString& captionPrefix, QWidget* pa
         connect(box, &QCheckBox::toggled, this, &DayBoxes::Changed);
         grid->addWidget(box, day % rowsInColumn, day / rowsInColumn);
     }
+    grid->setColumnStretch(3, 1);
+    if (names.selectAll.isEmpty())
+        return;
     auto* selectAll = new Button(QStringLiteral("Select All"), names.selectAll);
     auto* clearAll = new Button(QStringLiteral("Clear All"), names.clearAll);
     ConnectGuarded(selectAll, &QPushButton::clicked, this, [this] { SetAll(true); });
     ConnectGuarded(clearAll, &QPushButton::clicked, this, [this] { SetAll(false); });
     grid->addWidget(selectAll, 0, 2, 2, 1, Qt::AlignVCenter);
     grid->addWidget(clearAll, 2, 2, 2, 1, Qt::AlignVCenter);
-    grid->setColumnStretch(3, 1);
 }
 
 DaySet DayBoxes::Days() const
@@ -38,6 +40,12 @@ DaySet DayBoxes::Days() const
     DaySet days{};
     std::transform(boxes.begin(), boxes.end(), days.begin(), [](const QCheckBox* box) { return box->isChecked(); });
     return days;
+}
+
+void DayBoxes::SetDays(const DaySet& days)
+{
+    for (size_t day = 0; day < days.size(); ++day)
+        boxes.at(day)->setChecked(days.at(day));
 }
 
 bool DayBoxes::AnyTicked() const

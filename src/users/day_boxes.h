@@ -8,7 +8,7 @@
 
 class QCheckBox;
 
-/// The seven day check boxes, Monday to Sunday, with the buttons that tick and untick them all.
+/// The seven day check boxes, Monday to Sunday, with the buttons that tick and untick them all where these have names.
 class DayBoxes : public QWidget
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ public:
     DayBoxes(const Names& names, const QString& captionPrefix, QWidget* parent = nullptr);
 
     DaySet Days() const;
+    void SetDays(const DaySet& days);
     bool AnyTicked() const;
     void SetAll(bool ticked);
 

@@ -28,6 +28,15 @@ void SetUser(RecordSet& users, const QString& name, double spendLimit)
     users.Update();
 }
 
+void SetNumbersAndDays(RecordSet& entries, const std::array<double, 6>& numbers, const DaySet& days)
+{
+    for (int i = 0; i < 6; ++i)
+        entries.SetField(EntryField::FirstBall + i, NumberField(numbers.at(static_cast<size_t>(i))));
+    for (int day = 0; day < 7; ++day)
+        entries.SetField(EntryField::Monday + day, FlagField(days.at(static_cast<size_t>(day))));
+    entries.Update();
+}
+
 } // namespace
 
 UserRow ReadUser(const RecordSet& users)
@@ -64,6 +73,15 @@ std::vector<EntryRow> ReadAllEntries(RecordSet& entries)
     rows.reserve(static_cast<size_t>(entries.Count()));
     for (; !entries.Eof(); entries.MoveNext())
         rows.push_back(ReadEntry(entries));
+    return rows;
+}
+
+std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType)
+{
+    std::vector<EntryRow> rows;
+    for (entries.MoveFirst(); !entries.Eof(); entries.MoveNext())
+        if (WholeField(entries, EntryField::UserId) == userId && WholeField(entries, EntryField::DrawType) == drawType)
+            rows.push_back(ReadEntry(entries));
     return rows;
 }
 
@@ -117,11 +135,13 @@ void AddEntry(RecordSet& entries, const EntryRow& entry)
     entries.SetField(EntryField::EntryId, entry.number);
     entries.SetField(EntryField::UserId, entry.userId);
     entries.SetField(EntryField::DrawType, std::int64_t{entry.drawType});
-    for (int i = 0; i < 6; ++i)
-        entries.SetField(EntryField::FirstBall + i, NumberField(entry.numbers.at(static_cast<size_t>(i))));
-    for (int day = 0; day < 7; ++day)
-        entries.SetField(EntryField::Monday + day, FlagField(entry.days.at(static_cast<size_t>(day))));
-    entries.Update();
+    SetNumbersAndDays(entries, entry.numbers, entry.days);
+}
+
+void ChangeEntry(RecordSet& entries, const std::array<double, 6>& numbers, const DaySet& days)
+{
+    entries.Edit();
+    SetNumbersAndDays(entries, numbers, days);
 }
 
 void DeleteUserEntries(RecordSet& entries, std::int64_t userId)

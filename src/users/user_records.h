@@ -25,6 +25,9 @@ EntryRow ReadEntry(const RecordSet& entries);
 std::vector<UserRow> ReadAllUsers(RecordSet& users);
 std::vector<EntryRow> ReadAllEntries(RecordSet& entries);
 
+/// The user's entries of one game, in the order in which they were added.
+std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
+
 /// Moves to the first user of exactly this name; false, and at the end, when there is none.
 bool FindUserByName(RecordSet& users, const QString& name);
 
@@ -45,6 +48,9 @@ void ChangeUser(RecordSet& users, const QString& name, double spendLimit);
 
 /// Adds an entry under the number it carries. Throws Failure.
 void AddEntry(RecordSet& entries, const EntryRow& entry);
+
+/// Writes numbers and days over the current entry; its number, owner and game stay. Throws Failure.
+void ChangeEntry(RecordSet& entries, const std::array<double, 6>& numbers, const DaySet& days);
 
 /// Deletes every entry of the user, of both games. Throws Failure; to be asked for inside a transaction.
 void DeleteUserEntries(RecordSet& entries, std::int64_t userId);

@@ -38,7 +38,8 @@ void ModalWindows::WillDo(std::function<void(QDialog&)> action)
         if (qobject_cast<QMessageBox*>(&dialog) != nullptr)
             return false;
         action(dialog);
-        return true;
+        // A check that failed in the middle leaves the window open.
+        return !dialog.isVisible();
     });
 }
 
@@ -162,8 +163,8 @@ TestWindow::~TestWindow()
 void TestWindow::Settle()
 {
     QApplication::processEvents();
-    // There is no window manager that would give the focus back when a message box has closed.
-    if (QApplication::activeWindow() == nullptr) {
+    // There is no window manager that would give the focus back when a message box or a list has closed.
+    if (QApplication::activeWindow() == nullptr || !QApplication::activeWindow()->isVisible()) {
         window->activateWindow();
         QApplication::processEvents();
     }

@@ -116,9 +116,11 @@ public:
     ModalWindows modals;
     bool ended = false;
 
-private:
+protected:
+    /// Lets what an action has set off come to its end, and gives the window its focus back.
     void Settle();
 
+private:
     std::unique_ptr<MainWindow> window;
 };
 

@@ -1,0 +1,222 @@
+#include "builder/entry_generator_page.h"
+
+#include "builder/built_entries.h"
+#include "builder/number_window.h"
+#include "builder/step_card.h"
+#include "draws/game.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "platform/numbers.h"
+#include "platform/random_source.h"
+#include "platform/text_box.h"
+#include "shell/open_databases.h"
+#include "shell/page_switch.h"
+#include "users/draw_day_window.h"
+#include "users/user_records.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+std::vector<EntryRow> AsEntries(const std::vector<Line>& lines)
+{
+    std::vector<EntryRow> entryRows(lines.size());
+    for (size_t i = 0; i < lines.size(); ++i)
+        std::copy(lines[i].begin(), lines[i].end(), entryRows[i].numbers.begin());
+    return entryRows;
+}
+
+} // namespace
+
+EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
+    : PageFrame(26, QStringLiteral("Main Draw Entry Generator")),
+      pages(pageSwitch),
+      card(new StepCard),
+      F26combo(card->F26combo),
+      gridCard(KeepingRoom(new Card)),
+      F26grid(new GridView(QStringLiteral("F26grid"), QStringLiteral("Built entries")))
+{
+    F26grid->setModel(&lines);
+    F26grid->SetColumnShares(EntryGridModel::ColumnShares());
+    gridCard->Content()->addWidget(F26grid);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(Spacing::Cards);
+    cards->addWidget(card, 5, Qt::AlignTop);
+    cards->addWidget(gridCard, 6);
+    Body()->addLayout(cards, 1);
+    F26store = KeepingRoom(AddFooterDefault(QStringLiteral("Store Entries"), QStringLiteral("F26store")));
+    ConnectHandlers();
+}
+
+void EntryGeneratorPage::ConnectHandlers()
+{
+    ConnectGuarded(F26combo[0], &QComboBox::activated, this, [this] { UserChosen(); });
+    ConnectGuarded(F26combo[1], &QComboBox::activated, this, [this] { TypeChosen(); });
+    ConnectGuarded(F26combo[2], &QComboBox::activated, this, [this] { OptionChosen(); });
+    ConnectGuarded(card->F26text, &TextBox::EnterPressed, this, [this] { CountGiven(); });
+    ConnectGuarded(card->F26text, &TextBox::Left, this, [this] { CountGiven(); });
+    ConnectGuarded(card->F26info, &QPushButton::clicked, this, [this] { F26info_Click(); });
+    ConnectGuarded(card->F26choose, &QPushButton::clicked, this, [this] { F26choose_Click(); });
+    ConnectGuarded(card->F26go, &QPushButton::clicked, this, [this] { F26go_Click(); });
+    ConnectGuarded(F26store, &QPushButton::clicked, this, [this] { StoreBuiltEntries(); });
+}
+
+void EntryGeneratorPage::Prepare()
+{
+    steps.Begin();
+    lines.Fill(MainGame, {});
+    F26combo[0]->clear();
+    const std::vector<UserRow> allUsers = ReadAllUsers(users);
+    if (allUsers.empty()) {
+        pages.ChooseMenu(3, 1);
+        ShowMessage(QStringLiteral("You cannot store entries until you have created a user profile."));
+        return;
+    }
+    for (const UserRow& user : allUsers)
+        F26combo[0]->addItem(user.name);
+    F26combo[0]->setCurrentIndex(-1);
+    F26combo[1]->clear();
+    for (const BuildType& type : BuildTypes)
+        F26combo[1]->addItem(type.name);
+    F26combo[1]->setCurrentIndex(-1);
+    show();
+    F26combo[0]->setFocus(Qt::TabFocusReason);
+    ShowControls();
+}
+
+void EntryGeneratorPage::ShowControls()
+{
+    const ShownControls shown = steps.Shown();
+    card->Show(shown);
+    F26grid->setVisible(shown.grid);
+    gridCard->setVisible(shown.grid);
+    F26store->setVisible(shown.store);
+}
+
+void EntryGeneratorPage::UserChosen()
+{
+    const bool another = steps.ChooseUser(F26combo[0]->currentIndex());
+    if (another)
+        F26combo[1]->setCurrentIndex(-1);
+    ShowControls();
+    if (another)
+        F26combo[1]->setFocus(Qt::TabFocusReason);
+}
+
+void EntryGeneratorPage::TypeChosen()
+{
+    if (F26combo[1]->currentIndex() < 0)
+        return;
+    steps.ChooseType(static_cast<BuildMethod>(F26combo[1]->currentIndex()));
+    const BuildType& type = TypeOf(*steps.Method());
+    card->Describe(type);
+    ShowControls();
+    switch (type.input) {
+    case OptionInput::Count:
+        card->F26text->setFocus(Qt::TabFocusReason);
+        break;
+    case OptionInput::Option:
+        F26combo[2]->setFocus(Qt::TabFocusReason);
+        break;
+    case OptionInput::Nothing:
+        card->F26go->setFocus(Qt::TabFocusReason);
+        break;
+    }
+}
+
+void EntryGeneratorPage::OptionChosen()
+{
+    steps.ChooseOption();
+    state.NumbersChosen = false;
+    ShowControls();
+}
+
+void EntryGeneratorPage::CountGiven()
+{
+    if (!steps.Shown().count)
+        return;
+    const bool possible = IsPossibleEntryCount(NumericValue(card->F26text->text()));
+    steps.GiveCount(possible);
+    if (!possible)
+        card->F26text->clear();
+    ShowControls();
+    if (possible)
+        card->F26go->setFocus(Qt::TabFocusReason);
+}
+
+void EntryGeneratorPage::F26info_Click()
+{
+    if (!steps.Method())
+        return;
+    const BuildType& type = TypeOf(*steps.Method());
+    ShowInformation(type.name, type.description.join(Crlf));
+}
+
+void EntryGeneratorPage::F26choose_Click()
+{
+    steps.BeginNumbers();
+    state.NumbersChosen = false;
+    state.NumbersRequired = ChosenOptionNumbers();
+    ShowControls();
+    NumberWindow(state, this).exec();
+    steps.EndNumbers(state.NumbersChosen);
+    ShowControls();
+}
+
+int EntryGeneratorPage::ChosenOptionNumbers() const
+{
+    return TypeOf(*steps.Method()).options.at(static_cast<size_t>(F26combo[2]->currentIndex())).numbersRequired;
+}
+
+void EntryGeneratorPage::F26go_Click()
+{
+    // The press may have taken the focus from a count that was refused.
+    if (!steps.MayBuild())
+        return;
+    lines.Fill(MainGame, AsEntries(Build()));
+    F26grid->scrollToTop();
+    steps.LinesBuilt();
+    ShowControls();
+    F26info_Click();
+    steps.OfferStore();
+    ShowControls();
+}
+
+std::vector<Line> EntryGeneratorPage::Build()
+{
+    RandomSource& random = SharedRandomSource();
+    const std::span<const int> chosen = std::span(state.ChosenNumbers).subspan(1);
+    switch (*steps.Method()) {
+    case BuildMethod::Random:
+        random.ReseedFromTimeOfDay();
+        return BuildRandomEntries(static_cast<int>(NumericValue(card->F26text->text())), random);
+    case BuildMethod::KeyNumbers:
+        return BuildKeyNumberEntries(chosen.first(static_cast<size_t>(ChosenOptionNumbers())), random);
+    case BuildMethod::WheeledPairs:
+        return BuildWheeledPairEntries(chosen.first(static_cast<size_t>(ChosenOptionNumbers())));
+    case BuildMethod::FullSelection:
+        return BuildFullSelectionEntries(random);
+    }
+    return {};
+}
+
+void EntryGeneratorPage::StoreBuiltEntries()
+{
+    const QString userName = F26combo[0]->currentText();
+    RaiseLimit raise = RaiseLimit::No;
+    if (ExceedsSpendLimit(userName, lines.rowCount())) {
+        if (!AskYesNo(QStringLiteral("This users spend limit is to low to allow you to store these entries.") + Crlf +
+                      QStringLiteral("Do you want to raise the spend limit."))) {
+            ShowMessage(QStringLiteral("These entries have NOT been stored."));
+            return;
+        }
+        raise = RaiseLimit::Yes;
+    }
+    DrawDayWindow(state.BuilderDays, this).exec();
+    StoreEntriesOfUser(userName, lines.Rows(), state.BuilderDays, raise);
+    ShowMessage(QStringLiteral("The entries have been stored."));
+    Prepare();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "builder/builder_state.h"
+
+#include <QDialog>
+
+class Button;
+class NumberBoard;
+class QLabel;
+
+/// The number-picking window, frmnumsel. It shows the numbers chosen last and offers Store while exactly the required
+/// count is ticked; left in any other way than by Store, it keeps the chosen numbers as they were.
+class NumberWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    NumberWindow(BuilderState& builderState, QWidget* parent);
+
+private:
+    void UpdateSelectionCount();
+    void random_Click();
+    void store_Click();
+    void nostore_Click();
+
+    BuilderState& state;
+    NumberBoard* board;
+    QLabel* countLabel;
+    Button* store;
+};

@@ -1,0 +1,121 @@
+#include "builder/step_card.h"
+
+#include "platform/page_frame.h"
+#include "platform/text_box.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace {
+
+QComboBox* MakeList(int index, const QString& caption)
+{
+    auto* list = KeepingRoom(new QComboBox);
+    list->setObjectName(ElementName(QStringLiteral("F26combo"), index));
+    list->setAccessibleName(caption);
+    // A long name is cut off in the list; it does not widen the page.
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(16);
+    return list;
+}
+
+TextBox* MakeCountBox()
+{
+    auto* box = KeepingRoom(new TextBox);
+    box->setObjectName(QStringLiteral("F26text"));
+    box->setText(QStringLiteral("200"));
+    box->setFixedWidth(box->fontMetrics().averageCharWidth() * 16);
+    return box;
+}
+
+Button* MakeButton(const char* caption, const char* name)
+{
+    return KeepingRoom(new Button(QLatin1String(caption), QLatin1String(name)));
+}
+
+QLabel* MakeStepLabel(const char* caption, TextRole role, int index)
+{
+    return KeepingRoom(MakeLabel(QLatin1String(caption), role, ElementName(QStringLiteral("Label"), index)));
+}
+
+} // namespace
+
+StepCard::StepCard()
+    : F26combo{MakeList(0, QStringLiteral("Select User")), MakeList(1, QStringLiteral("Select Build Type")),
+               MakeList(2, QStringLiteral("Select Options"))},
+      F26text(MakeCountBox()),
+      F26info(MakeButton("i", "F26info")),
+      F26choose(MakeButton("Choose Numbers", "F26choose")),
+      F26go(MakeButton("GO !", "F26go")),
+      entriesLabel(MakeStepLabel("1- 200 entries", TextRole::Caption, 8)),
+      promptLabel(MakeStepLabel("How many entries? (1 - 200)", TextRole::Caption, 9)),
+      noNumbersLabel(MakeStepLabel("No numbers needed", TextRole::Body, 12))
+{
+    F26info->setAccessibleName(QStringLiteral("About this build type"));
+    F26info->setFixedWidth(F26info->sizeHint().height());
+    F26go->MakeAccent();
+    Content()->setSpacing(Spacing::Inside);
+    AddStep("Step 1:", "Select User");
+    Content()->addWidget(F26combo[0]);
+    AddStep("Step 2:", "Select Build Type");
+    auto* typeRow = new QHBoxLayout;
+    typeRow->setSpacing(Spacing::Inside);
+    typeRow->addWidget(F26combo[1], 1);
+    typeRow->addWidget(F26info);
+    Content()->addLayout(typeRow);
+    Content()->addWidget(entriesLabel);
+    AddStep("Step 3:", "Select Options");
+    Content()->addWidget(promptLabel);
+    AddInOnePlace(F26combo[2], F26text, {});
+    AddStep("Step 4:", "Select Numbers");
+    AddInOnePlace(F26choose, noNumbersLabel, Qt::AlignLeft);
+    AddStep("Step 5:", "Start Build Process");
+    Content()->addWidget(F26go, 0, Qt::AlignLeft);
+}
+
+void StepCard::AddStep(const char* number, const char* title)
+{
+    if (Content()->count() > 0)
+        Content()->addSpacing(Spacing::Between);
+    auto* heading = new QHBoxLayout;
+    heading->setSpacing(Spacing::Inside);
+    heading->addWidget(MakeLabel(QLatin1String(number), TextRole::Caption), 0, Qt::AlignBaseline);
+    heading->addWidget(MakeLabel(QLatin1String(title), TextRole::Strong), 1, Qt::AlignBaseline);
+    Content()->addLayout(heading);
+}
+
+void StepCard::AddInOnePlace(QWidget* first, QWidget* second, Qt::Alignment alignmentOfFirst)
+{
+    // Of the two at most one is seen at a time.
+    auto* place = new QGridLayout;
+    place->addWidget(first, 0, 0, alignmentOfFirst);
+    place->addWidget(second, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    Content()->addLayout(place);
+}
+
+void StepCard::Describe(const BuildType& type)
+{
+    entriesLabel->setText(type.entries);
+    promptLabel->setText(type.optionPrompt);
+    F26text->clear();
+    F26combo[2]->clear();
+    for (const BuildOption& option : type.options)
+        F26combo[2]->addItem(option.text);
+    F26combo[2]->setCurrentIndex(-1);
+    F26text->setAccessibleName(type.optionPrompt);
+    F26combo[2]->setAccessibleName(type.optionPrompt);
+}
+
+void StepCard::Show(const ShownControls& shown)
+{
+    F26combo[1]->setVisible(shown.buildType);
+    F26info->setVisible(shown.info);
+    entriesLabel->setVisible(shown.entries);
+    promptLabel->setVisible(shown.optionPrompt);
+    F26combo[2]->setVisible(shown.option);
+    F26text->setVisible(shown.count);
+    F26choose->setVisible(shown.choose);
+    noNumbersLabel->setVisible(shown.noNumbersNeeded);
+    F26go->setVisible(shown.go);
+}

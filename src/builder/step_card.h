@@ -1,0 +1,49 @@
+#pragma once
+
+#include "builder/builder_steps.h"
+#include "platform/card.h"
+
+#include <array>
+
+class Button;
+class QComboBox;
+class QLabel;
+class TextBox;
+
+/// Controls that come and go keep their room, so that the page stands still.
+template <typename Widget>
+Widget* KeepingRoom(Widget* widget)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+    return widget;
+}
+
+/// The five steps of the entry generator, one below the other.
+class StepCard : public Card
+{
+    Q_OBJECT
+
+public:
+    StepCard();
+
+    /// Takes the words and options of a way of building; nothing is chosen or typed then.
+    void Describe(const BuildType& type);
+    /// Shows and hides the controls of the steps.
+    void Show(const ShownControls& shown);
+
+    std::array<QComboBox*, 3> F26combo;
+    TextBox* F26text;
+    Button* F26info;
+    Button* F26choose;
+    Button* F26go;
+
+private:
+    void AddStep(const char* number, const char* title);
+    void AddInOnePlace(QWidget* first, QWidget* second, Qt::Alignment alignmentOfFirst);
+
+    QLabel* entriesLabel;
+    QLabel* promptLabel;
+    QLabel* noNumbersLabel;
+};

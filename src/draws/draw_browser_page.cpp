@@ -1,0 +1,158 @@
+#include "draws/draw_browser_page.h"
+
+#include "draws/draw_records.h"
+#include "draws/draw_view.h"
+#include "draws/game.h"
+#include "platform/card.h"
+#include "platform/guard.h"
+#include "platform/month_calendar.h"
+#include "shell/open_databases.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+bool IsMain(const Game& game)
+{
+    return game.drawType == MainGame.drawType;
+}
+
+QString ControlName(const Game& game, const char* name)
+{
+    return QStringLiteral("F9%1%2").arg(game.name.at(0)).arg(QLatin1String(name));
+}
+
+QString GameInSentence(const Game& game)
+{
+    return game.name.toLower();
+}
+
+} // namespace
+
+BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
+    : QObject(parent),
+      game(drawGame),
+      list(DrawListOf(game)),
+      card(new Card(parent)),
+      frame(new QFrame(card)),
+      draw(new DrawView(game,
+                        {QString(), ControlName(game, "ballnum"), ControlName(game, "ball"), ControlName(game, "label"),
+                         ControlName(game, "machine"), ControlName(game, "setofballs")},
+                        {QStringLiteral("Machine:  "), QStringLiteral("Set of balls:  ")})),
+      noDraw(MakeLabel(QStringLiteral("There was no %1 draw on this date.").arg(GameInSentence(game)), TextRole::Body,
+                       ControlName(game, "nodraw"), card)),
+      back(new Button(QStringLiteral("<"), ControlName(game, "back"), card)),
+      forward(new Button(QStringLiteral(">"), ControlName(game, "forward"), card))
+{
+    AddArrows();
+    frame->setObjectName(ControlName(game, "frame"));
+    auto* framed = new QVBoxLayout(frame);
+    framed->setContentsMargins(0, 0, 0, 0);
+    framed->addWidget(draw);
+    card->Content()->addWidget(frame);
+    card->Content()->addWidget(noDraw);
+    card->Content()->addStretch(1);
+    noDraw->setForegroundRole(QPalette::PlaceholderText);
+    ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
+    ConnectGuarded(forward, &QPushButton::clicked, this, [this] { Forward_Click(); });
+}
+
+void BrowserSection::AddArrows()
+{
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(MakeLabel(IsMain(game) ? QStringLiteral("Main Draw") : QStringLiteral("Thunderball Draw"),
+                                 TextRole::Heading, ControlName(game, "labelmain")),
+                       1);
+    for (Button* arrow : {back, forward}) {
+        QSizePolicy keepsItsPlace = arrow->sizePolicy();
+        keepsItsPlace.setRetainSizeWhenHidden(true);
+        arrow->setSizePolicy(keepsItsPlace);
+        heading->addWidget(arrow);
+    }
+    const QString which = QStringLiteral("%1 %2 draw of this date");
+    back->setAccessibleName(which.arg(QStringLiteral("Previous"), GameInSentence(game)));
+    forward->setAccessibleName(which.arg(QStringLiteral("Next"), GameInSentence(game)));
+    card->Content()->addLayout(heading);
+}
+
+void BrowserSection::Find(QDate date)
+{
+    shownDate = date;
+    const bool found = FindLastDrawOfDate(list, date);
+    bool another = false;
+    if (found) {
+        list.MovePrevious();
+        another = IsOnDate(list, date);
+        list.MoveNext();
+        ShowDraw();
+    }
+    back->hide();
+    forward->setVisible(another);
+    noDraw->setVisible(!found);
+    frame->setVisible(found);
+}
+
+void BrowserSection::Forward_Click()
+{
+    Step(-1, forward, back);
+}
+
+void BrowserSection::Back_Click()
+{
+    Step(1, back, forward);
+}
+
+void BrowserSection::Step(int direction, Button* arrow, Button* opposite)
+{
+    list.Move(2 * direction);
+    const bool isLast = !IsOnDate(list, shownDate);
+    list.Move(-direction);
+    opposite->show();
+    // An arrow that vanishes hands the focus to the other, so that the keys stay in this section.
+    if (isLast && arrow->hasFocus())
+        opposite->setFocus();
+    arrow->setVisible(!isLast);
+    ShowDraw();
+}
+
+void BrowserSection::ShowDraw()
+{
+    draw->Show(ReadDraw(list, game));
+}
+
+DrawBrowserPage::DrawBrowserPage()
+    : PageFrame(9, QStringLiteral("View Any Single Draw")),
+      F9Cal(new MonthCalendar),
+      mainSection(new BrowserSection(MainGame, this)),
+      thunderballSection(new BrowserSection(ThunderballGame, this))
+{
+    F9Cal->setObjectName(QStringLiteral("F9Cal"));
+    auto* dateCard = new Card;
+    dateCard->Content()->addWidget(F9Cal);
+    auto* draws = new QVBoxLayout;
+    draws->setSpacing(Spacing::Cards);
+    for (const BrowserSection* section : {mainSection, thunderballSection})
+        draws->addWidget(section->View());
+    draws->addStretch(1);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(Spacing::Cards);
+    columns->addWidget(dateCard, 0, Qt::AlignTop);
+    columns->addLayout(draws, 1);
+    Body()->addLayout(columns);
+    Body()->addStretch(1);
+    ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });
+}
+
+void DrawBrowserPage::Prepare()
+{
+    F9Cal->setSelectedDate(QDate::currentDate());
+    F9Cal->showSelectedDate();
+    FindDrawsOfDate(QDate::currentDate());
+    show();
+}
+
+void DrawBrowserPage::FindDrawsOfDate(QDate date)
+{
+    mainSection->Find(date);
+    thunderballSection->Find(date);
+}

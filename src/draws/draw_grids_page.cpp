@@ -1,0 +1,170 @@
+#include "draws/draw_grids_page.h"
+
+#include "draws/draw_detail_page.h"
+#include "draws/draw_grid_model.h"
+#include "draws/draw_records.h"
+#include "draws/edit_draw_page.h"
+#include "draws/game.h"
+#include "platform/card.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "shell/open_databases.h"
+#include "shell/page_switch.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+/// What differs between the two sections.
+struct SectionTexts
+{
+    int index;
+    const char* title;
+    const char* grid;
+    const char* noDraws;
+    /// The game in the buttons' names and in the questions.
+    const char* inNames;
+    const char* inQuestions;
+    int detailPage;
+    int editPage;
+};
+
+constexpr SectionTexts MainTexts{0, "Main Draw", "F10Grid1", "There are no main draws stored.", "main", "main", 14, 16};
+constexpr SectionTexts ThunderballTexts{
+    1, "Thunderball Draw", "F10Grid2", "There are no Thunderball draws stored.", "thunder", "thunderball", 15, 17};
+
+const SectionTexts& TextsOf(const Game& game)
+{
+    return game.drawType == MainGame.drawType ? MainTexts : ThunderballTexts;
+}
+
+} // namespace
+
+DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, QWidget* parent)
+    : QWidget(parent),
+      game(drawGame),
+      pages(pageSwitch),
+      model(new DrawGridModel(game, this)),
+      card(new Card),
+      grid(new GridView(QLatin1String(TextsOf(game).grid), QLatin1String(TextsOf(game).title))),
+      noDraws(MakeLabel(QLatin1String(TextsOf(game).noDraws), TextRole::Body,
+                        ElementName(QStringLiteral("Label"), TextsOf(game).index)))
+{
+    grid->setModel(model);
+    grid->SetColumnShares(DrawGridModel::ColumnShares(game));
+    noDraws->setAlignment(Qt::AlignCenter);
+    card->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
+    card->Content()->addWidget(grid);
+    card->Content()->addWidget(noDraws);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Spacing::Inside);
+    layout->addWidget(MakeLabel(QLatin1String(TextsOf(game).title), TextRole::Heading,
+                                ElementName(QStringLiteral("labeltitle"), TextsOf(game).index)));
+    layout->addWidget(card, 1);
+    BuildButtons();
+    ConnectGuarded(grid, &GridView::Opened, this, [this] { View_Click(); });
+    ConnectGuarded(grid, &GridView::DeletePressed, this, [this] { Delete_Click(); });
+}
+
+void DrawGridSection::BuildButtons()
+{
+    const auto name = [this](const char* action) {
+        return QStringLiteral("F10%1%2button").arg(QLatin1String(TextsOf(game).inNames), QLatin1String(action));
+    };
+    view = new Button(QStringLiteral("View in Detail"), name("view"));
+    edit = new Button(QStringLiteral("Edit"), name("edit"));
+    remove = new Button(QStringLiteral("Delete"), name("delete"));
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, Spacing::Inside, 0, 0);
+    row->setSpacing(Spacing::Between);
+    row->addStretch(1);
+    for (Button* button : {view, edit, remove}) {
+        button->setAccessibleDescription(QLatin1String(TextsOf(game).title));
+        row->addWidget(button);
+    }
+    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+    ConnectGuarded(view, &QPushButton::clicked, this, [this] { View_Click(); });
+    ConnectGuarded(edit, &QPushButton::clicked, this, [this] { Edit_Click(); });
+    ConnectGuarded(remove, &QPushButton::clicked, this, [this] { Delete_Click(); });
+}
+
+void DrawGridSection::Fill()
+{
+    model->Fill(DrawListOf(game));
+    const bool empty = model->rowCount() == 0;
+    grid->setHidden(empty);
+    noDraws->setVisible(empty);
+    for (Button* button : {view, edit, remove})
+        button->setEnabled(!empty);
+    grid->SelectRow(0);
+}
+
+std::optional<std::int64_t> DrawGridSection::OneSelectedDraw() const
+{
+    const GridView::RowSpan rows = grid->SelectedRows();
+    if (rows.Count() == 1)
+        return model->NumberOf(rows.first);
+    if (rows.Count() > 1)
+        ShowMessage(QStringLiteral("Select only ONE draw."));
+    return std::nullopt;
+}
+
+void DrawGridSection::View_Click()
+{
+    if (const auto number = OneSelectedDraw())
+        static_cast<DrawDetailPage*>(pages.Page(TextsOf(game).detailPage))->Open(*number);
+}
+
+void DrawGridSection::Edit_Click()
+{
+    if (const auto number = OneSelectedDraw())
+        static_cast<EditDrawPage*>(pages.Page(TextsOf(game).editPage))->Open(*number);
+}
+
+void DrawGridSection::Delete_Click()
+{
+    const int count = grid->SelectedRows().Count();
+    if (count == 0)
+        return;
+    const QString question =
+        count == 1 ? QStringLiteral("delete this %1 draw?") : QStringLiteral("delete these %1 draws?");
+    if (!AskYesNo(QStringLiteral("Are you sure you want to") + Crlf +
+                  question.arg(QLatin1String(TextsOf(game).inQuestions)))) {
+        ShowMessage(QStringLiteral("Data delete has been aborted."));
+        return;
+    }
+    DeleteSelectedDraws();
+    DrawListOf(game).Requery();
+    Fill();
+    ShowMessage(QStringLiteral("Deleted"));
+}
+
+void DrawGridSection::DeleteSelectedDraws()
+{
+    std::vector<std::int64_t> numbers;
+    const GridView::RowSpan rows = grid->SelectedRows();
+    for (int row = rows.first; row <= rows.last; ++row)
+        numbers.push_back(model->NumberOf(row));
+    Transaction transaction(DrawDb,
+                            rows.Count() == 1 ? "The draw could not be deleted" : "The draws could not be deleted");
+    DeleteRecords(DrawsOf(game), numbers);
+    transaction.Commit();
+}
+
+DrawGridsPage::DrawGridsPage(PageSwitch& pages)
+    : PageFrame(10, QString()),
+      mainSection(new DrawGridSection(MainGame, pages)),
+      thunderballSection(new DrawGridSection(ThunderballGame, pages))
+{
+    setAccessibleName(QStringLiteral("View or Edit All Draws"));
+    Body()->addWidget(mainSection, 1);
+    Body()->addWidget(thunderballSection, 1);
+}
+
+void DrawGridsPage::Prepare()
+{
+    mainSection->Fill();
+    thunderballSection->Fill();
+    show();
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/page_frame.h"
+
+#include <cstdint>
+#include <optional>
+
+class Card;
+class DrawGridModel;
+class GridView;
+class PageSwitch;
+struct Game;
+
+/// The grid of one game's draws with the buttons that act on the selected rows.
+class DrawGridSection : public QWidget
+{
+    Q_OBJECT
+
+public:
+    DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, QWidget* parent = nullptr);
+
+    /// Fills the grid from the list and selects the newest draw.
+    void Fill();
+
+private:
+    void BuildButtons();
+    /// F10mainviewbutton_Click, F10thunderviewbutton_Click.
+    void View_Click();
+    /// F10maineditbutton_Click, F10thundereditbutton_Click.
+    void Edit_Click();
+    /// F10maindeletebutton_Click, F10thunderdeletebutton_Click.
+    void Delete_Click();
+    /// The DrawId of the one selected row; tells the player when there are several.
+    std::optional<std::int64_t> OneSelectedDraw() const;
+    void DeleteSelectedDraws();
+
+    const Game& game;
+    PageSwitch& pages;
+    DrawGridModel* model;
+    Card* card;
+    GridView* grid;
+    QLabel* noDraws;
+    Button* view;
+    Button* edit;
+    Button* remove;
+};
+
+/// Page 10: all draws of both games.
+class DrawGridsPage : public PageFrame
+{
+    Q_OBJECT
+
+public:
+    explicit DrawGridsPage(PageSwitch& pages);
+
+    /// FillDrawGrids.
+    void Prepare() override;
+
+private:
+    DrawGridSection* mainSection;
+    DrawGridSection* thunderballSection;
+};

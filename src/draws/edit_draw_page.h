@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/page_frame.h"
+
+#include <cstdint>
+
+class BallFields;
+class PageSwitch;
+class QComboBox;
+struct EnteredDraw;
+struct Game;
+
+/// Pages 16 and 17: the balls of a stored draw are corrected, and its machine and set of balls where it has them. Laid
+/// over the page of all draws.
+class EditDrawPage : public PageFrame
+{
+    Q_OBJECT
+
+public:
+    EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch);
+
+    /// Shows the stored draw of this number in front of the other pages. Throws Failure where there is none any more.
+    void Open(std::int64_t number);
+
+private:
+    void BuildCard();
+    /// F16save_Click, F17save_Click.
+    void Save_Click();
+    /// F16back_Click, F17back_Click.
+    void Back_Click();
+    EnteredDraw ReadControls() const;
+    void StoreChanges();
+
+    const Game& game;
+    PageSwitch& pages;
+    std::int64_t drawId = 0;
+    QLabel* date;
+    BallFields* balls;
+    QComboBox* machine = nullptr;
+    QComboBox* ballSet = nullptr;
+    Button* back;
+    Button* reset;
+    Button* save;
+};

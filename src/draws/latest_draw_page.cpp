@@ -1,0 +1,115 @@
+#include "draws/latest_draw_page.h"
+
+#include "draws/ball_row.h"
+#include "draws/draw_records.h"
+#include "draws/draw_view.h"
+#include "draws/game.h"
+#include "platform/card.h"
+#include "shell/open_databases.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace {
+
+/// What differs between the two sections.
+struct SectionTexts
+{
+    int index;
+    const char* title;
+    const char* box;
+    const char* blank;
+    const char* noDrawsName;
+    const char* noDraws;
+    DrawView::Names names;
+};
+
+const SectionTexts& TextsOf(const Game& game)
+{
+    static const SectionTexts mainTexts{0,
+                                        "Main Draw",
+                                        "F8Mbox",
+                                        "blankshapem",
+                                        "Label4",
+                                        "There are no main draws stored.",
+                                        {QStringLiteral("F8Mdate"), QStringLiteral("F8Mnumber"),
+                                         QStringLiteral("F8Mball"), QString(), QStringLiteral("F8Mmachine"),
+                                         QStringLiteral("F8Mballset")}};
+    static const SectionTexts thunderballTexts{
+        1,
+        "Thunderball Draw",
+        "F8Tbox",
+        "blankshapet",
+        "Label5",
+        "There are no thunderball draws stored.",
+        {QStringLiteral("F8Tdate"), QStringLiteral("F8Tnumber"), QStringLiteral("F8Tball"), {}, {}, {}}};
+    return game.drawType == MainGame.drawType ? mainTexts : thunderballTexts;
+}
+
+} // namespace
+
+LatestDrawPage::LatestDrawPage()
+    : PageFrame(8, QStringLiteral("Latest Draw"), QStringLiteral("labeltitle")),
+      mainSection(MakeSection(MainGame)),
+      thunderballSection(MakeSection(ThunderballGame))
+{
+    auto* sections = new QHBoxLayout;
+    sections->setSpacing(Spacing::Cards);
+    sections->addWidget(mainSection.card, MainGame.BallCount());
+    sections->addWidget(thunderballSection.card, ThunderballGame.BallCount());
+    Body()->addLayout(sections);
+    Body()->addStretch(1);
+}
+
+LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
+{
+    const SectionTexts& texts = TextsOf(game);
+    Section section{};
+    section.card = new Card(this);
+    section.card->setObjectName(QLatin1String(texts.box));
+    section.card->Content()->addWidget(
+        MakeLabel(QLatin1String(texts.title), TextRole::Caption, ElementName(QStringLiteral("F8label"), texts.index)));
+    section.draw =
+        new DrawView(game, texts.names, {QStringLiteral("Machine: "), QStringLiteral("Set of balls: ")}, section.card);
+    section.draw->Balls()->MakeCompact();
+    QSizePolicy keepsItsPlace = section.draw->sizePolicy();
+    keepsItsPlace.setRetainSizeWhenHidden(true);
+    section.draw->setSizePolicy(keepsItsPlace);
+
+    section.blank = new QFrame(section.card);
+    section.blank->setObjectName(QLatin1String(texts.blank));
+    section.blank->setBackgroundRole(QPalette::AlternateBase);
+    section.blank->setAutoFillBackground(true);
+    section.noDraws =
+        MakeLabel(QLatin1String(texts.noDraws), TextRole::Body, QLatin1String(texts.noDrawsName), section.card);
+    section.noDraws->setAlignment(Qt::AlignCenter);
+    section.noDraws->setWordWrap(true);
+
+    auto* layers = new QGridLayout;
+    layers->addWidget(section.draw, 0, 0, Qt::AlignTop);
+    layers->addWidget(section.blank, 0, 0);
+    layers->addWidget(section.noDraws, 0, 0);
+    section.card->Content()->addLayout(layers, 1);
+    return section;
+}
+
+void LatestDrawPage::Prepare()
+{
+    Fill(mainSection, MainGame);
+    Fill(thunderballSection, ThunderballGame);
+    show();
+}
+
+void LatestDrawPage::Fill(const Section& section, const Game& game)
+{
+    RecordSet& list = DrawListOf(game);
+    list.MoveFirst();
+    const bool empty = list.IsEmpty();
+    if (!empty)
+        section.draw->Show(ReadDraw(list, game));
+    section.draw->setVisible(!empty);
+    section.blank->setVisible(empty);
+    section.blank->raise();
+    section.noDraws->setVisible(empty);
+    section.noDraws->raise();
+}

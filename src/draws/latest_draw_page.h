@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/page_frame.h"
+
+class Card;
+class DrawView;
+struct Game;
+
+/// Page 8, "Latest Draw": the newest draw of each game, side by side.
+class LatestDrawPage : public PageFrame
+{
+    Q_OBJECT
+
+public:
+    LatestDrawPage();
+
+    /// ShowLatestDraws.
+    void Prepare() override;
+
+private:
+    struct Section
+    {
+        Card* card;
+        DrawView* draw;
+        QFrame* blank;
+        QLabel* noDraws;
+    };
+
+    Section MakeSection(const Game& game);
+    static void Fill(const Section& section, const Game& game);
+
+    Section mainSection;
+    Section thunderballSection;
+};

@@ -1,0 +1,231 @@
+#include "platform/grid_view.h"
+
+#include "platform/theme.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const QColor EntryColour(0x5B, 0x74, 0xD7);
+
+/// Draws a quiet line under each row.
+class RowLines : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        painter->setPen(option.palette.color(QPalette::Mid));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+};
+
+} // namespace
+
+GridView::GridView(const QString& name, const QString& accessibleName, QWidget* parent) : QTableView(parent)
+{
+    setObjectName(name);
+    setAccessibleName(accessibleName);
+    setItemDelegate(new RowLines(this));
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setBackgroundRole(QPalette::AlternateBase);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ContiguousSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2 * Spacing::Inside);
+
+    QHeaderView* headings = horizontalHeader();
+    headings->setSectionResizeMode(QHeaderView::Fixed);
+    headings->setMinimumSectionSize(1);
+    headings->setSectionsClickable(false);
+    headings->setHighlightSections(false);
+    headings->setFont(FontFor(TextRole::Caption));
+}
+
+void GridView::SetColumnShares(std::vector<double> columnShares)
+{
+    shares = std::move(columnShares);
+    LayOutColumns();
+}
+
+void GridView::LayOutColumns()
+{
+    const int available = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    if (model() == nullptr || available <= 0)
+        return;
+    int left = available;
+    const int columns = std::min(model()->columnCount(), static_cast<int>(shares.size()));
+    for (int column = 0; column < columns; ++column) {
+        const double share = shares.at(static_cast<size_t>(column));
+        // Rounding must not make the columns together wider than the grid.
+        const int width = std::min(qRound(available * share), left);
+        left -= width;
+        setColumnHidden(column, share == 0);
+        if (share != 0)
+            setColumnWidth(column, width);
+    }
+}
+
+GridView::RowSpan GridView::SelectedRows() const
+{
+    RowSpan span;
+    if (selectionModel() == nullptr)
+        return span;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        span.first = span.first < 0 ? range.top() : std::min(span.first, range.top());
+        span.last = std::max(span.last, range.bottom());
+    }
+    return span;
+}
+
+void GridView::SelectRow(int row)
+{
+    clearSelection();
+    const QModelIndex cell = model()->index(row, FirstShownColumn());
+    setCurrentIndex(cell);
+    if (cell.isValid())
+        scrollTo(cell);
+}
+
+int GridView::FirstShownColumn() const
+{
+    int column = 0;
+    while (column + 1 < model()->columnCount() && isColumnHidden(column))
+        ++column;
+    return column;
+}
+
+void GridView::CopySelectedRows() const
+{
+    const RowSpan span = SelectedRows();
+    QString copied;
+    for (int row = span.first; row >= 0 && row <= span.last; ++row) {
+        QStringList cells;
+        for (int column = 0; column < model()->columnCount(); ++column)
+            if (!isColumnHidden(column))
+                cells.append(model()->index(row, column).data().toString());
+        copied += cells.join(u'\t') + u'\n';
+    }
+    if (!copied.isEmpty())
+        QApplication::clipboard()->setText(copied);
+}
+
+void GridView::reset()
+{
+    QTableView::reset();
+    LayOutColumns();
+}
+
+void GridView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        CopySelectedRows();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT Opened();
+    else if (event->key() == Qt::Key_Delete)
+        Q_EMIT DeletePressed();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void GridView::focusInEvent(QFocusEvent* event)
+{
+    QTableView::focusInEvent(event);
+    viewport()->update();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void GridView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    LayOutColumns();
+}
+
+void GridView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QTableView::initViewItemOption(option);
+    if (hasFocus())
+        return;
+    // The strong selection colour is the sign that the grid has the keys.
+    QColor quiet = option->palette.color(QPalette::Highlight);
+    quiet.setAlphaF(0.25F);
+    option->palette.setColor(QPalette::Highlight, quiet);
+    option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+}
+
+QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (model() != nullptr && model()->rowCount() > 0 && action == MoveHome)
+        return model()->index(0, FirstShownColumn());
+    if (model() != nullptr && model()->rowCount() > 0 && action == MoveEnd)
+        return model()->index(model()->rowCount() - 1, FirstShownColumn());
+    return QTableView::moveCursor(action, modifiers);
+}
+
+QItemSelectionModel::SelectionFlags GridView::selectionCommand(const QModelIndex& index, const QEvent* event) const
+{
+    // A click beside the rows leaves the selection alone, so that the buttons always have a row to act on.
+    return index.isValid() ? QTableView::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(columns.size());
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const Column& column = columns.at(static_cast<size_t>(index.column()));
+    switch (role) {
+    case Qt::DisplayRole:
+        return CellText(index.row(), index.column());
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(column.alignment);
+    case Qt::BackgroundRole:
+        return column.numbersEntries ? QVariant(EntryColour) : QVariant();
+    case Qt::ForegroundRole:
+        return column.numbersEntries ? QVariant(QColor(Qt::white)) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::DisplayRole)
+        return columns.at(static_cast<size_t>(section)).heading;
+    return role == Qt::TextAlignmentRole ? QVariant::fromValue(Qt::Alignment(Qt::AlignCenter)) : QVariant();
+}
+
+void GridModel::SetHeading(int column, const QString& heading)
+{
+    columns.at(static_cast<size_t>(column)).heading = heading;
+    Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+}

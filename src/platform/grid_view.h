@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTableView>
+
+#include <vector>
+
+/// A grid of whole rows, of which one span can be selected: by Shift-click, by dragging either way, by Shift with the
+/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size. Ctrl+C copies the selected
+/// rows, without hidden columns, as tab-separated text.
+class GridView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    /// The selected rows, counted from 0, in ascending order whichever way they were selected; none when first is -1.
+    struct RowSpan
+    {
+        int first = -1;
+        int last = -1;
+
+        int Count() const { return first < 0 ? 0 : last - first + 1; }
+    };
+
+    GridView(const QString& name, const QString& accessibleName, QWidget* parent = nullptr);
+
+    /// How wide each column is, as a share of the grid's width less that of a vertical scroll bar. A column whose share
+    /// is 0 is hidden.
+    void SetColumnShares(std::vector<double> columnShares);
+
+    RowSpan SelectedRows() const;
+    /// Selects one row, makes it the current one and brings it into view; a row that is not there selects nothing.
+    void SelectRow(int row);
+
+    void reset() override;
+
+Q_SIGNALS:
+    /// The Enter key was pressed.
+    void Opened();
+    /// The Delete key was pressed.
+    void DeletePressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
+
+private:
+    void LayOutColumns();
+    int FirstShownColumn() const;
+    void CopySelectedRows() const;
+
+    std::vector<double> shares;
+};
+
+/// The model of such a grid. A model of this kind holds its rows as plain values; the text of a cell is made when it is
+/// seen.
+class GridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    struct Column
+    {
+        QString heading;
+        Qt::Alignment alignment = Qt::AlignCenter;
+        /// Whether the column numbers the entries: white digits on the entry colour.
+        bool numbersEntries = false;
+    };
+
+    explicit GridModel(std::vector<Column> gridColumns, QObject* parent = nullptr)
+        : QAbstractTableModel(parent), columns(std::move(gridColumns))
+    {
+    }
+
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    void SetHeading(int column, const QString& heading);
+
+protected:
+    /// The text of a cell that exists.
+    virtual QString CellText(int row, int column) const = 0;
+
+private:
+    std::vector<Column> columns;
+};

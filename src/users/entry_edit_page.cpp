@@ -1,0 +1,113 @@
+#include "users/entry_edit_page.h"
+
+#include "draws/ball_fields.h"
+#include "draws/game.h"
+#include "platform/ball_edit.h"
+#include "platform/failure.h"
+#include "platform/guard.h"
+#include "platform/message_box.h"
+#include "platform/numbers.h"
+#include "records/record_numbers.h"
+#include "shell/open_databases.h"
+#include "shell/page_switch.h"
+#include "users/day_boxes.h"
+#include "users/entries_page.h"
+#include "users/entry_head.h"
+#include "users/user_records.h"
+
+#include <algorithm>
+
+EntryEditPage::EntryEditPage(PageSwitch& pageSwitch)
+    : PageFrame(20, QStringLiteral("View Entry in Detail")),
+      pages(pageSwitch),
+      head(new EntryHead(QStringLiteral("F20"))),
+      F20num(new BallFields(
+          {QStringLiteral("F20num"), QStringLiteral("F20ball"), QStringLiteral("F20caption"), {1, 2, 3, 4, 5, 6}},
+          EntryBallCaptions())),
+      F20day(new DayBoxes({QStringLiteral("F20day"), {}, {}}, QString())),
+      F20back(AddFooterButton(QStringLiteral("BACK"), QStringLiteral("F20back"))),
+      F20store(AddFooterDefault(QStringLiteral("Store Changes"), QStringLiteral("F20store")))
+{
+    KeepThunderballCaptionOnly(F20num, QStringLiteral("F20thunderlabel"));
+    auto* ballCard = new Card;
+    ballCard->Content()->addWidget(F20num);
+    auto* dayCard = new Card;
+    dayCard->Content()->addWidget(F20day);
+    for (Card* card : {static_cast<Card*>(head), ballCard, dayCard})
+        Body()->addWidget(card);
+    Body()->addStretch(1);
+    SetBackButton(F20back);
+    ConnectGuarded(F20num, &BallFields::Completed, this, [this] { F20store->setFocus(Qt::TabFocusReason); });
+    ConnectGuarded(F20store, &QPushButton::clicked, this, [this] { F20store_Click(); });
+    ConnectGuarded(F20back, &QPushButton::clicked, this, [this] { F20back_Click(); });
+}
+
+void EntryEditPage::Show(const EntryRow& entry, const QString& userName)
+{
+    const Game& game = entry.drawType == MainGame.drawType ? MainGame : ThunderballGame;
+    const bool isMain = &game == &MainGame;
+    entryId = entry.number;
+    head->Show(userName, game);
+    F20num->SetRule(EntryEditingRule(game));
+    for (int slot = 0; slot < F20num->Count(); ++slot)
+        F20num->SetText(slot, PlainNumber(entry.numbers.at(static_cast<size_t>(slot))));
+    F20num->Recolour();
+    F20num->SetLastApart(!isMain);
+    F20num->Caption(5)->setVisible(!isMain);
+    F20num->Field(5)->setAccessibleName(isMain ? MainGame.BallCaption(5) : ThunderballGame.extraBallName);
+    F20day->SetDays(entry.days);
+    F20num->FocusField(0);
+}
+
+bool EntryEditPage::HasEqualTexts() const
+{
+    QStringList texts;
+    for (int slot = 0; slot < head->ShownGame().mainBalls; ++slot)
+        texts.append(F20num->Text(slot));
+    return texts.removeDuplicates() > 0;
+}
+
+void EntryEditPage::F20store_Click()
+{
+    const Game& game = head->ShownGame();
+    F20num->Sort(game.mainBalls);
+    F20num->Recolour();
+    if (HasEqualTexts()) {
+        const QString first = &game == &MainGame ? QStringLiteral("Two or more balls have the same value,")
+                                                 : QStringLiteral("Two or more main balls have the same value,");
+        ShowMessage(first + Crlf + QStringLiteral("please retry."));
+        return;
+    }
+    StoreChanges();
+    static_cast<EntriesPage*>(pages.Page(13))->ListGame(game);
+    ShowMessage(QStringLiteral("The changes have been stored."));
+    hide();
+}
+
+void EntryEditPage::StoreChanges()
+{
+    const std::string doing = "The changes could not be stored";
+    const std::vector<double> typed = F20num->Numbers();
+    std::array<double, 6> numbers{};
+    std::copy(typed.begin(), typed.end(), numbers.begin());
+    Transaction transaction(UserDb, doing);
+    if (!FindRecord(entries, entryId))
+        throw Failure(doing, "another copy of the program has deleted the entry meanwhile",
+                      "no entry of number " + std::to_string(entryId));
+    ChangeEntry(entries, numbers, F20day->Days());
+    transaction.Commit();
+}
+
+void EntryEditPage::F20back_Click()
+{
+    switch (AskYesNoCancel(QStringLiteral("Do you want to save the changes to this entry"))) {
+    case Answer::Yes:
+        F20store_Click();
+        break;
+    case Answer::No:
+        hide();
+        break;
+    case Answer::Cancel:
+        break;
+    }
+}

@@ -1,0 +1,54 @@
+#include "users/entry_grid_model.h"
+
+#include "draws/game.h"
+#include "platform/numbers.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int FirstBallColumn = 2;
+constexpr int BallColumns = 6;
+
+std::vector<GridModel::Column> Columns()
+{
+    std::vector<GridModel::Column> columns{{QString()}, {QStringLiteral("Entry"), Qt::AlignCenter, true}};
+    for (int slot = 0; slot < BallColumns; ++slot)
+        columns.push_back({MainGame.BallCaption(slot)});
+    return columns;
+}
+
+} // namespace
+
+EntryGridModel::EntryGridModel(QObject* parent) : GridModel(Columns(), parent) {}
+
+void EntryGridModel::Fill(const Game& game, std::vector<EntryRow> entriesOfGame)
+{
+    beginResetModel();
+    rows = std::move(entriesOfGame);
+    endResetModel();
+    SetHeading(FirstBallColumn + BallColumns - 1,
+               &game == &MainGame ? MainGame.BallCaption(BallColumns - 1) : QStringLiteral("Thunder"));
+}
+
+int EntryGridModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(rows.size());
+}
+
+std::vector<double> EntryGridModel::ColumnShares()
+{
+    std::vector<double> shares{0};
+    shares.resize(FirstBallColumn + BallColumns, 1.0 / (1 + BallColumns));
+    return shares;
+}
+
+QString EntryGridModel::CellText(int row, int column) const
+{
+    const EntryRow& entry = rows.at(static_cast<size_t>(row));
+    if (column == 0)
+        return QString::number(entry.number);
+    if (column < FirstBallColumn)
+        return QString::number(row + 1);
+    return PlainNumber(entry.numbers.at(static_cast<size_t>(column - FirstBallColumn)));
+}

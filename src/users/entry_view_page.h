@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/page_frame.h"
+#include "users/entry_row.h"
+
+#include <array>
+
+class BallRow;
+class Card;
+class EntryHead;
+
+/// Page 19, "View Entry in Detail": one entry, laid over the entries list.
+class EntryViewPage : public PageFrame
+{
+    Q_OBJECT
+
+public:
+    EntryViewPage();
+
+    void Show(const EntryRow& entry, const QString& userName);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    Card* MakeDayCard();
+    void ColourDays();
+
+    DaySet days{};
+    EntryHead* head;
+    BallRow* balls;
+    std::array<QLabel*, 7> F19day{};
+    Button* F19back;
+};

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/grid_view.h"
+#include "support/test_window.h"
+
+/// A grid of a page, with what is needed to select its rows as a player does.
+class GridDriver
+{
+public:
+    GridDriver(TestWindow& testWindow, const QString& gridName)
+        : window(testWindow), name(gridName), view(testWindow.Find<GridView>(gridName))
+    {
+    }
+
+    int Rows() const { return view->model()->rowCount(); }
+    QString Cell(int row, int column) const { return view->model()->index(row, column).data().toString(); }
+    /// The cells of a row, joined by commas, from the given column on.
+    QString Row(int row, int fromColumn = 0) const
+    {
+        QStringList cells;
+        for (int column = fromColumn; column < view->model()->columnCount(); ++column)
+            cells.append(Cell(row, column));
+        return cells.join(u',');
+    }
+    /// "first-last" of the selected rows.
+    QString Selected() const
+    {
+        const GridView::RowSpan rows = view->SelectedRows();
+        return QStringLiteral("%1-%2").arg(rows.first).arg(rows.last);
+    }
+    void Click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, Middle(row));
+    }
+    void Drag(int from, int to)
+    {
+        QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, Middle(from));
+        for (int row = from; row != to; row += from < to ? 1 : -1)
+            QTest::mouseMove(view->viewport(), Middle(row));
+        QTest::mouseMove(view->viewport(), Middle(to));
+        QTest::mouseRelease(view->viewport(), Qt::LeftButton, Qt::NoModifier, Middle(to));
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { window.Press(name, key, modifiers); }
+
+    /// Selects rows in one of the ways: "click" (with Shift), "drag" or "keys", from one row to another.
+    void Select(const QString& way, int from, int to)
+    {
+        if (way == QLatin1String("drag")) {
+            Drag(from, to);
+            return;
+        }
+        Click(from);
+        if (way == QLatin1String("click"))
+            Click(to, Qt::ShiftModifier);
+        for (int row = from; way == QLatin1String("keys") && row != to; row += from < to ? 1 : -1)
+            Press(from < to ? Qt::Key_Down : Qt::Key_Up, Qt::ShiftModifier);
+    }
+
+    TestWindow& window;
+    QString name;
+    GridView* view;
+
+private:
+    QPoint Middle(int row) const { return view->visualRect(view->model()->index(row, 2)).center(); }
+};
