@@ -14,11 +14,9 @@ template <typename Sender, typename Signal, typename Handler>
 void ConnectGuarded(const Sender* sender, Signal signal, const QObject* context, Handler handler)
 {
     QObject::connect(sender, signal, context, [handler](auto... arguments) {
-        Guard([&] {
-            if constexpr (std::is_invocable_v<const Handler&, decltype(arguments)...>)
-                handler(arguments...);
-            else
-                handler();
-        });
+        if constexpr (std::is_invocable_v<const Handler&, decltype(arguments)...>)
+            Guard([&] { handler(arguments...); });
+        else
+            Guard([&] { handler(); });
     });
 }
