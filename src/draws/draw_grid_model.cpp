@@ -1,11 +1,14 @@
 #include "draws/draw_grid_model.h"
 
 #include "draws/draw_records.h"
+#include "draws/draw_tables.h"
 #include "draws/game.h"
 #include "platform/dates.h"
 #include "platform/numbers.h"
 #include "platform/texts.h"
 #include "records/record_set.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -42,17 +45,12 @@ void DrawGridModel::Fill(RecordSet& list)
 {
     beginResetModel();
     rows.clear();
-    oddDates.clear();
+    oddTexts.clear();
     try {
         list.MoveFirst();
         rows.reserve(static_cast<size_t>(list.Count()));
-        for (; !list.Eof(); list.MoveNext()) {
-            const DrawRow draw = ReadDraw(list, game);
-            const Row row{draw.number, DateFromIso(draw.date), draw.balls, PlaceOfDayName(draw.day)};
-            if (!row.date.isValid())
-                oddDates[static_cast<int>(rows.size())] = FromUtf8(draw.date);
-            rows.push_back(row);
-        }
+        for (; !list.Eof(); list.MoveNext())
+            Take(list);
     } catch (...) {
         rows.clear();
         endResetModel();
@@ -61,13 +59,20 @@ void DrawGridModel::Fill(RecordSet& list)
     endResetModel();
 }
 
-std::uint32_t DrawGridModel::PlaceOfDayName(std::string_view day)
+void DrawGridModel::Take(const RecordSet& list)
 {
-    const auto found = placesOfDayNames.find(day);
-    if (found != placesOfDayNames.end())
-        return found->second;
-    dayNames.push_back(FromUtf8(day));
-    return placesOfDayNames[std::string(day)] = static_cast<std::uint32_t>(dayNames.size() - 1);
+    Row& row = rows.emplace_back();
+    row.number = ReadDrawId(list);
+    for (int slot = 0; slot < game.BallCount(); ++slot)
+        row.balls[static_cast<size_t>(slot)] = list.Number(DrawField::FirstBall + slot);
+    const std::string_view date = list.Text(DrawField::Date);
+    const std::string_view day = list.Text(DrawField::Day);
+    if (date.size() == row.date.size() && day.size() == row.day.size()) {
+        std::copy(date.begin(), date.end(), row.date.begin());
+        std::copy(day.begin(), day.end(), row.day.begin());
+    } else {
+        oddTexts[static_cast<int>(rows.size()) - 1] = {ShortStoredDate(date), FromUtf8(day)};
+    }
 }
 
 int DrawGridModel::rowCount(const QModelIndex& parent) const
@@ -78,9 +83,10 @@ int DrawGridModel::rowCount(const QModelIndex& parent) const
 QString DrawGridModel::CellText(int row, int column) const
 {
     const Row& draw = rows.at(static_cast<size_t>(row));
+    if (column >= FirstBallColumn)
+        return PlainNumber(draw.balls.at(static_cast<size_t>(column - FirstBallColumn)));
+    const auto odd = oddTexts.find(row);
     if (column == DateColumn)
-        return draw.date.isValid() ? ShortDate(draw.date) : oddDates.at(row);
-    if (column == DayColumn)
-        return dayNames.at(draw.day);
-    return PlainNumber(draw.balls.at(static_cast<size_t>(column - FirstBallColumn)));
+        return odd != oddTexts.end() ? odd->second.date : ShortStoredDate({draw.date.data(), draw.date.size()});
+    return odd != oddTexts.end() ? odd->second.day : FromUtf8({draw.day.data(), draw.day.size()});
 }

@@ -2,8 +2,6 @@
 
 #include "platform/grid_view.h"
 
-#include <QDate>
-
 #include <array>
 #include <cstdint>
 #include <map>
@@ -33,21 +31,24 @@ protected:
     QString CellText(int row, int column) const override;
 
 private:
+    /// Date and day stand here as they are stored; they are read when the row is seen.
     struct Row
     {
         std::int64_t number;
-        QDate date;
         std::array<double, 7> balls;
-        std::uint32_t day;
+        std::array<char, 10> date;
+        std::array<char, 3> day;
+    };
+    struct OddTexts
+    {
+        QString date;
+        QString day;
     };
 
-    std::uint32_t PlaceOfDayName(std::string_view day);
+    void Take(const RecordSet& list);
 
     const Game& game;
     std::vector<Row> rows;
-    /// The different day texts; there are seven of them where the file is this program's own.
-    std::vector<QString> dayNames;
-    std::map<std::string, std::uint32_t, std::less<>> placesOfDayNames;
-    /// Dates that are none, by row; they are shown as they are stored.
-    std::map<int, QString> oddDates;
+    /// The texts, by row, where one has not the length of a date or a day; only a foreign file can hold such rows.
+    std::map<int, OddTexts> oddTexts;
 };

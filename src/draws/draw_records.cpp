@@ -28,12 +28,17 @@ void SetDrawnBalls(RecordSet& table, const Game& game, const EnteredDraw& draw)
 
 } // namespace
 
+std::int64_t ReadDrawId(const RecordSet& set)
+{
+    // Numbers beyond this bound are not whole any more; only a foreign file can hold them.
+    constexpr double largest = 9007199254740992.0;
+    return static_cast<std::int64_t>(std::clamp(set.Number(DrawField::DrawId), -largest, largest));
+}
+
 DrawRow ReadDraw(const RecordSet& set, const Game& game)
 {
     DrawRow row;
-    // Numbers beyond this bound are not whole any more; only a foreign file can hold them.
-    constexpr double largest = 9007199254740992.0;
-    row.number = static_cast<std::int64_t>(std::clamp(set.Number(DrawField::DrawId), -largest, largest));
+    row.number = ReadDrawId(set);
     row.date = set.Text(DrawField::Date);
     row.day = set.Text(DrawField::Day);
     for (int slot = 0; slot < game.BallCount(); ++slot)

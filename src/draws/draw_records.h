@@ -12,6 +12,9 @@
 class RecordSet;
 struct Game;
 
+/// The number of the current record of a draw table or list. Throws Failure where there is no record.
+std::int64_t ReadDrawId(const RecordSet& set);
+
 /// The current record of a draw table or list. Throws Failure where there is none.
 DrawRow ReadDraw(const RecordSet& set, const Game& game);
 

@@ -69,6 +69,12 @@ QString ShortDate(QDate date)
     return QLocale::system().toString(date, format);
 }
 
+QString ShortStoredDate(std::string_view iso)
+{
+    const QDate date = DateFromIso(iso);
+    return date.isValid() ? ShortDate(date) : FromUtf8(iso);
+}
+
 std::string IsoDate(QDate date)
 {
     return date.toString(Qt::ISODate).toStdString();

@@ -28,6 +28,9 @@ QString DateInWords(QDate date);
 /// The date in the desktop's own short form, with the year in four digits; empty for an invalid date.
 QString ShortDate(QDate date);
 
+/// The same for a date as the files hold it; a text that is no date is given as it stands.
+QString ShortStoredDate(std::string_view iso);
+
 /// The form in which the database files hold a date, YYYY-MM-DD, and back. A text of another form is an invalid date.
 std::string IsoDate(QDate date);
 QDate DateFromIso(std::string_view iso);

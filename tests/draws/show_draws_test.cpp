@@ -1,5 +1,5 @@
+#include "support/grid_driver.h"
 #include "support/stored_draws.h"
-#include "support/test_window.h"
 
 #include "draws/draw_tables.h"
 #include "platform/month_calendar.h"
@@ -158,6 +158,7 @@ private Q_SLOTS:
         QCOMPARE(Numbers(window, "F8Mnumber_%1", 7), QStringList({"77", "0", "0", "0", "0", "0", "0"}));
         QCOMPARE(window.ColourOf("F8Mball_1", QPalette::Window), QColor("#404040"));
         window.Window().ChooseMenu(2, 3);
+        QCOMPARE(GridDriver(window, "F10Grid1").Row(0), QString("soon,,77,0,0,0,0,0,0"));
         window.Click("F10mainviewbutton");
         QCOMPARE(window.TextOf("F14date"), QString("soon"));
         window.Click("F14back");
