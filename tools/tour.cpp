@@ -6,9 +6,12 @@
 #include "shell/open_databases.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -25,6 +28,18 @@ constexpr Stop Stops[] = {
     {"start", 0, 0},   {"group_1", 1, 0},  {"group_2", 2, 0},         {"group_3", 3, 0},      {"group_4", 4, 0},
     {"group_5", 5, 0}, {"add_main", 1, 1}, {"add_thunderball", 1, 2}, {"user_details", 3, 1},
 };
+
+/// Presses a button that opens a modal window, takes that window's picture and closes it.
+void TakeModalWindow(QWidget& window, const QString& button, const QString& file)
+{
+    QTimer::singleShot(0, &window, [file] {
+        auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QApplication::processEvents();
+        modal->grab().save(file);
+        modal->reject();
+    });
+    window.findChild<QPushButton*>(button)->click();
+}
 
 } // namespace
 
@@ -56,5 +71,11 @@ int main(int count, char** arguments)
         QApplication::processEvents();
         window.grab().save(pictures.filePath(QLatin1String(stop.picture) + QStringLiteral(".png")));
     }
+    window.ShowStartPage();
+    window.findChild<QPushButton*>(QStringLiteral("F0links"))->click();
+    QApplication::processEvents();
+    window.grab().save(pictures.filePath(QStringLiteral("links.png")));
+    window.findChild<QPushButton*>(QStringLiteral("F25back"))->click();
+    TakeModalWindow(window, QStringLiteral("advanced"), pictures.filePath(QStringLiteral("advanced.png")));
     return 0;
 }

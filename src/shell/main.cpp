@@ -18,7 +18,7 @@ int main(int count, char** arguments)
     {
         SplashWindow frmsplash;
         frmsplash.ShowAtOnce();
-        OpenDatabases();
+        OpenDatabasesAtStart();
     }
     MainWindow frmmain;
     frmmain.show();

@@ -6,6 +6,7 @@
 #include "shell/start_page.h"
 #include "users/add_entries_page.h"
 #include "users/user_details_page.h"
+#include "utilities/links_page.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ constexpr PageTableRow Pages[] = {
     {11, [](PageSwitch&) -> PageFrame* { return new UserDetailsPage; }, true},
     {12, [](PageSwitch& pages) -> PageFrame* { return new CheckPage(pages); }, true},
     {18, [](PageSwitch& pages) -> PageFrame* { return new AddEntriesPage(pages); }, true},
+    {25, [](PageSwitch&) -> PageFrame* { return new LinksPage; }, true},
 };
 
 } // namespace

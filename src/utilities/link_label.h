@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/click_label.h"
+
+/// A label of the links page. Its text is plain, whatever it holds: one that is too long for its lines ends in an
+/// ellipsis and never widens the page. In the link style it is underlined and blue and can be clicked or pressed; in
+/// the plain style it is a text like any other.
+class LinkLabel : public ClickLabel
+{
+    Q_OBJECT
+
+public:
+    enum class Look
+    {
+        Plain,
+        Link
+    };
+
+    /// `shownLines` is the number of lines that the label has room for.
+    LinkLabel(const QString& name, int shownLines, QWidget* parent = nullptr);
+
+    /// Shows a text; `caption` names it for those who hear the page.
+    void ShowText(const QString& text, Look textLook, const QString& caption);
+    bool IsLink() const { return look == Look::Link; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool hitButton(const QPoint& place) const override;
+
+private:
+    void TakeColour();
+
+    int lines;
+    Look look = Look::Plain;
+    QString shown;
+};
