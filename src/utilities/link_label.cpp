@@ -37,11 +37,13 @@ QColor PlainColour(const Theme& theme)
 
 } // namespace
 
-LinkLabel::LinkLabel(const QString& name, int shownLines, QWidget* parent)
-    : ClickLabel(QString(), parent), lines(shownLines)
+LinkLabel::LinkLabel(const QString& name, TextRole textRole, int mostLines)
+    : ClickLabel(QString()), role(textRole), lines(mostLines)
 {
     setObjectName(name);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     TakeColour();
 }
 
@@ -53,7 +55,7 @@ void LinkLabel::ShowText(const QString& text, Look textLook, const QString& capt
     setShortcut({});
     shown = Shown(text);
     setAccessibleName(caption + u' ' + shown);
-    QFont styled = FontFor(TextRole::Body);
+    QFont styled = FontFor(role);
     styled.setUnderline(IsLink());
     setFont(styled);
     setFocusPolicy(IsLink() ? Qt::StrongFocus : Qt::NoFocus);
@@ -68,7 +70,7 @@ void LinkLabel::ShowText(const QString& text, Look textLook, const QString& capt
 QSize LinkLabel::sizeHint() const
 {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(shown) + 2 * Spacing::Inside, lines * metrics.lineSpacing() + Spacing::Inside};
+    return {metrics.horizontalAdvance(shown) + 2 * Inset(), metrics.lineSpacing() + Spacing::Inside};
 }
 
 QSize LinkLabel::minimumSizeHint() const
@@ -76,31 +78,51 @@ QSize LinkLabel::minimumSizeHint() const
     return {NarrowestWidth, sizeHint().height()};
 }
 
+int LinkLabel::heightForWidth(int width) const
+{
+    return static_cast<int>(qMax(qsizetype(1), Lines(width).size())) * fontMetrics().lineSpacing() + Spacing::Inside;
+}
+
+QStringList LinkLabel::Lines(int width) const
+{
+    const int room = width - 2 * Inset();
+    QStringList broken;
+    QTextLayout layout(shown, font());
+    layout.beginLayout();
+    while (broken.size() < lines) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(room);
+        broken.append(broken.size() == lines - 1
+                          ? fontMetrics().elidedText(shown.mid(line.textStart()), Qt::ElideRight, room)
+                          : shown.mid(line.textStart(), line.textLength()));
+    }
+    layout.endLayout();
+    return broken;
+}
+
 void LinkLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setFont(font());
     painter.setPen(palette().color(QPalette::WindowText));
-    const QFontMetrics metrics(font());
-    const QRect room = rect().adjusted(Spacing::Inside, Spacing::Inside / 2, -Spacing::Inside, 0);
-    QTextLayout layout(shown, font());
-    layout.beginLayout();
-    for (int number = 0; number < lines; ++number) {
-        QTextLine line = layout.createLine();
-        if (!line.isValid())
-            break;
-        line.setLineWidth(room.width());
-        const bool last = number == lines - 1;
-        const QString text = last ? metrics.elidedText(shown.mid(line.textStart()), Qt::ElideRight, room.width())
-                                  : shown.mid(line.textStart(), line.textLength());
-        painter.drawText(room.left(), room.top() + number * metrics.lineSpacing() + metrics.ascent(), text);
+    int baseline = Spacing::Inside / 2 + fontMetrics().ascent();
+    for (const QString& line : Lines(width())) {
+        painter.drawText(Inset(), baseline, line);
+        baseline += fontMetrics().lineSpacing();
     }
-    layout.endLayout();
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
+        option.rect.setWidth(qMin(width(), sizeHint().width()));
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
+}
+
+int LinkLabel::Inset() const
+{
+    return role == TextRole::Heading ? 0 : Spacing::Inside;
 }
 
 bool LinkLabel::hitButton(const QPoint& place) const

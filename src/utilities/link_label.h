@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/click_label.h"
+#include "platform/theme.h"
 
 /// A label of the links page. Its text is plain, whatever it holds: one that is too long for its lines ends in an
 /// ellipsis and never widens the page. In the link style it is underlined and blue and can be clicked or pressed; in
@@ -16,8 +17,8 @@ public:
         Link
     };
 
-    /// `shownLines` is the number of lines that the label has room for.
-    LinkLabel(const QString& name, int shownLines, QWidget* parent = nullptr);
+    /// The text is broken into up to `mostLines` lines where the page is too narrow for it.
+    LinkLabel(const QString& name, TextRole textRole, int mostLines);
 
     /// Shows a text; `caption` names it for those who hear the page.
     void ShowText(const QString& text, Look textLook, const QString& caption);
@@ -25,6 +26,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,6 +37,11 @@ protected:
 private:
     void TakeColour();
 
+    /// Links need room for the ring of the focus.
+    int Inset() const;
+    QStringList Lines(int width) const;
+
+    TextRole role;
     int lines;
     Look look = Look::Plain;
     QString shown;

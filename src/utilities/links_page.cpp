@@ -51,16 +51,22 @@ LinksPage::LinksPage() : PageFrame(25, QStringLiteral("Internet Links"))
 QWidget* LinksPage::BuildCard()
 {
     for (int index = 0; index < static_cast<int>(F25link.size()); ++index) {
-        const int lines = index == WebAddress || index == MailAddress ? 1 : 2;
-        F25link.at(static_cast<size_t>(index)) = new LinkLabel(ElementName(QStringLiteral("F25link"), index), lines);
+        const int mostLines = index < FirstDescription ? 1 : 3;
+        F25link.at(static_cast<size_t>(index)) =
+            new LinkLabel(ElementName(QStringLiteral("F25link"), index),
+                          index == SiteName ? TextRole::Heading : TextRole::Body, mostLines);
     }
     const auto heading = [](const QString& caption, int index) {
-        return MakeLabel(caption, TextRole::Caption, ElementName(QStringLiteral("F25label"), index));
+        QLabel* label = MakeLabel(caption, TextRole::Caption, ElementName(QStringLiteral("F25label"), index));
+        // The caption's first line stands level with the text beside it, which is larger and has room around it.
+        label->setContentsMargins(0, Spacing::Inside / 2 + 1, 0, 0);
+        label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+        return label;
     };
     auto* card = new Card;
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Spacing::Cards);
-    grid->setVerticalSpacing(Spacing::Between);
+    grid->setVerticalSpacing(Spacing::Inside);
     grid->setColumnStretch(1, 1);
     card->Content()->addWidget(F25link[SiteName]);
     card->Content()->addLayout(grid);
@@ -68,7 +74,7 @@ QWidget* LinksPage::BuildCard()
     grid->addWidget(F25link[WebAddress], 0, 1);
     grid->addWidget(heading(QStringLiteral("E-Mail:"), 1), 1, 0);
     grid->addWidget(F25link[MailAddress], 1, 1);
-    grid->addWidget(heading(QStringLiteral("Description:"), 2), 2, 0, Qt::AlignTop);
+    grid->addWidget(heading(QStringLiteral("Description:"), 2), 2, 0);
     grid->addWidget(F25link[FirstDescription], 2, 1);
     grid->addWidget(F25link[FirstDescription + 1], 3, 1);
     return card;
