@@ -1,7 +1,8 @@
 #pragma once
 
 #include "platform/click_label.h"
-#include "platform/theme.h"
+
+enum class TextRole;
 
 /// A label of the links page. Its text is plain, whatever it holds: one that is too long for its lines ends in an
 /// ellipsis and never widens the page. In the link style it is underlined and blue and can be clicked or pressed; in
