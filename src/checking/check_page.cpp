@@ -48,6 +48,7 @@ void AddOptions(Card* card, std::initializer_list<QRadioButton*> options)
         group->addButton(option);
         row->addWidget(option);
     }
+    row->addStretch(1);
     card->Content()->addLayout(row);
 }
 
@@ -77,7 +78,7 @@ void CheckPage::BuildCards()
     F12user->setObjectName(QStringLiteral("F12user"));
     F12user->setAccessibleName(QStringLiteral("User"));
     F12user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    F12user->setMinimumContentsLength(12);
+    F12user->setMinimumContentsLength(10);
     F12cal->setObjectName(QStringLiteral("F12cal"));
     F12cal->setAccessibleName(QStringLiteral("Date of the draw"));
     F12cal->setCalendarPopup(true);
@@ -87,6 +88,7 @@ void CheckPage::BuildCards()
     F12text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     F12text->setUndoRedoEnabled(false);
     F12text->setFrameShape(QFrame::NoFrame);
+    F12text->viewport()->setBackgroundRole(QPalette::AlternateBase);
     F12text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
     Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
@@ -96,10 +98,12 @@ void CheckPage::BuildCards()
     Card* dateCard = MakeGroup(QStringLiteral("Date"), QStringLiteral("F12label3"), QStringLiteral("F12shape2"));
     AddOptions(dateCard, {F12datelatest, F12dateselect});
     dateCard->Content()->addWidget(F12cal);
+    for (Card* card : {userCard, typeCard, dateCard})
+        card->Content()->addStretch(1);
     auto* cards = new QHBoxLayout;
     cards->setSpacing(Spacing::Between);
     for (Card* card : {userCard, typeCard, dateCard})
-        cards->addWidget(card, 0, Qt::AlignTop);
+        cards->addWidget(card);
     cards->addStretch(1);
     Body()->addLayout(cards);
 

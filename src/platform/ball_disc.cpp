@@ -65,7 +65,7 @@ void BallDisc::paintEvent(QPaintEvent* /*event*/)
                           ball.topLeft() + QPointF(ball.width() * 0.33, ball.height() * 0.28));
     light.setColorAt(0, colour.lightness() > 200 ? QColor(Qt::white) : colour.lighter(122));
     light.setColorAt(0.45, colour);
-    light.setColorAt(1, colour.darker(122));
+    light.setColorAt(1, colour.darker(116));
     painter.setBrush(light);
     painter.setPen(QPen(QColor(0, 0, 0, CurrentTheme().dark ? 150 : 120), 1));
     painter.drawEllipse(ball);

@@ -16,6 +16,7 @@ namespace {
 
 constexpr qreal Corner = 8;
 constexpr int ControlHeight = 36;
+constexpr int ListLineHeight = 28;
 constexpr int IndicatorSize = 18;
 constexpr int ArrowWidth = 28;
 
@@ -122,6 +123,43 @@ void DrawHeaderSection(const QStyleOption* option, QPainter* painter)
     painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
 }
 
+/// The place of the slider, or of the groove before or behind it.
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part)
+{
+    const bool across = bar.orientation == Qt::Horizontal;
+    const int length = across ? bar.rect.width() : bar.rect.height();
+    const int range = bar.maximum - bar.minimum;
+    int slider = length;
+    if (range > 0)
+        slider =
+            qBound(qMin(length, 28), static_cast<int>(qint64{length} * bar.pageStep / (range + bar.pageStep)), length);
+    const int start =
+        QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, length - slider, bar.upsideDown);
+    int from = 0;
+    int size = length;
+    if (part == QStyle::SC_ScrollBarSubPage) {
+        size = start;
+    } else if (part == QStyle::SC_ScrollBarAddPage) {
+        from = start + slider;
+        size = length - from;
+    } else if (part == QStyle::SC_ScrollBarSlider) {
+        from = start;
+        size = slider;
+    }
+    return across ? QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height())
+                  : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size);
+}
+
+void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter* painter)
+{
+    painter->fillRect(bar.rect, bar.palette.color(QPalette::AlternateBase));
+    QColor thumb = OutlineColour(bar.palette);
+    if (bar.activeSubControls & QStyle::SC_ScrollBarSlider)
+        thumb = bar.palette.color(QPalette::PlaceholderText);
+    const QRectF inner = QRectF(slider).adjusted(3, 3, -3, -3);
+    FillRounded(painter, inner, qMin(inner.width(), inner.height()) / 2, thumb, QColor());
+}
+
 } // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
@@ -199,6 +237,20 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                const QWidget* widget) const
 {
+    if (control == CC_ScrollBar) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            DrawScrollBar(*bar, proxy()->subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget), painter);
+        return;
+    }
+    if (control == CC_ToolButton) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            // The months behind a calendar's heading are found without an arrow across its text.
+            QStyleOptionToolButton plain = *button;
+            plain.features &= ~QStyleOptionToolButton::HasMenu;
+            QProxyStyle::drawComplexControl(control, &plain, painter, widget);
+            return;
+        }
+    }
     if (control != CC_ComboBox) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         return;
@@ -218,7 +270,21 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
         return visualRect(option->direction, option->rect,
                           option->rect.adjusted(Spacing::Between - 2, 2, -ArrowWidth, -2));
+    if (control == CC_ScrollBar) {
+        // The bar has no arrows at its ends, so that all of its length is for the slider.
+        if (subControl == SC_ScrollBarAddLine || subControl == SC_ScrollBarSubLine)
+            return {};
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return ScrollBarPart(*bar, subControl);
+    }
     return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    if (element == SE_CheckBoxFocusRect || element == SE_RadioButtonFocusRect)
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
@@ -229,6 +295,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return IndicatorSize;
+    case PM_ScrollBarExtent:
+        return 2 * Spacing::Inside + 2;
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return Spacing::Inside + 2;
@@ -256,6 +324,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
         return {size.width(), qMax(size.height(), ControlHeight)};
     case CT_ComboBox:
         return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
+    case CT_ItemViewItem:
+        return {size.width(), qMax(size.height(), ListLineHeight)};
     case CT_SpinBox:
         return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
     default:
@@ -268,6 +338,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     switch (hint) {
     case SH_ComboBox_Popup:
         return 0;
+    case SH_ScrollBar_Transient:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
         return 0;

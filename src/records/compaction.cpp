@@ -6,9 +6,11 @@
 #include "records/file_lock.h"
 #include "records/guarded_engine.h"
 
-#include <cstring>
+#include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -67,10 +69,20 @@ void CopyMarks(sqlite3* engine, const std::string& doing)
     }
 }
 
+void MakeEmptyFile(const std::filesystem::path& file, const std::string& doing)
+{
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (descriptor < 0)
+        throw Failure(doing, errno == EEXIST ? "an old temporary file is in the way" : "the folder may not be changed",
+                      file.filename().string());
+    ::close(descriptor);
+}
+
 void Export(sqlite3* engine, const std::filesystem::path& destination, const std::string& doing)
 {
     {
-        // Without a key of its own the attached file takes over the source's key and salt.
+        // The engine attaches only a file that is there; without a key of its own that takes over the source's key and
+        // salt.
         Statement attach(engine, "ATTACH DATABASE ?1 AS compacted", doing);
         const std::string target = destination.string();
         attach.Bind(1, Value(std::string_view(target)));
@@ -90,8 +102,7 @@ void CompactDatabase(const std::filesystem::path& source, const std::filesystem:
                      const std::string& connect)
 {
     const std::string doing = "The file " + source.filename().string() + " could not be compacted";
-    if (std::filesystem::exists(destination))
-        throw Failure(doing, "an old temporary file is in the way", destination.filename().string());
+    MakeEmptyFile(destination, doing);
     try {
         FileLock lock;
         lock.Share(source, doing);

@@ -129,10 +129,11 @@ sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& conne
         if (code != SQLITE_OK)
             ThrowEngineFailure(engine, code, doing);
         SetGuards(engine);
-        Execute(engine, "PRAGMA cipher_log_level = NONE; PRAGMA cell_size_check = 1", doing);
         const std::string password = PasswordOf(connect);
         if (!password.empty())
             ApplyKey(engine, password, firstBytes, doing);
+        // The first key of a run wakes the engine's own log up, so it is silenced after it.
+        Execute(engine, "PRAGMA cipher_log_level = NONE; PRAGMA cell_size_check = 1", doing);
         Execute(engine, "SELECT count(*) FROM sqlite_master", doing);
     } catch (...) {
         sqlite3_close_v2(engine);

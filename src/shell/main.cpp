@@ -1,8 +1,11 @@
+#include "platform/guard.h"
 #include "platform/style.h"
 #include "shell/main_window.h"
 #include "shell/open_databases.h"
+#include "shell/shut_down.h"
 #include "shell/splash_window.h"
 #include "shell/start_up.h"
+#include "shell/termination_watch.h"
 
 #include <QApplication>
 
@@ -20,7 +23,9 @@ int main(int count, char** arguments)
         frmsplash.ShowAtOnce();
         OpenDatabasesAtStart();
     }
+    const TerminationWatch termination;
     MainWindow frmmain;
+    ConnectGuarded(&termination, &TerminationWatch::TerminationAsked, &frmmain, [] { CloseAndCompact(); });
     frmmain.show();
     return QApplication::exec();
 }

@@ -87,6 +87,9 @@ void UserDetailsPage::BuildCards()
     listCard->Content()->addWidget(F11label1);
     F11list->setObjectName(QStringLiteral("F11list"));
     F11list->setAccessibleName(QStringLiteral("Users"));
+    F11list->setFrameShape(QFrame::NoFrame);
+    F11list->viewport()->setBackgroundRole(QPalette::AlternateBase);
+    F11list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     listCard->Content()->addWidget(F11list, 1);
 
     auto* userCard = new Card;

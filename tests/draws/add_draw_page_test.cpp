@@ -289,7 +289,7 @@ private Q_SLOTS:
         TestWindow window;
         Pages page(window, true);
         for (int draw = 0; draw < 2; ++draw) {
-            window.Find<MonthCalendar>("F7cal")->setSelectedDate(Saturday.addDays(7 * draw));
+            window.Find<MonthCalendar>("F7cal")->setSelectedDate(Saturday.addDays(draw));
             page.TypeBalls({"1", "2", "3", "4", "5", "6"});
             page.Store(ThunderballStored);
         }

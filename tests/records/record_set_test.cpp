@@ -1,0 +1,359 @@
+#include "support/test_window.h"
+
+#include "draws/draw_tables.h"
+#include "draws/game.h"
+#include "platform/failure.h"
+#include "records/compaction.h"
+#include "records/database_creation.h"
+#include "users/user_tables.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+const TableLayout Numbers{"numbers", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, {}};
+const TableLayout NumbersDownwards{"numberslist", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, "\"Number\" DESC", "numbers"};
+const std::string Connect = ";pwd=secret";
+
+void Add(RecordSet& set, std::int64_t number, std::string_view word)
+{
+    set.AddNew();
+    set.SetField(0, number);
+    set.SetField(1, word);
+    set.Update();
+}
+
+QString Walk(RecordSet& set)
+{
+    QString seen;
+    for (set.MoveFirst(); !set.Eof(); set.MoveNext())
+        seen += QString::number(set.Number(0)) + ' ';
+    return seen.trimmed();
+}
+
+/// A database with the rows 1 to 4, and its two record sets.
+class Fixture
+{
+public:
+    explicit Fixture(const std::string& connect = {})
+        : path(folder.filePath("numbers.db").toStdString()), connectString(connect)
+    {
+        CreateDatabase(path, connect, {Numbers}, {{NumbersDownwards, "numbers"}});
+        database.Open(path, connect);
+        table.Open(database, Numbers);
+        list.Open(database, NumbersDownwards);
+        for (const char* word : {"one", "two", "three", "four"})
+            Add(table, table.NextNumber(), word);
+        list.Requery();
+    }
+
+    QTemporaryDir folder;
+    std::string path;
+    std::string connectString;
+    Database database;
+    RecordSet table;
+    RecordSet list;
+};
+
+/// Runs an action that must fail; gives the failure's words.
+QString FailureOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return QString::fromStdString(failure.Reason());
+    }
+    return "no failure";
+}
+
+} // namespace
+
+class RecordSetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PositionsBehaveAtBothEnds()
+    {
+        Fixture f;
+        f.table.MoveFirst();
+        f.table.Move(-2);
+        QVERIFY(f.table.Bof() && !f.table.Eof());
+        f.table.MoveNext();
+        QCOMPARE(f.table.Number(0), 1.0);
+        f.table.Move(3);
+        QCOMPARE(f.table.Number(0), 4.0);
+        f.table.Move(2);
+        QVERIFY(f.table.Eof() && !f.table.Bof());
+        f.table.MovePrevious();
+        QCOMPARE(f.table.Text(1), std::string_view("four"));
+        QCOMPARE(FailureOf([&] {
+                     f.table.MoveNext();
+                     (void)f.table.Field(0);
+                 }),
+                 QString("there is no current record"));
+    }
+
+    void EmptySetIsAtBothEnds()
+    {
+        Fixture f;
+        for (f.table.MoveFirst(); !f.table.Eof(); f.table.MoveNext())
+            f.table.Delete();
+        f.table.MoveFirst();
+        QVERIFY(f.table.IsEmpty());
+        QCOMPARE(f.table.NextNumber(), std::int64_t{1});
+        Add(f.table, 7, "seven");
+        QVERIFY(!f.table.IsEmpty());
+        QCOMPARE(f.table.NextNumber(), std::int64_t{8});
+    }
+
+    void DeletedRowLeavesAGapUntilTheNextMove()
+    {
+        Fixture f;
+        f.table.MoveFirst();
+        f.table.MoveNext();
+        f.table.Delete();
+        QVERIFY(!f.table.Eof() && !f.table.Bof());
+        QCOMPARE(FailureOf([&] { (void)f.table.Field(0); }), QString("there is no current record"));
+        f.table.MoveNext();
+        QCOMPARE(f.table.Number(0), 3.0);
+        f.table.MovePrevious();
+        QCOMPARE(f.table.Number(0), 1.0);
+        f.table.Move(2);
+        QCOMPARE(f.table.Number(0), 4.0);
+        QCOMPARE(Walk(f.table), QString("1 3 4"));
+    }
+
+    void ListShowsOwnChangesAfterARequeryOnly()
+    {
+        Fixture f;
+        QCOMPARE(Walk(f.list), QString("4 3 2 1"));
+        Add(f.table, 5, "five");
+        QCOMPARE(Walk(f.list), QString("4 3 2 1"));
+        f.list.Requery();
+        QCOMPARE(f.list.Number(0), 5.0);
+    }
+
+    void EditKeepsTheFieldsThatAreNotSet()
+    {
+        Fixture f;
+        f.table.MoveLast();
+        f.table.Edit();
+        f.table.SetField(1, std::string_view("vier"));
+        f.table.Update();
+        QCOMPARE(f.table.Number(0), 4.0);
+        Database other;
+        RecordSet reread;
+        other.Open(f.path);
+        reread.Open(other, Numbers);
+        reread.MoveLast();
+        QCOMPARE(reread.Number(0), 4.0);
+        QCOMPARE(reread.Text(1), std::string_view("vier"));
+    }
+
+    void ChangeByAnotherCopyIsSeenAtTheNextFirstOrLastRow()
+    {
+        Fixture f;
+        Database other;
+        RecordSet theirs;
+        other.Open(f.path);
+        theirs.Open(other, Numbers);
+        QCOMPARE(f.table.Count(), 4);
+        Add(theirs, theirs.NextNumber(), "five");
+        f.table.MoveNext();
+        QCOMPARE(f.table.Count(), 4);
+        QCOMPARE(f.table.NextNumber(), std::int64_t{6});
+        theirs.MoveFirst();
+        theirs.Delete();
+        f.table.MoveFirst();
+        QCOMPARE(f.table.Number(0), 2.0);
+        f.list.MoveFirst();
+        QCOMPARE(f.list.Count(), 4);
+    }
+
+    void RowThatAnotherCopyDeletedIsNotChangedByMistake()
+    {
+        Fixture f;
+        Database other;
+        RecordSet theirs;
+        other.Open(f.path);
+        theirs.Open(other, Numbers);
+        f.table.MoveLast();
+        theirs.MoveLast();
+        theirs.Delete();
+        Add(theirs, 9, "nine");
+        f.table.Edit();
+        f.table.SetField(1, std::string_view("mine"));
+        QCOMPARE(FailureOf([&] { f.table.Update(); }),
+                 QString("another copy of the program has deleted the row meanwhile"));
+        f.table.Delete();
+        QCOMPARE(Walk(theirs), QString("1 2 3 9"));
+    }
+
+    void TransactionIsAllOrNothing()
+    {
+        Fixture f;
+        f.table.MoveFirst();
+        f.table.MoveNext();
+        {
+            Transaction transaction(f.database, "nothing");
+            Add(f.table, 5, "five");
+            f.table.MovePrevious();
+            f.table.Delete();
+            f.table.MoveNext();
+        }
+        QCOMPARE(f.table.Number(0), 2.0);
+        QCOMPARE(Walk(f.table), QString("1 2 3 4"));
+        Transaction transaction(f.database, "all");
+        Add(f.table, 5, "five");
+        transaction.Commit();
+        QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
+    }
+
+    void FullDiskStoresNothingAndTheSetStaysTrue()
+    {
+        Fixture f;
+        const auto size = QFileInfo(QString::fromStdString(f.path)).size();
+        std::signal(SIGXFSZ, SIG_IGN);
+        struct rlimit old = {};
+        ::getrlimit(RLIMIT_FSIZE, &old);
+        const struct rlimit full = {static_cast<rlim_t>(size), old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+        const QString reason = FailureOf([&] {
+            Transaction transaction(f.database, "The rows could not be stored");
+            for (int row = 0; row < 3000; ++row)
+                Add(f.table, row, "a word that takes some room");
+            transaction.Commit();
+        });
+        ::setrlimit(RLIMIT_FSIZE, &old);
+        QVERIFY2(reason.contains("disk"), qPrintable(reason));
+        QCOMPARE(Walk(f.table), QString("1 2 3 4"));
+        Add(f.table, f.table.NextNumber(), "five");
+        QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
+    }
+
+    void LockedFileIsToldAfterAWhile()
+    {
+        Fixture f;
+        Database other;
+        other.Open(f.path);
+        const Transaction theirs(other, "theirs");
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(FailureOf([&] { const Transaction mine(f.database, "mine"); }),
+                 QString("another program is using the file"));
+        QVERIFY(clock.elapsed() < 6000);
+    }
+
+    void OpenRefusesWhatIsNotOurs_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("zeros") << QByteArray(8192, '\0');
+        QTest::newRow("text") << QByteArray("Dear diary, today I won the lottery.\n").repeated(200);
+        QTest::newRow("short") << QByteArray("SQLite");
+        QTest::newRow("a plain header and nothing behind it") << QByteArray("SQLite format 3\0", 16);
+    }
+
+    void OpenRefusesWhatIsNotOurs()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        const std::string path = folder.filePath("file").toStdString();
+        QFile file(QString::fromStdString(path));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        for (const std::string& connect : {std::string(), Connect}) {
+            Database database;
+            RecordSet set;
+            QVERIFY(FailureOf([&] {
+                        database.Open(path, connect);
+                        set.Open(database, Numbers);
+                    }) != "no failure");
+        }
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), content);
+    }
+
+    void OpenProvesKeyKindAndColumns()
+    {
+        const Fixture f(Connect);
+        Database database;
+        QVERIFY(FailureOf([&] { database.Open(f.path, ";pwd=Secret"); }) != "no failure");
+        QVERIFY(FailureOf([&] { database.Open(f.path); }) != "no failure");
+        QCOMPARE(FailureOf([&] { database.Open(f.path + "x", Connect); }), QString("the file is not there"));
+        database.Open(f.path, Connect);
+        RecordSet set;
+        const QString missing = "it is missing in the file";
+        const QString other = "its columns are not as this program made them";
+        const auto layoutOf = [](const TableLayout& base, const std::string& name, std::vector<ColumnLayout> columns) {
+            TableLayout layout = base;
+            layout.name = name;
+            layout.columns = std::move(columns);
+            return layout;
+        };
+        const auto reasonFor = [&](const TableLayout& layout) {
+            return FailureOf([&] { set.Open(database, layout); });
+        };
+        QCOMPARE(reasonFor(layoutOf(Numbers, "letters", Numbers.columns)), missing);
+        QCOMPARE(reasonFor(layoutOf(Numbers, "numberslist", Numbers.columns)), missing);
+        QCOMPARE(reasonFor(layoutOf(NumbersDownwards, "numbers", Numbers.columns)), missing);
+        QCOMPARE(reasonFor(layoutOf(Numbers, "numbers", {{"Word", "TEXT"}, {"Number", "INTEGER"}})), other);
+        QCOMPARE(reasonFor(layoutOf(Numbers, "numbers", {{"Number", "INTEGER"}})), other);
+        QCOMPARE(reasonFor(layoutOf(Numbers, "numbers", {{"Number", ""}, {"Word", ""}, {"More", ""}})), other);
+        set.Open(database, Numbers);
+        QCOMPARE(set.Count(), 4);
+    }
+
+    void DamageInTheMiddleIsNoShortTable()
+    {
+        Fixture f(Connect);
+        {
+            Transaction transaction(f.database, "many");
+            for (int row = 5; row < 3000; ++row)
+                Add(f.table, row, "a word that takes some room");
+            transaction.Commit();
+        }
+        f.database.Close();
+        QFile file(QString::fromStdString(f.path));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek(file.size() / 2));
+        file.write("X");
+        file.close();
+        f.database.Open(f.path, Connect);
+        f.table.Open(f.database, Numbers);
+        QCOMPARE(FailureOf([&] { f.table.MoveFirst(); }),
+                 QString("the file is damaged or is not one of this program's files"));
+    }
+
+    void CompactionKeepsRowsOrderKeyMarksAndMode()
+    {
+        Fixture f(Connect);
+        for (f.table.MoveFirst(); f.table.Number(0) != 3;)
+            f.table.Delete(), f.table.MoveNext();
+        Add(f.table, 2, "two again");
+        f.database.Close();
+        QVERIFY(QFile::setPermissions(QString::fromStdString(f.path), QFile::ReadOwner | QFile::WriteOwner));
+        const std::string compacted = f.path + ".compacted";
+        CompactDatabase(f.path, compacted, Connect);
+        QCOMPARE(QFile::permissions(QString::fromStdString(compacted)),
+                 QFile::permissions(QString::fromStdString(f.path)));
+        QFile file(QString::fromStdString(compacted));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(!file.read(15).startsWith("SQLite format 3"));
+        f.database.Open(compacted, Connect);
+        f.table.Open(f.database, Numbers);
+        f.list.Open(f.database, NumbersDownwards);
+        QCOMPARE(Walk(f.table), QString("3 4 2"));
+        QCOMPARE(Walk(f.list), QString("4 3 2"));
+        QVERIFY(FailureOf([&] { CompactDatabase(f.path, compacted, Connect); }) != "no failure");
+    }
+};
+
+TAVENOR_TEST_MAIN(RecordSetTest)
+#include "record_set_test.moc"
