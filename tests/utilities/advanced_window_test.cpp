@@ -63,14 +63,16 @@ class Utilities
 public:
     Utilities()
     {
-        AddUser(users, QString(3000, u'x'), 5);
+        AddUser(users, QString(30000, u'x'), 5);
         AddUser(users, "Ann", 5);
         users.MoveFirst();
         users.Delete();
+        Transaction manyDeletions(DrawDb, "The draws could not be deleted");
         for (int deleted = 0; deleted < 500; ++deleted) {
             ukmain.MoveFirst();
             ukmain.Delete();
         }
+        manyDeletions.Commit();
         rows = Rows();
     }
 
@@ -90,9 +92,10 @@ public:
     void Choose(const QString& button, const std::function<void(QFileDialog&)>& inDialog)
     {
         window.modals.WillDo([button](QDialog& advanced) {
-            // A modal window that opens another one would keep the look-out for modal windows waiting.
+            // The look-out for modal windows must be free again before the button opens the next one.
             QTimer::singleShot(0, &advanced, [&advanced, button] {
                 QTest::mouseClick(advanced.findChild<QPushButton*>(button), Qt::LeftButton);
+                QTest::keyClick(&advanced, Qt::Key_Escape);
             });
         });
         window.modals.WillDo([inDialog](QDialog& dialog) { inDialog(dynamic_cast<QFileDialog&>(dialog)); });
@@ -100,7 +103,6 @@ public:
 
     void Finish()
     {
-        window.modals.WillDo([](QDialog& advanced) { QTest::keyClick(&advanced, Qt::Key_Escape); });
         window.Click("advanced");
         QVERIFY(window.modals.AllCame());
     }
@@ -111,6 +113,9 @@ public:
             auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
             name->setText(path);
             QTest::keyClick(name, Qt::Key_Return);
+            // Still there when the question about overwriting was answered with No.
+            if (dialog.isVisible())
+                dialog.reject();
         });
     }
 
@@ -236,9 +241,7 @@ private Q_SLOTS:
         utilities.Choose("exportuser",
                          [&](QFileDialog& dialog) { Utilities::Accept(dialog, utilities.Own("copy.tv3")); });
         utilities.window.modals.WillPress(answer);
-        if (answer == QMessageBox::No)
-            utilities.window.modals.WillDo([](QDialog& dialog) { dialog.reject(); });
-        else
+        if (answer == QMessageBox::Yes)
             utilities.window.modals.WillPress(QMessageBox::Ok);
         utilities.Finish();
         QCOMPARE(Bytes(utilities.Own("copy.tv3")) == "old", answer == QMessageBox::No);
