@@ -15,7 +15,6 @@ using Clock = std::chrono::steady_clock;
 constexpr std::string_view PlainFileStart = "SQLite format 3";
 constexpr int LongestFieldBytes = 64 * 1024 * 1024;
 constexpr int BusyMilliseconds = 3000;
-constexpr int LongestPattern = 50;
 constexpr int InstructionsBetweenLooks = 100000;
 constexpr auto LongestStatement = std::chrono::seconds(5);
 
@@ -93,8 +92,6 @@ void SetGuards(sqlite3* engine)
     sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_FKEY, 0, nullptr);
-    // Checks and indexes of the file may carry patterns whose matching takes time without end, in one instruction.
-    sqlite3_limit(engine, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, LongestPattern);
     sqlite3_drop_modules(engine, nullptr);
     sqlite3_set_authorizer(engine, AdmitRecords, nullptr);
     sqlite3_trace_v2(engine, SQLITE_TRACE_STMT, NoteStart, nullptr);
