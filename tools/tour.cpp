@@ -29,13 +29,16 @@ constexpr Stop Stops[] = {
     {"group_5", 5, 0}, {"add_main", 1, 1}, {"add_thunderball", 1, 2}, {"user_details", 3, 1},
 };
 
-/// Presses a button that opens a modal window, takes that window's picture and closes it.
-void TakeModalWindow(QWidget& window, const QString& button, const QString& file)
+/// Presses a button that opens a modal window, takes that window's picture, does the same with a button of that window,
+/// if one is named, and closes it.
+void TakeModalWindow(QWidget& window, const QString& button, const QDir& pictures, const QString& innerButton = {})
 {
-    QTimer::singleShot(0, &window, [file] {
+    QTimer::singleShot(0, &window, [pictures, button, innerButton] {
         auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         QApplication::processEvents();
-        modal->grab().save(file);
+        modal->grab().save(pictures.filePath(button + QStringLiteral(".png")));
+        if (!innerButton.isEmpty())
+            TakeModalWindow(*modal, innerButton, pictures);
         modal->reject();
     });
     window.findChild<QPushButton*>(button)->click();
@@ -76,6 +79,6 @@ int main(int count, char** arguments)
     QApplication::processEvents();
     window.grab().save(pictures.filePath(QStringLiteral("links.png")));
     window.findChild<QPushButton*>(QStringLiteral("F25back"))->click();
-    TakeModalWindow(window, QStringLiteral("advanced"), pictures.filePath(QStringLiteral("advanced.png")));
+    TakeModalWindow(window, QStringLiteral("advanced"), pictures, QStringLiteral("exportdraw"));
     return 0;
 }

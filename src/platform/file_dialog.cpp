@@ -1,7 +1,9 @@
 #include "platform/file_dialog.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QSettings>
+#include <QTreeView>
 
 namespace {
 
@@ -19,6 +21,12 @@ QString Ask(QFileDialog& dialog, const FileQuestion& question)
     dialog.setNameFilter(QStringLiteral("Tavenor 3 Files (*.tv3)"));
     dialog.setDefaultSuffix(QStringLiteral("tv3"));
     dialog.selectFile(question.offeredName);
+    // Wide enough for sizes and dates to be read whole.
+    dialog.resize(800, 500);
+    if (const auto* details = dialog.findChild<QTreeView*>(QStringLiteral("treeView")))
+        for (int column = 0; column < details->header()->count(); ++column)
+            details->header()->setSectionResizeMode(column,
+                                                    column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
