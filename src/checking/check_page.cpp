@@ -39,17 +39,20 @@ Card* MakeGroup(const QString& caption, const QString& captionName, const QStrin
     return card;
 }
 
-void AddOptions(Card* card, std::initializer_list<QRadioButton*> options)
+void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRadioButton*> options)
 {
+    auto* frame = new QWidget;
+    frame->setObjectName(frameName);
     auto* group = new QButtonGroup(card);
-    auto* row = new QHBoxLayout;
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Spacing::Between);
     for (QRadioButton* option : options) {
         group->addButton(option);
         row->addWidget(option);
     }
     row->addStretch(1);
-    card->Content()->addLayout(row);
+    card->Content()->addWidget(frame);
 }
 
 } // namespace
@@ -93,10 +96,10 @@ void CheckPage::BuildCards()
 
     Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
     userCard->Content()->addWidget(F12user);
-    Card* typeCard = MakeGroup(QStringLiteral("Draw Type"), QStringLiteral("F12label2"), QStringLiteral("F12frame1"));
-    AddOptions(typeCard, {F12typem, F12typet, F12typeb});
+    Card* typeCard = MakeGroup(QStringLiteral("Draw Type"), QStringLiteral("F12label2"), QString());
+    AddOptions(typeCard, QStringLiteral("F12frame1"), {F12typem, F12typet, F12typeb});
     Card* dateCard = MakeGroup(QStringLiteral("Date"), QStringLiteral("F12label3"), QStringLiteral("F12shape2"));
-    AddOptions(dateCard, {F12datelatest, F12dateselect});
+    AddOptions(dateCard, QStringLiteral("F12frame2"), {F12datelatest, F12dateselect});
     dateCard->Content()->addWidget(F12cal);
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
@@ -218,19 +221,24 @@ CheckedGame CheckPage::FindCheckDrawDate(const Game& game) const
 
 void CheckPage::ShowReport(const CheckReport& report)
 {
-    QTextCharFormat plain;
     QTextCharFormat emphasised;
     emphasised.setFontWeight(QFont::Bold);
-    F12text->clear();
+    // The text goes in at once and is laid out once; line by line it would take several times as long.
+    F12text->setPlainText(report.text);
     QTextCursor caret(F12text->document());
     caret.beginEditBlock();
-    qsizetype done = 0;
+    qsizetype counted = 0;
+    qsizetype lineBreaks = 0;
+    // A line break is two characters of the report, but one place in the document.
+    const auto placeOf = [&](qsizetype position) {
+        lineBreaks += QStringView(report.text).mid(counted, position - counted).count(u'\r');
+        counted = position;
+        return static_cast<int>(position - lineBreaks);
+    };
     for (const CheckReport::Span& span : report.emphasised) {
-        caret.insertText(report.text.mid(done, span.start - done), plain);
-        caret.insertText(report.text.mid(span.start, span.length), emphasised);
-        done = span.start + span.length;
+        caret.setPosition(placeOf(span.start));
+        caret.setPosition(placeOf(span.start + span.length), QTextCursor::KeepAnchor);
+        caret.setCharFormat(emphasised);
     }
-    caret.insertText(report.text.mid(done), plain);
     caret.endEditBlock();
-    F12text->moveCursor(QTextCursor::Start);
 }

@@ -1,9 +1,9 @@
 #include "checking/check_report.h"
 
 #include "platform/dates.h"
-#include "platform/numbers.h"
 
 #include <algorithm>
+#include <charconv>
 #include <unordered_map>
 
 namespace {
@@ -47,10 +47,22 @@ EntriesByUser PlayedEntries(const CheckedGame& checked, std::span<const EntryRow
     return played;
 }
 
+/// Appends a count as composed messages write it, with one leading space. A report has a hundred thousand of them, so
+/// none makes a text of its own.
+void AppendSpaced(QString& text, int count)
+{
+    std::array<char, 12> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), count).ptr;
+    text += u' ';
+    text += QLatin1String(digits.data(), end - digits.data());
+}
+
 void AppendResult(QString& text, const Game& game, const EntryResult& result)
 {
     const GameWords& words = WordsOf(game);
-    text += words.indent + SpacedNumber(result.mainMatches) + QLatin1String(" main ball");
+    text += words.indent;
+    AppendSpaced(text, result.mainMatches);
+    text += QLatin1String(" main ball");
     if (result.mainMatches != 1)
         text += u's';
     text += result.extraMatched ? words.extraMatched : QLatin1String(". ");
@@ -75,7 +87,9 @@ void AppendSection(QString& text, const CheckedGame& checked, const std::vector<
     }
     int counter = 1;
     for (const std::size_t index : *played) {
-        text += QLatin1String("   ") + SpacedNumber(counter++) + u'>';
+        text += QLatin1String("   ");
+        AppendSpaced(text, counter++);
+        text += u'>';
         AppendResult(text, *checked.game, CompareEntry(*checked.game, entries[index], *checked.draw));
     }
 }
@@ -110,6 +124,8 @@ CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const
     for (const CheckedGame& checked : games)
         played.push_back(PlayedEntries(checked, entries));
     CheckReport report;
+    constexpr qsizetype usualLineLength = 32;
+    report.text.reserve(static_cast<qsizetype>(entries.size()) * usualLineLength);
     const auto appendEmphasised = [&report](const QString& line) {
         report.emphasised.push_back({report.text.size(), line.size()});
         report.text += line;

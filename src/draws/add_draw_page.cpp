@@ -60,6 +60,8 @@ AddDrawPage::AddDrawPage(const Game& drawGame)
 {
     calendar->setObjectName(QLatin1String(TextsOf(game).calendar));
     balls->SetRule(AddingRule(game));
+    if (!game.hasMachine)
+        balls->Caption(0)->setObjectName(QStringLiteral("F7Tabel"));
     BuildCards();
     reset = AddFooterButton(QStringLiteral("Reset"), ControlName(game, "Reset"));
     store = AddFooterDefault(QStringLiteral("Store"), ControlName(game, "Store"));

@@ -25,7 +25,8 @@ BallFields::BallFields(const Names& names, const QStringList& captions, QWidget*
         auto* field = new BallEdit(disc);
         field->setObjectName(ElementName(names.field, index));
         disc->Carry(field);
-        QLabel* caption = MakeLabel(captions[slot], TextRole::Caption, ElementName(names.caption, slot));
+        QLabel* caption =
+            MakeLabel(captions[slot], TextRole::Caption, ElementName(names.caption, names.firstCaption + slot));
         caption->setAlignment(Qt::AlignCenter);
         fields.push_back(field);
         discs.push_back(disc);
@@ -70,6 +71,7 @@ double BallFields::NumberIn(int slot) const
 std::vector<double> BallFields::Numbers() const
 {
     std::vector<double> numbers;
+    numbers.reserve(fields.size());
     for (int slot = 0; slot < Count(); ++slot)
         numbers.push_back(NumberIn(slot));
     return numbers;

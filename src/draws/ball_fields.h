@@ -26,6 +26,8 @@ public:
         QString disc;
         QString caption;
         std::vector<int> indices;
+        /// The index of the first caption; the others follow it.
+        int firstCaption = 0;
     };
 
     BallFields(const Names& names, const QStringList& captions, QWidget* parent = nullptr);

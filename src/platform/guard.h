@@ -13,11 +13,11 @@ void Guard(const std::function<void()>& handler);
 template <typename Sender, typename Signal, typename Handler>
 void ConnectGuarded(const Sender* sender, Signal signal, const QObject* context, Handler handler)
 {
-    QObject::connect(sender, signal, context, [handler](auto... arguments) {
+    QObject::connect(sender, signal, context, [handler](auto... arguments) -> void {
         Guard([&] {
             if constexpr (std::is_invocable_v<const Handler&, decltype(arguments)...>)
                 handler(arguments...);
-            else
+            else if constexpr (std::is_invocable_v<const Handler&>)
                 handler();
         });
     });

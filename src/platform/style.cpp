@@ -337,7 +337,6 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 {
     switch (hint) {
     case SH_ComboBox_Popup:
-        return 0;
     case SH_ScrollBar_Transient:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:

@@ -43,7 +43,7 @@ AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
       F18user(MakeList(QStringLiteral("F18user"), QStringLiteral("User Name"))),
       F18type(MakeList(QStringLiteral("F18type"), QStringLiteral("Draw Type"))),
       F18ent(new BallFields(
-          {QStringLiteral("F18ent"), QStringLiteral("F18ball"), QStringLiteral("F18blab"), {1, 2, 3, 4, 5, 6}},
+          {QStringLiteral("F18ent"), QStringLiteral("F18ball"), QStringLiteral("F18blab"), {1, 2, 3, 4, 5, 6}, 1},
           EntryCaptions())),
       F18day(new DayBoxes({QStringLiteral("F18day"), QStringLiteral("F18selallday"), QStringLiteral("F18clearday")},
                           QStringLiteral(" "))),

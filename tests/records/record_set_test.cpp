@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <csignal>
+#include <sqlite3.h>
 #include <sys/resource.h>
 
 namespace {
@@ -69,6 +70,22 @@ QString FailureOf(const std::function<void()>& action)
         return QString::fromStdString(failure.Reason());
     }
     return "no failure";
+}
+
+/// The number of rows that any tool sees which has no more than the password.
+int RowsByPasswordAlone(const std::string& path, const std::string& password)
+{
+    sqlite3* engine = nullptr;
+    sqlite3_stmt* count = nullptr;
+    int rows = -1;
+    if (sqlite3_open_v2(path.c_str(), &engine, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK &&
+        sqlite3_key(engine, password.data(), static_cast<int>(password.size())) == SQLITE_OK &&
+        sqlite3_prepare_v2(engine, "SELECT count(*) FROM numbers", -1, &count, nullptr) == SQLITE_OK &&
+        sqlite3_step(count) == SQLITE_ROW)
+        rows = sqlite3_column_int(count, 0);
+    sqlite3_finalize(count);
+    sqlite3_close(engine);
+    return rows;
 }
 
 } // namespace
@@ -347,6 +364,8 @@ private Q_SLOTS:
         QFile file(QString::fromStdString(compacted));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.read(15).startsWith("SQLite format 3"));
+        QCOMPARE(RowsByPasswordAlone(f.path, "secret"), 3);
+        QCOMPARE(RowsByPasswordAlone(compacted, "secret"), 3);
         f.database.Open(compacted, Connect);
         f.table.Open(f.database, Numbers);
         f.list.Open(f.database, NumbersDownwards);

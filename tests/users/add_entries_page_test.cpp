@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(window.TextOf("F18userdata_1"), QString("Your limit is 10 entries."));
         QCOMPARE(window.TextOf("F18userdata_2"), QString("To alter limit, goto \"User Details\""));
         Choose(window, "F18type", type);
-        QCOMPARE(window.TextOf("F18blab_5"), type == 0 ? QString("Ball 6") : QString("Thunderball"));
+        QCOMPARE(window.TextOf("F18blab_6"), type == 0 ? QString("Ball 6") : QString("Thunderball"));
         TypeNumbers(window, numbers);
         QCOMPARE(window.FocusedName(), QString("F18store"));
         Store(window, {NoDay});
@@ -228,7 +228,7 @@ private Q_SLOTS:
         TypeNumbers(window, typed);
         Open(window);
         QCOMPARE(Numbers(window), QStringList(6, QString()));
-        QCOMPARE(window.TextOf("F18blab_5"), QString("Ball 6"));
+        QCOMPARE(window.TextOf("F18blab_6"), QString("Ball 6"));
     }
 
     void DrawDayWindowOffersStoreWithADayOnly()

@@ -1,0 +1,101 @@
+#include "support/test_window.h"
+
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+const QByteArray MainHeading = "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Ball6,Bonus,Machine,BallSet\n";
+const QByteArray ThunderballHeading = "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Thunderball\n";
+const QByteArray LinksHeading = "SiteName,WebAddress,MailAddress,Description1,Description2\n";
+
+/// Runs the tool on three lists in a folder of its own.
+class Run
+{
+public:
+    Run(const QByteArray& mainRows, const QByteArray& thunderballRows)
+    {
+        const QStringList lists{Write("main.csv", MainHeading + mainRows),
+                                Write("thunderball.csv", ThunderballHeading + thunderballRows),
+                                Write("links.csv", LinksHeading + "A site,www.site.example,,One,Two\n")};
+        SetProgramDir(folder.filePath("out").toStdString());
+        QProcess process;
+        process.start(TAVENOR_MAKE_DATABASES, lists + QStringList{folder.filePath("out")});
+        process.waitForFinished();
+        code = process.exitCode();
+        said = QString::fromLocal8Bit(process.readAllStandardError());
+    }
+
+    int code;
+    QString said;
+    QTemporaryDir folder;
+
+private:
+    QString Write(const QString& name, const QByteArray& content)
+    {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("A list could not be written");
+        return file.fileName();
+    }
+};
+
+} // namespace
+
+class MakeDatabasesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void RowsGoInByDateNumberedFromOne()
+    {
+        const Run run("2015-10-07,1,2,3,4,5,6,7,MERLIN,4\n1994-11-19,3,5,14,22,30,44,10,,\n",
+                      "2010-05-08,1,2,3,4,5,1\n");
+        QVERIFY2(run.code == 0, qPrintable(run.said));
+        QCOMPARE(TestFolder::StoredRows("ukmain"),
+                 (QStringList{"1,1994-11-19,Sat,3,5,14,22,30,44,10,,", "2,2015-10-07,Wed,1,2,3,4,5,6,7,MERLIN,4"}));
+        QCOMPARE(TestFolder::StoredRows("ukmainlist").first().left(12), QString("2,2015-10-07"));
+        QCOMPARE(TestFolder::StoredRows("ukthunder"), QStringList{"1,2010-05-08,Sat,1,2,3,4,5,1"});
+        QCOMPARE(TestFolder::StoredRows("links"), QStringList{"A site,www.site.example,,One,Two"});
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList());
+    }
+
+    void ImpossibleRowStopsItWithItsPlace_data()
+    {
+        QTest::addColumn<QByteArray>("row");
+        QTest::addColumn<QString>("reason");
+        const QString balls = "a ball is out of range or stands twice";
+        QTest::newRow("no date") << QByteArray("2015-02-30,1,2,3,4,5,6,7,,") << "2015-02-30 is not a date";
+        QTest::newRow("no ball") << QByteArray("2015-10-07,1,x,3,4,5,6,7,,") << "x is not a ball";
+        QTest::newRow("out of range") << QByteArray("2015-10-07,1,2,3,4,5,50,7,,") << balls;
+        QTest::newRow("twice") << QByteArray("2015-10-07,1,2,3,4,4,6,7,,") << balls;
+        QTest::newRow("bonus a main ball") << QByteArray("2015-10-07,1,2,3,4,5,6,6,,") << balls;
+        QTest::newRow("not ascending") << QByteArray("2015-10-07,2,1,3,4,5,6,7,,")
+                                       << "the main balls are not in ascending order";
+        QTest::newRow("a field missing") << QByteArray("2015-10-07,1,2,3,4,5,6,7,") << "9 fields instead of 10";
+    }
+
+    void ImpossibleRowStopsItWithItsPlace()
+    {
+        QFETCH(QByteArray, row);
+        QFETCH(QString, reason);
+        const Run run("1994-11-19,3,5,14,22,30,44,10,,\n" + row + "\n", "");
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.said.trimmed().endsWith("main.csv:3: " + reason), qPrintable(run.said));
+        QVERIFY(!QFile::exists(run.folder.filePath("out/drawdata.tv3")));
+    }
+
+    void StarterDatabasesHoldTheWholeHistory()
+    {
+        const TestFolder folder(TestFolder::Content::Starter);
+        const QStringList mainDraws = TestFolder::StoredRows("ukmain");
+        QCOMPARE(mainDraws.size(), 2065);
+        QCOMPARE(mainDraws.first(), QString("1,1994-11-19,Sat,3,5,14,22,30,44,10,GUINEVERE,A"));
+        QCOMPARE(mainDraws.last().section(',', 0, 0), QString("2065"));
+        QCOMPARE(TestFolder::StoredRows("ukthunder").size(), 964);
+        QCOMPARE(TestFolder::StoredRows("links").filter("Your web site HERE.").size(), 1);
+    }
+};
+
+TAVENOR_TEST_MAIN(MakeDatabasesTest)
+#include "make_databases_test.moc"
