@@ -119,7 +119,7 @@ private Q_SLOTS:
             QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
             CloseDatabaseFiles();
         }
-        QVERIFY(ended && kills > 10);
+        QVERIFY(ended && kills > 5);
     }
 
     void UnfinishedChangeIsTakenBackBeforeTheFileIsReplaced()
