@@ -153,6 +153,18 @@ public:
         }
     }
 
+    void StartPageButtons() const
+    {
+        window.ShowStartPage();
+        Find<QAbstractButton>("F0links")->click();
+        Picture(QStringLiteral("links"), window);
+        window.ShowStartPage();
+        for (const char* name : {"about", "advanced"}) {
+            InModal(name, "back", [](QDialog&) {});
+            Find<QAbstractButton>(name)->click();
+        }
+    }
+
 private:
     template <typename Type>
     Type* Find(const char* name) const
@@ -226,5 +238,6 @@ int main(int count, char** arguments)
     }
     tour.EntryGenerator();
     tour.Analysis();
+    tour.StartPageButtons();
     return 0;
 }

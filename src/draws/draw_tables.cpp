@@ -6,6 +6,7 @@ namespace {
 
 TableLayout ListOf(TableLayout table)
 {
+    table.listedTable = table.name;
     table.name += "list";
     table.listOrder = "\"Date\" DESC, \"DrawId\" DESC";
     return table;

@@ -92,26 +92,57 @@ void SyncFolder(const std::filesystem::path& folder)
         ::fsync(directory.Number());
 }
 
+// A link stays a link: the file that it leads to is the one replaced.
+std::filesystem::path FileBehind(const std::filesystem::path& path)
+{
+    std::error_code missing;
+    return std::filesystem::is_symlink(path, missing) ? std::filesystem::weakly_canonical(path, missing) : path;
+}
+
+std::string NotWritten(const std::filesystem::path& target)
+{
+    return "The file " + target.filename().string() + " could not be written";
+}
+
 } // namespace
 
-void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath)
+void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath,
+                  const std::function<void(const std::filesystem::path& beside)>& beforeRename)
 {
-    // A link stays a link: the file that it leads to is the one replaced.
-    std::error_code missing;
-    const auto target = std::filesystem::is_symlink(targetPath, missing)
-                            ? std::filesystem::weakly_canonical(targetPath, missing)
-                            : targetPath;
-    const std::string doing = "The file " + target.filename().string() + " could not be written";
-    auto beside = target;
-    beside += ".new";
-    int error = WriteBeside(source, beside);
-    if (error == 0 && ::rename(beside.c_str(), target.c_str()) != 0)
-        error = errno;
-    if (error != 0) {
+    const auto target = FileBehind(targetPath);
+    const auto beside = BesideFile(target);
+    try {
+        if (const int error = WriteBeside(source, beside))
+            Fail(NotWritten(target), error);
+        if (beforeRename)
+            beforeRename(beside);
+        if (::rename(beside.c_str(), target.c_str()) != 0)
+            Fail(NotWritten(target), errno);
+    } catch (...) {
         ::unlink(beside.c_str());
-        Fail(doing, error);
+        throw;
     }
     SyncFolder(target.parent_path());
+}
+
+void MoveFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath)
+{
+    const auto target = FileBehind(targetPath);
+    if (::rename(source.c_str(), target.c_str()) == 0) {
+        SyncFolder(target.parent_path());
+        return;
+    }
+    if (errno != EXDEV)
+        Fail(NotWritten(target), errno);
+    CopyFileOver(source, target);
+    DeleteFileIfThere(source);
+}
+
+std::filesystem::path BesideFile(const std::filesystem::path& target)
+{
+    auto beside = target;
+    beside += ".new";
+    return beside;
 }
 
 void DeleteFileIfThere(const std::filesystem::path& file)

@@ -1,11 +1,21 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 /// Copies a file over another so that the target is, at every moment, either the old file or the whole new one: the
 /// copy is written beside the target, synced and renamed over it. The copy keeps the source's access rights.
-/// Throws Failure; the target is then as it was and nothing is left beside it.
-void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& target);
+/// `beforeRename` is given the finished copy; what it throws stops the copying. Throws Failure; the target is then as
+/// it was and nothing is left beside it.
+void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& target,
+                  const std::function<void(const std::filesystem::path& beside)>& beforeRename = {});
+
+/// Moves a file over another, in one step where both lie on the same disk. Throws Failure; the source is still there
+/// then.
+void MoveFileOver(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// The file that lies beside the target while a copy over it is being written.
+std::filesystem::path BesideFile(const std::filesystem::path& target);
 
 /// Deletes a file; one that is not there is no error. Throws Failure.
 void DeleteFileIfThere(const std::filesystem::path& file);

@@ -13,7 +13,6 @@ const char* PlainReason(int code)
         return "the disk is full";
     case SQLITE_READONLY:
     case SQLITE_PERM:
-    case SQLITE_AUTH:
         return "the file or its folder may not be changed";
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
@@ -28,6 +27,8 @@ const char* PlainReason(int code)
         return code == SQLITE_IOERR_WRITE ? "the disk is full or reported an error" : "the disk reported an error";
     case SQLITE_TOOBIG:
         return "a text is too long";
+    case SQLITE_INTERRUPT:
+        return "it took too long";
     case SQLITE_NOMEM:
         return "the computer is short of memory";
     default:

@@ -63,6 +63,12 @@ bool FileLock::TryAlone() const
     return descriptor >= 0 && TryLock(descriptor, F_WRLCK);
 }
 
+void FileLock::ShareAgain() const
+{
+    if (descriptor >= 0)
+        TryLock(descriptor, F_RDLCK);
+}
+
 std::string FileLock::FirstBytes(std::size_t count) const
 {
     std::string bytes(count, '\0');

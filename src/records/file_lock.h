@@ -20,6 +20,9 @@ public:
     /// Tries to become the only holder, without waiting; false when another copy has the file open.
     bool TryAlone() const;
 
+    /// Lets other copies share the file again.
+    void ShareAgain() const;
+
     /// Up to `count` bytes from the start of the locked file, read without touching the engine's own locks.
     std::string FirstBytes(std::size_t count) const;
 

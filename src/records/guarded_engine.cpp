@@ -4,11 +4,83 @@
 #include "records/engine.h"
 #include "records/key_store.h"
 
+#include <algorithm>
+#include <array>
+#include <chrono>
+
 namespace {
+
+using Clock = std::chrono::steady_clock;
 
 constexpr std::string_view PlainFileStart = "SQLite format 3";
 constexpr int LongestFieldBytes = 64 * 1024 * 1024;
 constexpr int BusyMilliseconds = 3000;
+constexpr int InstructionsBetweenLooks = 100000;
+constexpr auto LongestStatement = std::chrono::seconds(5);
+
+// Statements run one after another on the one thread of the program.
+Clock::time_point StatementStart;
+
+int NoteStart(unsigned /*event*/, void* /*unused*/, void* /*statement*/, void* /*sql*/)
+{
+    StatementStart = Clock::now();
+    return 0;
+}
+
+int EndWhenEndless(void* /*unused*/)
+{
+    return Clock::now() - StatementStart > LongestStatement ? 1 : 0;
+}
+
+bool IsOneOf(const char* name, std::initializer_list<std::string_view> names)
+{
+    return name != nullptr && std::find(names.begin(), names.end(), name) != names.end();
+}
+
+// What the program itself asks for when it reads and changes rows. A stored query or trigger on whose behalf something
+// happens is named in the last argument, and neither is ever let in.
+int AdmitRecords(void* /*unused*/, int action, const char* first, const char* second, const char* /*schema*/,
+                 const char* inner)
+{
+    if (inner != nullptr)
+        return SQLITE_DENY;
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+    case SQLITE_TRANSACTION:
+        return SQLITE_OK;
+    case SQLITE_FUNCTION:
+        return IsOneOf(second, {"count"}) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_PRAGMA:
+        return IsOneOf(first, {"cell_size_check", "cipher_log_level", "data_version", "table_xinfo"}) ? SQLITE_OK
+                                                                                                      : SQLITE_DENY;
+    default:
+        return SQLITE_DENY;
+    }
+}
+
+// What the export needs besides: it makes the objects anew in the file that is attached for it.
+int AdmitExport(void* unused, int action, const char* first, const char* second, const char* schema, const char* inner)
+{
+    switch (action) {
+    case SQLITE_ATTACH:
+    case SQLITE_DETACH:
+    case SQLITE_REINDEX:
+        return SQLITE_OK;
+    case SQLITE_CREATE_TABLE:
+    case SQLITE_CREATE_INDEX:
+        return IsOneOf(schema, {"compacted"}) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_FUNCTION:
+        return IsOneOf(second, {"count", "like", "quote", "sqlcipher_export"}) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_PRAGMA:
+        return IsOneOf(first, {"user_version", "application_id"}) ? SQLITE_OK : SQLITE_DENY;
+    default:
+        return AdmitRecords(unused, action, first, second, schema, inner);
+    }
+}
 
 void SetGuards(sqlite3* engine)
 {
@@ -18,6 +90,12 @@ void SetGuards(sqlite3* engine)
     sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_FKEY, 0, nullptr);
+    sqlite3_drop_modules(engine, nullptr);
+    sqlite3_set_authorizer(engine, AdmitRecords, nullptr);
+    sqlite3_trace_v2(engine, SQLITE_TRACE_STMT, NoteStart, nullptr);
+    sqlite3_progress_handler(engine, InstructionsBetweenLooks, EndWhenEndless, nullptr);
 }
 
 void ApplyKey(sqlite3* engine, const std::string& password, std::string_view firstBytes, const std::string& doing)
@@ -59,4 +137,11 @@ sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& conne
         throw;
     }
     return engine;
+}
+
+void AllowExport(sqlite3* engine)
+{
+    // The export writes the schema table itself, which the defensive mode forbids.
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
+    sqlite3_set_authorizer(engine, AdmitExport, nullptr);
 }

@@ -15,5 +15,8 @@ inline constexpr std::size_t SaltBytes = 16;
 sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
                      const std::string& doing);
 
+/// Lets the engine make a copy of the whole file in one attached under the name "compacted".
+void AllowExport(sqlite3* engine);
+
 /// The password of a connect string: what follows ";pwd="; empty for an empty connect string.
 std::string PasswordOf(const std::string& connect);

@@ -64,20 +64,38 @@ std::string RecordSet::Doing(const char* failed) const
 void RecordSet::ProveLayout() const
 {
     const std::string doing = Doing("opened");
-    Statement kind(database->engine, "SELECT type FROM sqlite_master WHERE name = ?1", doing);
-    kind.Bind(1, Value(std::string_view(layout.name)));
     const char* const wanted = layout.IsList() ? "view" : "table";
-    if (!kind.Step() || kind.Text(0) != wanted)
+    // A virtual table says that it is a table, but has no page of its own.
+    Statement kind(database->engine,
+                   "SELECT 1 FROM sqlite_master WHERE name = ?1 AND type = ?2 AND (rootpage > 0) = (type = 'table')",
+                   doing);
+    kind.Bind(1, Value(std::string_view(layout.name)));
+    kind.Bind(2, Value(std::string_view(wanted)));
+    if (!kind.Step())
         throw Failure(doing, "it is missing in the file", std::string("no such ") + wanted);
-    Statement columns(database->engine, "SELECT name FROM pragma_table_info(?1) ORDER BY cid", doing);
-    columns.Bind(1, Value(std::string_view(layout.name)));
+    Statement columns(database->engine, "PRAGMA table_xinfo(" + Quoted(layout.name) + ")", doing);
+    constexpr int nameColumn = 1;
+    constexpr int hiddenColumn = 6;
     std::size_t found = 0;
     for (; columns.Step(); ++found) {
-        if (found >= layout.columns.size() || columns.Text(0) != layout.columns[found].name)
-            throw Failure(doing, "its columns are not as this program made them", std::string(columns.Text(0)));
+        if (found >= layout.columns.size() || columns.Text(nameColumn) != layout.columns[found].name ||
+            columns.WholeNumber(hiddenColumn) != 0)
+            throw Failure(doing, "its columns are not as this program made them",
+                          std::string(columns.Text(nameColumn)));
     }
     if (found != layout.columns.size())
         throw Failure(doing, "its columns are not as this program made them", "columns missing");
+    // The file's own word for what is a table is not enough: the engine must be ready to read it as one.
+    const Statement readable(database->engine, ReadStatement(), doing);
+}
+
+std::string RecordSet::ReadStatement() const
+{
+    // A stored query is what its table holds, newest first. Its own text, which in a file of unknown origin may say
+    // anything, is never run: the table is read in that order.
+    return "SELECT rowid, " + ColumnNames(layout) + " FROM " +
+           Quoted(layout.IsList() ? layout.listedTable : layout.name) + " ORDER BY " +
+           (layout.IsList() ? layout.listOrder : "rowid");
 }
 
 RecordSet::Cell RecordSet::Stored(Rows& target, const Value& value) const
@@ -117,12 +135,8 @@ Value RecordSet::Read(const Cell& cell) const
 RecordSet::Rows RecordSet::ReadRows() const
 {
     const int columns = layout.ColumnCount();
-    const std::string sql =
-        layout.IsList()
-            ? "SELECT 0, " + ColumnNames(layout) + " FROM " + Quoted(layout.name) + " ORDER BY " + layout.listOrder
-            : "SELECT rowid, " + ColumnNames(layout) + " FROM " + Quoted(layout.name) + " ORDER BY rowid";
     Rows read;
-    Statement query(database->engine, sql, Doing("read"));
+    Statement query(database->engine, ReadStatement(), Doing("read"));
     while (query.Step()) {
         read.rowIds.push_back(query.WholeNumber(0));
         for (int column = 1; column <= columns; ++column)

@@ -122,6 +122,7 @@ private:
     Cell Stored(Rows& target, const Value& value) const;
     Value Read(const Cell& cell) const;
     void ProveLayout() const;
+    std::string ReadStatement() const;
     void StoreNewRow();
     void StoreCurrentRow();
     std::string Doing(const char* failed) const;

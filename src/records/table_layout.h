@@ -19,6 +19,8 @@ struct TableLayout
     /// For a stored query the order of its rows as the engine's ORDER BY clause; empty for a table, whose rows keep the
     /// order in which they were added.
     std::string listOrder;
+    /// The table that a stored query lists.
+    std::string listedTable = {};
 
     bool IsList() const { return !listOrder.empty(); }
     int ColumnCount() const { return static_cast<int>(columns.size()); }

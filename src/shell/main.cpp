@@ -21,7 +21,7 @@ int main(int count, char** arguments)
     {
         SplashWindow frmsplash;
         frmsplash.ShowAtOnce();
-        OpenDatabases();
+        OpenDatabasesAtStart();
     }
     const TerminationWatch termination;
     MainWindow frmmain;

@@ -3,9 +3,7 @@
 #include "draws/draw_tables.h"
 #include "draws/game.h"
 #include "platform/failure.h"
-#include "platform/files.h"
-#include "records/compaction.h"
-#include "records/file_lock.h"
+#include "records/held_file.h"
 #include "records/key_store.h"
 #include "users/user_tables.h"
 
@@ -30,45 +28,13 @@ RecordSet entries;
 
 namespace {
 
-std::filesystem::path Temporary(const std::filesystem::path& live, const char* ending)
-{
-    auto path = live;
-    return path.replace_extension(ending);
-}
-
-void CompactThroughTemporaries(const std::filesystem::path& live, const std::string& connect)
-{
-    const auto first = Temporary(live, ".tp1");
-    const auto second = Temporary(live, ".tp2");
-    // What an interrupted run left behind must not stand in the way of this one.
-    DeleteFileIfThere(second);
-    CopyFileOver(live, first);
-    CompactDatabase(first, second, connect);
-    DeleteFileIfThere(first);
-    CopyFileOver(second, live);
-    DeleteFileIfThere(second);
-}
-
-void ClearTemporaries(const std::filesystem::path& live)
-{
-    DeleteFileIfThere(Temporary(live, ".tp1"));
-    DeleteFileIfThere(Temporary(live, ".tp2"));
-}
-
 QString CloseAndCompactFile(Database& database, const std::filesystem::path& live, const std::string& connect)
 {
     database.Close();
     try {
-        FileLock lock;
-        lock.Share(live, "The file " + live.filename().string() + " could not be compacted");
-        if (!lock.TryAlone())
-            return {};
-        try {
-            CompactThroughTemporaries(live, connect);
-        } catch (const Failure&) {
-            ClearTemporaries(live);
-            throw;
-        }
+        HeldFile file(live, connect, "The file " + live.filename().string() + " could not be compacted");
+        if (file.Alone())
+            file.Compact();
     } catch (const Failure& failure) {
         return QString::fromStdString(failure.Doing() + ": " + failure.Reason() + ".");
     }
@@ -105,6 +71,18 @@ void OpenDatabaseFiles()
     UserDb.Open(UserDataPath);
     users.Open(UserDb, UsersTable());
     entries.Open(UserDb, EntriesTable());
+}
+
+void CloseDatabaseFiles()
+{
+    DrawDb.Close();
+    UserDb.Close();
+}
+
+void ReadEveryRow()
+{
+    for (RecordSet* set : {&ukmain, &ukthunder, &ukmainlist, &ukthunderlist, &links, &users, &entries})
+        set->Requery();
 }
 
 QString CloseAndCompactFiles()

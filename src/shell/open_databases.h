@@ -42,6 +42,12 @@ void SetProgramDir(const std::filesystem::path& folder);
 /// Opens both databases with their record sets, in place of those open before. Throws Failure.
 void OpenDatabaseFiles();
 
+/// Closes both databases with their record sets.
+void CloseDatabaseFiles();
+
+/// Reads every row of the open databases, so that damage anywhere in them shows at once. Throws Failure.
+void ReadEveryRow();
+
 /// Closes both databases and compacts each file through its two temporary files. A file that another running copy of
 /// the program has open is left as it is. What fails for one file does not stop the other: its live file stays as it
 /// was, the temporary files are cleared away, and the failures come back as one text a line; empty when all went well.

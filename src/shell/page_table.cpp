@@ -17,6 +17,7 @@
 #include "users/entry_edit_page.h"
 #include "users/entry_view_page.h"
 #include "users/user_details_page.h"
+#include "utilities/links_page.h"
 
 namespace {
 
@@ -41,6 +42,7 @@ constexpr PageTableRow Pages[] = {
     {22, [](PageSwitch& pages) -> PageFrame* { return new AnalysisPage(ThunderballGame, pages); }, true},
     {23, [](PageSwitch&) -> PageFrame* { return new BallDataPage(MainGame); }, false},
     {24, [](PageSwitch&) -> PageFrame* { return new BallDataPage(ThunderballGame); }, false},
+    {25, [](PageSwitch&) -> PageFrame* { return new LinksPage; }, true},
     {26, [](PageSwitch& pages) -> PageFrame* { return new EntryGeneratorPage(pages); }, true},
 };
 

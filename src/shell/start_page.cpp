@@ -4,6 +4,7 @@
 #include "platform/guard.h"
 #include "shell/about_window.h"
 #include "shell/page_switch.h"
+#include "utilities/advanced_window.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -85,4 +86,7 @@ void StartPage::F0links_Click()
         linksPage->Prepare();
 }
 
-void StartPage::advanced_Click() {}
+void StartPage::advanced_Click()
+{
+    AdvancedWindow(this).exec();
+}

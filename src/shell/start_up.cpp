@@ -1,17 +1,23 @@
 #include "shell/start_up.h"
 
-#include "platform/failure.h"
 #include "platform/message_box.h"
 #include "shell/open_databases.h"
 #include "shell/shut_down.h"
+#include "utilities/import.h"
 
 #include <QStringList>
 
-void OpenDatabases()
+#include <exception>
+#include <functional>
+
+namespace {
+
+bool OpenOrEnd(const std::function<void()>& open)
 {
     try {
-        OpenDatabaseFiles();
-    } catch (const Failure&) {
+        open();
+        return true;
+    } catch (const std::exception&) {
         ShowCritical(
             QStringList{QStringLiteral("There is a problem with the database files."),
                         QStringLiteral("If the problem persists, download with database files"),
@@ -19,5 +25,30 @@ void OpenDatabases()
                         QStringLiteral("or contact us at support@tavenor.example")}
                 .join(Crlf));
         EndProcess();
+        return false;
     }
+}
+
+} // namespace
+
+void OpenDatabases()
+{
+    OpenOrEnd(OpenDatabaseFiles);
+}
+
+void OpenDatabasesAtStart()
+{
+    OpenOrEnd([] {
+        PutBackKeptFiles();
+        OpenDatabaseFiles();
+    });
+}
+
+bool OpenImportedDatabases(Import& import)
+{
+    return OpenOrEnd([&] {
+        OpenDatabaseFiles();
+        ReadEveryRow();
+        import.Complete();
+    });
 }

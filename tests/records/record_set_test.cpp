@@ -17,7 +17,8 @@
 namespace {
 
 const TableLayout Numbers{"numbers", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, {}};
-const TableLayout NumbersDownwards{"numberslist", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, "\"Number\" DESC"};
+const TableLayout NumbersDownwards{
+    "numberslist", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, "\"Number\" DESC", "numbers"};
 const std::string Connect = ";pwd=secret";
 
 void Add(RecordSet& set, std::int64_t number, std::string_view word)

@@ -59,9 +59,9 @@ QStringList ModalWindows::TakeTexts()
 void ModalWindows::Look()
 {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || dialog == answered || !dialog->isVisible())
+    if (dialog == nullptr || answered.contains(dialog) || !dialog->isVisible())
         return;
-    answered = dialog;
+    answered.append(dialog);
     if (const auto* box = qobject_cast<QMessageBox*>(dialog))
         seen.append({box->windowTitle(), box->text(), box->icon(), box->standardButtons(),
                      box->standardButton(box->defaultButton())});

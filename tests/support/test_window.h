@@ -53,7 +53,7 @@ private:
 
     std::deque<std::function<bool(QDialog&)>> expected;
     QList<SeenBox> seen;
-    QPointer<QDialog> answered;
+    QList<QPointer<QDialog>> answered;
     int unforeseen = 0;
     QTimer timer;
 };

@@ -1,0 +1,94 @@
+#include "utilities/import.h"
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "shell/open_databases.h"
+#include "utilities/database_file.h"
+
+#include <vector>
+
+namespace {
+
+std::filesystem::path KeptAside(const std::filesystem::path& live)
+{
+    return WithEnding(live, ".tp0");
+}
+
+std::string NotReplaced(const std::filesystem::path& live)
+{
+    return "The file " + live.filename().string() + " could not be replaced";
+}
+
+void PutBack(const std::filesystem::path& live)
+{
+    // What the engine left beside the file that failed would be taken for a journal of the one that comes back.
+    DeleteJournals(live);
+    MoveFileOver(KeptAside(live), live);
+}
+
+std::vector<std::filesystem::path> UnfinishedFiles(const std::filesystem::path& live)
+{
+    std::vector<std::filesystem::path> files{BesideFile(live), BesideFile(KeptAside(live))};
+    for (const char* ending : {".tp1", ".tp2"}) {
+        files.push_back(WithEnding(live, ending));
+        files.push_back(BesideFile(files.back()));
+    }
+    return files;
+}
+
+bool AnyLeft(const std::filesystem::path& live)
+{
+    bool any = std::filesystem::exists(KeptAside(live));
+    for (const auto& file : UnfinishedFiles(live))
+        any = any || std::filesystem::exists(file);
+    return any;
+}
+
+void PutBackKeptFile(const std::filesystem::path& live)
+{
+    if (!AnyLeft(live))
+        return;
+    const std::string doing = "The file " + live.filename().string() + " could not be put back";
+    FileLock lock;
+    if (std::filesystem::exists(live)) {
+        lock.Share(live, doing);
+        if (!lock.TryAlone())
+            return;
+    }
+    if (std::filesystem::exists(KeptAside(live)))
+        PutBack(live);
+    for (const auto& file : UnfinishedFiles(live)) {
+        DeleteFileIfThere(file);
+        DeleteJournals(file);
+    }
+}
+
+} // namespace
+
+Import::Import(const DatabaseFile& file, const std::filesystem::path& chosen)
+    : live(file.live, file.connect, NotReplaced(file.live))
+{
+    if (!live.Alone())
+        throw Failure(NotReplaced(file.live), "another copy of the program is using it, or it may not be changed",
+                      file.live.string());
+    live.Settle();
+    CopyFileOver(live.Path(), KeptAside(live.Path()));
+    try {
+        live.ReplaceBy(chosen);
+    } catch (...) {
+        DeleteFileIfThere(KeptAside(live.Path()));
+        throw;
+    }
+    live.LetOpen();
+}
+
+void Import::Complete()
+{
+    DeleteFileIfThere(KeptAside(live.Path()));
+}
+
+void PutBackKeptFiles()
+{
+    PutBackKeptFile(DrawDataPath);
+    PutBackKeptFile(UserDataPath);
+}

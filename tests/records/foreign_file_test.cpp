@@ -1,0 +1,213 @@
+#include "support/raw_file.h"
+#include "support/test_window.h"
+
+#include "platform/failure.h"
+#include "records/compaction.h"
+#include "users/user_records.h"
+
+#include <QElapsedTimer>
+
+namespace {
+
+/// Runs an action; gives the engine's own words of its failure, or nothing.
+QString DetailOfFailure(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return QString::fromStdString(failure.Reason() + ": " + failure.Detail());
+    }
+    return {};
+}
+
+/// The program's two files, one of which somebody has worked over.
+class ForeignFiles
+{
+public:
+    explicit ForeignFiles(const std::string& userSql, const std::string& drawSql = {})
+    {
+        OpenDatabaseFiles();
+        AddUser(users, "Ann", 5);
+        AddEntry(entries, EntryRow{});
+        CloseDatabaseFiles();
+        RunSql(UserDataPath, {}, userSql);
+        if (!drawSql.empty())
+            RunSql(DrawDataPath, DrawConnect, drawSql);
+    }
+
+    TestFolder folder{TestFolder::Content::Empty};
+};
+
+const char* const WithKeys = "DROP TABLE entries; CREATE UNIQUE INDEX number ON users(UserId);"
+                             "CREATE TABLE entries(EntryId INTEGER, UserId INTEGER REFERENCES users(UserId) ON DELETE "
+                             "CASCADE, DrawType, Ball1, Ball2, Ball3, Ball4, Ball5, Ball6, Monday, Tuesday, Wednesday, "
+                             "Thursday, Friday, Saturday, Sunday); INSERT INTO entries(EntryId, UserId) VALUES (1, 1)";
+const char* const EndlessList = "DROP VIEW ukmainlist; CREATE VIEW ukmainlist AS WITH RECURSIVE more(n) AS (SELECT 1 "
+                                "UNION ALL SELECT n + 1 FROM more) SELECT n AS DrawId, n AS \"Date\", n AS Day, n AS "
+                                "Ball1, n AS Ball2, n AS Ball3, n AS Ball4, n AS Ball5, n AS Ball6, n AS Bonus, n AS "
+                                "Machine, n AS BallSet FROM more;"
+                                "INSERT INTO ukmain(DrawId, \"Date\") VALUES (1, '2020-01-04'), (2, '2020-01-11')";
+
+} // namespace
+
+class ForeignFileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void NothingOfTheFileRunsWhenRowsChange_data()
+    {
+        QTest::addColumn<std::string>("sql");
+        const auto row = [](const char* name, const std::string& sql) { QTest::newRow(name) << sql; };
+        row("trigger on adding", "CREATE TRIGGER t AFTER INSERT ON users BEGIN DELETE FROM entries; END");
+        row("trigger on changing", "CREATE TRIGGER t AFTER UPDATE ON users BEGIN DELETE FROM entries; END");
+        row("trigger on deleting", "CREATE TRIGGER t BEFORE DELETE ON users BEGIN DELETE FROM entries; END");
+        row("foreign key", WithKeys);
+        row("virtual table", "CREATE VIRTUAL TABLE search USING fts4(a)");
+        row("view of nothing", "CREATE VIEW v AS SELECT * FROM nowhere");
+    }
+
+    void NothingOfTheFileRunsWhenRowsChange()
+    {
+        QFETCH(std::string, sql);
+        const ForeignFiles files(sql);
+        OpenDatabaseFiles();
+        AddUser(users, "Bob", 1);
+        users.MoveFirst();
+        ChangeUser(users, "Anna", 2);
+        users.Delete();
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"2,Bob,1"});
+        QCOMPARE(TestFolder::StoredRows("entries").size(), 1);
+        CloseDatabaseFiles();
+        const auto compacted = files.folder.Path("compacted").toStdString();
+        QCOMPARE(DetailOfFailure([&] { CompactDatabase(UserDataPath, compacted, {}); }), QString());
+        QCOMPARE(CountRows(compacted, {}, "counting").at("entries"), 1);
+    }
+
+    void TableMustBeATable_data()
+    {
+        QTest::addColumn<std::string>("sql");
+        const auto row = [](const char* name, const std::string& sql) {
+            QTest::newRow(name) << "DROP TABLE users;" + sql;
+        };
+        const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
+        row("view", "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit");
+        row("view that says it is a table", "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit;" +
+                                                schema + "type = 'table', rootpage = 2 WHERE name = 'users'");
+        row("virtual table", "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit)");
+        row("virtual table that says it has a page",
+            "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit);" + schema +
+                "rootpage = 2 WHERE name = 'users'");
+        row("computed column", "CREATE TABLE users(UserId, UserName, SpendLimit AS (UserId * 2))");
+        row("further computed column", "CREATE TABLE users(UserId, UserName, SpendLimit, More AS (hex(UserName)))");
+        row("no row numbers", "CREATE TABLE users(UserId PRIMARY KEY, UserName, SpendLimit) WITHOUT ROWID");
+    }
+
+    void TableMustBeATable()
+    {
+        QFETCH(std::string, sql);
+        const ForeignFiles files(sql);
+        const QString detail = DetailOfFailure(OpenDatabaseFiles);
+        QVERIFY2(!detail.isEmpty(), "the file was opened");
+    }
+
+    void ListIsReadFromItsTable()
+    {
+        const ForeignFiles files({}, EndlessList);
+        QElapsedTimer clock;
+        clock.start();
+        OpenDatabaseFiles();
+        ukmainlist.MoveFirst();
+        QCOMPARE(ukmainlist.Text(1), std::string_view("2020-01-11"));
+        QCOMPARE(ukmainlist.Count(), 2);
+        QCOMPARE(CloseAndCompactFiles(), QString());
+        QVERIFY(clock.elapsed() < 2000);
+    }
+
+    void EngineAdmitsOnlyWhatTheProgramDoes_data()
+    {
+        QTest::addColumn<bool>("compacting");
+        QTest::addColumn<std::string>("sql");
+        for (const char* sql : {"CREATE TABLE x(a)", "DROP TABLE users", "CREATE TEMP TABLE x(a)",
+                                "PRAGMA writable_schema = 1", "PRAGMA journal_mode = OFF", "PRAGMA trusted_schema = 1",
+                                "SELECT load_extension('x')", "SELECT randomblob(5)",
+                                "WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n FROM more) SELECT n FROM more",
+                                "SELECT * FROM v", "SELECT * FROM search"}) {
+            QTest::addRow("open: %s", sql) << false << std::string(sql);
+            QTest::addRow("compacting: %s", sql) << true << std::string(sql);
+        }
+        for (const char* sql :
+             {"ATTACH ':memory:' AS other", "SELECT sqlcipher_export('main')", "UPDATE sqlite_master SET sql = ''"})
+            QTest::addRow("open: %s", sql) << false << std::string(sql);
+    }
+
+    void EngineAdmitsOnlyWhatTheProgramDoes()
+    {
+        QFETCH(bool, compacting);
+        QFETCH(std::string, sql);
+        const ForeignFiles files("CREATE VIEW v AS SELECT 1; CREATE VIRTUAL TABLE search USING fts4(a)");
+        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(OpenGuarded(UserDataPath, {}, {}, "opening"),
+                                                                 sqlite3_close_v2);
+        if (compacting)
+            AllowExport(engine.get());
+        QCOMPARE(DetailOfFailure([&] { Execute(engine.get(), "SELECT count(*) FROM users", "counting"); }), QString());
+        QVERIFY(!DetailOfFailure([&] { Execute(engine.get(), sql, "trying"); }).isEmpty());
+    }
+
+    void StatementWithoutEndIsStopped()
+    {
+        const ForeignFiles files("CREATE TABLE n(a); WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM "
+                                 "more LIMIT 3000) INSERT INTO n SELECT n FROM more");
+        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(OpenGuarded(UserDataPath, {}, {}, "opening"),
+                                                                 sqlite3_close_v2);
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(DetailOfFailure([&] { Execute(engine.get(), "SELECT count(*) FROM n, n AS o, n AS p", "counting"); }),
+                 QString("it took too long: interrupted"));
+        QVERIFY(clock.elapsed() < 10000);
+    }
+
+    void OddValuesAreShownAndCrashNothing()
+    {
+        TestWindow window;
+        CloseDatabaseFiles();
+        const std::string odd = "NULL, 'text', -1, 0, 3.7, 9e999, 9223372036854775807, -9223372036854775808, x'00ff', "
+                                "'', '2020-02-31'";
+        const QStringList values = QString::fromStdString(odd).split(", ");
+        std::string draws;
+        // The page for new entries greets a first user who has none left with a message.
+        std::string people = "INSERT INTO users VALUES (1, 'Ann', 1000);";
+        for (int shift = 0; shift < values.size(); ++shift) {
+            const auto fields = [&](int count) {
+                QStringList chosen;
+                for (int field = 0; field < count; ++field)
+                    chosen.append(values[(field + shift) % values.size()]);
+                return chosen.join(u',').toStdString();
+            };
+            draws += "INSERT INTO ukmain VALUES (" + fields(12) + "); INSERT INTO ukthunder VALUES (" + fields(9) +
+                     "); INSERT INTO links VALUES (" + fields(5) + ");";
+            people += "INSERT INTO users VALUES (" + fields(3) + "); INSERT INTO entries VALUES (" + fields(16) + ");";
+        }
+        RunSql(DrawDataPath, DrawConnect, draws + "INSERT INTO links VALUES (1, 2, 3, 4, zeroblob(10000000))");
+        RunSql(UserDataPath, {}, people + "INSERT INTO users VALUES (1, hex(zeroblob(5000000)), 4)");
+        OpenDatabaseFiles();
+        QElapsedTimer clock;
+        clock.start();
+        for (int group = 1; group <= 5; ++group)
+            for (int suboption = 1; suboption <= 4; ++suboption)
+                window.Window().ChooseMenu(group, suboption);
+        window.Window().ChooseMenu(3, 4);
+        window.Click("F12typeb");
+        window.Window().ShowStartPage();
+        window.Click("F0links");
+        for (int link = 0; link <= values.size(); ++link)
+            window.Click("F25next");
+        QVERIFY2(clock.elapsed() < 15000, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY(window.modals.AllCame());
+        QCOMPARE(TestFolder::StoredRows("users").size(), values.size() + 2);
+        QVERIFY(window.Window().width() <= 1024);
+    }
+};
+
+TAVENOR_TEST_MAIN(ForeignFileTest)
+#include "foreign_file_test.moc"

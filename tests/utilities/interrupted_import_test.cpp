@@ -1,0 +1,171 @@
+#include "support/raw_file.h"
+#include "support/test_window.h"
+
+#include "shell/start_up.h"
+#include "users/user_records.h"
+#include "utilities/database_file.h"
+#include "utilities/import.h"
+
+#include <csignal>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+// The calls by which files come, change and go are counted, and the process kills itself before the chosen one.
+int CallsLeft = -1;
+
+void CountCall()
+{
+    if (CallsLeft > 0 && --CallsLeft == 0)
+        ::kill(::getpid(), SIGKILL);
+}
+
+} // namespace
+
+extern "C" int rename(const char* from, const char* to) noexcept
+{
+    CountCall();
+    return static_cast<int>(::syscall(SYS_rename, from, to));
+}
+
+extern "C" int unlink(const char* path) noexcept
+{
+    CountCall();
+    return static_cast<int>(::syscall(SYS_unlink, path));
+}
+
+extern "C" int fsync(int descriptor)
+{
+    CountCall();
+    return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
+
+extern "C" ssize_t write(int descriptor, const void* bytes, size_t count)
+{
+    CountCall();
+    return ::syscall(SYS_write, descriptor, bytes, count);
+}
+
+namespace {
+
+/// Runs steps in a process of their own that is killed before its n-th call; false when it came to its end before.
+bool IsKilled(int callsBeforeKill, const std::function<void()>& steps)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        CallsLeft = callsBeforeKill;
+        try {
+            steps();
+        } catch (const std::exception&) {
+            ::_exit(2);
+        }
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status);
+}
+
+void ImportUsers(const std::string& chosen)
+{
+    OpenDatabaseFiles();
+    CloseDatabaseFiles();
+    Import import(UserDatabaseFile(), chosen);
+    OpenDatabaseFiles();
+    ReadEveryRow();
+    import.Complete();
+}
+
+} // namespace
+
+class InterruptedImportTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void KillAtAnyCallLosesNothing_data()
+    {
+        QTest::addColumn<bool>("goodFile");
+        QTest::newRow("a good file") << true;
+        QTest::newRow("garbage") << false;
+    }
+
+    void KillAtAnyCallLosesNothing()
+    {
+        QFETCH(bool, goodFile);
+        TestFolder folder(TestFolder::Content::Empty);
+        const QTemporaryDir own;
+        const std::string chosen = own.filePath("chosen.tv3").toStdString();
+        QFile::copy(folder.Path("userdata.tv3"), own.filePath("chosen.tv3"));
+        RunSql(chosen, {}, goodFile ? "INSERT INTO users VALUES (1, 'New', 1)" : "DROP TABLE users");
+        OpenDatabaseFiles();
+        AddUser(users, "Old", 1);
+        CloseDatabaseFiles();
+        QFile::copy(folder.Path("userdata.tv3"), own.filePath("before.tv3"));
+
+        const QStringList oldRows{"1,Old,1"};
+        const QStringList newRows{"1,New,1"};
+        bool ended = false;
+        int kills = 0;
+        for (int call = 1; !ended && call < 100; ++call) {
+            QFile::remove(folder.Path("userdata.tv3"));
+            QFile::copy(own.filePath("before.tv3"), folder.Path("userdata.tv3"));
+            ended = !IsKilled(call, [&] { ImportUsers(chosen); });
+            kills += ended ? 0 : 1;
+            OpenDatabasesAtStart();
+            QCOMPARE(TestFolder::StoredRows("users"), ended && goodFile ? newRows : oldRows);
+            QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+            CloseDatabaseFiles();
+        }
+        QVERIFY(ended && kills > 5);
+    }
+
+    void UnfinishedChangeIsTakenBackBeforeTheFileIsReplaced()
+    {
+        TestFolder folder(TestFolder::Content::Empty);
+        OpenDatabaseFiles();
+        AddUser(users, "Old", 1);
+        CloseDatabaseFiles();
+        // Another program is killed in the middle of a change that has reached the file already.
+        QVERIFY(IsKilled(-1, [] {
+            sqlite3* engine = nullptr;
+            sqlite3_open(UserDataPath.c_str(), &engine);
+            Execute(engine,
+                    "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
+                    "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
+                    "");
+            ::kill(::getpid(), SIGKILL);
+        }));
+        QVERIFY(QFile::exists(folder.Path("userdata.tv3-journal")));
+        const QTemporaryDir own;
+        QFile garbage(own.filePath("garbage.tv3"));
+        QVERIFY(garbage.open(QIODevice::WriteOnly) && garbage.write("garbage") > 0 && garbage.flush());
+        {
+            const Import import(UserDatabaseFile(), own.filePath("garbage.tv3").toStdString());
+            QVERIFY(!QFile::exists(folder.Path("userdata.tv3-journal")));
+        }
+        OpenDatabasesAtStart();
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+    }
+
+    void OtherCopysImportIsLeftAlone()
+    {
+        TestFolder folder(TestFolder::Content::Empty);
+        const QTemporaryDir own;
+        const QString chosen = own.filePath("chosen.tv3");
+        QFile::copy(folder.Path("userdata.tv3"), chosen);
+        RunSql(chosen.toStdString(), {}, "INSERT INTO users VALUES (1, 'New', 1)");
+        Import import(UserDatabaseFile(), chosen.toStdString());
+        // A second copy of the program starts while the first one is still about to open the new file.
+        OpenDatabasesAtStart();
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
+        QVERIFY(QFile::exists(folder.Path("userdata.tp0")));
+        import.Complete();
+        QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+    }
+};
+
+TAVENOR_TEST_MAIN(InterruptedImportTest)
+#include "interrupted_import_test.moc"
