@@ -4,6 +4,7 @@
 #include "shell/page_table.h"
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
+#include "users/user_records.h"
 
 #include <QDir>
 #include <QFile>
@@ -97,7 +98,16 @@ private Q_SLOTS:
         };
         row(1, 1, 0, 6);
         row(1, 2, 1, 7);
+        row(2, 1, 9, 8);
+        row(2, 2, 8, 9);
+        row(2, 3, 26, 10);
         row(3, 1, 14, 11);
+        row(3, 2, 13, 18);
+        row(3, 3, 15, 13);
+        row(3, 4, 21, 12);
+        row(4, 1, 19, 26);
+        row(5, 1, 24, 21);
+        row(5, 2, 23, 22);
     }
 
     void EverySuboptionAndLabelLeadsToItsPage()
@@ -107,6 +117,7 @@ private Q_SLOTS:
         QFETCH(int, label);
         QFETCH(int, page);
         TestWindow window;
+        AddUser(users, "Ann", 10);
         const QString button = QString("Button%1").arg(group);
         const QString option = QString("Suboption%1").arg(suboption);
         window.Click(button);
