@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <csignal>
+
 namespace {
 
 /// The tops of the five group buttons in the menu's own unit.
@@ -32,6 +34,18 @@ QString ShownPage(TestWindow& window)
             shown.append(QString::number(index));
     }
     return shown.join(',');
+}
+
+/// Whether a process has come so far that it answers SIGTERM itself, as the program does once its files are open.
+bool CatchesTermination(qint64 process)
+{
+    QFile status(QString("/proc/%1/status").arg(process));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("SigCgt:"))
+            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1U) != 0;
+    return false;
 }
 
 const QStringList FailureLines{"There is a problem with the database files.",
@@ -243,9 +257,9 @@ private Q_SLOTS:
         copy.setWorkingDirectory(folder.Path("."));
         copy.start(TAVENOR_PROGRAM, {});
         QVERIFY(copy.waitForStarted());
-        QTest::qWait(1500);
+        QTRY_VERIFY_WITH_TIMEOUT(CatchesTermination(copy.processId()), 60000);
         copy.terminate();
-        QVERIFY(copy.waitForFinished());
+        QVERIFY(copy.waitForFinished(60000));
         QCOMPARE(copy.exitStatus(), QProcess::NormalExit);
         QCOMPARE(copy.exitCode(), 0);
         ukmain.MoveLast();
