@@ -188,6 +188,20 @@ private Q_SLOTS:
                              qPrintable(part[text]->text()));
             }
         }
+        // Without the lines of the grid every figure looks the same.
+        QGraphicsView* graph = shown.window.findChild<QGraphicsView*>("graph");
+        const QImage withLines = graph->grab().toImage();
+        for (QGraphicsItem* item : graph->scene()->items())
+            if (dynamic_cast<QGraphicsLineItem*>(item) != nullptr)
+                item->hide();
+        const QImage withoutLines = graph->grab().toImage();
+        for (const QGraphicsSimpleTextItem* figure : figures) {
+            const QFontMetricsF metrics(figure->font());
+            const QRectF digits(0, metrics.ascent() - metrics.capHeight(), figure->boundingRect().width(),
+                                metrics.capHeight());
+            const QRect place = figure->mapRectToScene(digits).toAlignedRect();
+            QVERIFY2(withLines.copy(place) == withoutLines.copy(place), qPrintable(figure->text()));
+        }
     }
 
     void BarsAndTextsCanBeSeen_data()
