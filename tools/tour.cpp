@@ -2,6 +2,7 @@
 
 #include "analysis/charts.h"
 #include "analysis/graph_window.h"
+#include "analysis/screen_button.h"
 #include "platform/dates.h"
 #include "platform/month_calendar.h"
 #include "platform/page_frame.h"
@@ -143,7 +144,12 @@ public:
             Picture(QLatin1String(name), window);
         }
         window.ChooseMenu(5, 1);
+        // Without a window manager nobody gives the window its focus back after a dialog.
+        window.activateWindow();
+        QApplication::processEvents();
         Find<QWidget>("F21screen_2")->setFocus(Qt::TabFocusReason);
+        Picture(QStringLiteral("analysis_main_focused"), window);
+        Q_EMIT Find<ScreenButton>("F21screen_6")->PointedAt();
         Picture(QStringLiteral("analysis_main_pointed_at"), window);
         for (const Chart& chart : AllCharts()) {
             GraphWindow frmgraph(&window);

@@ -183,9 +183,13 @@ bool AnalysisPage::event(QEvent* event)
 
 bool AnalysisPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if ((watched == title || watched == label) && event->type() == QEvent::MouseButtonRelease &&
-        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-        Guard([this] { screen_Click(); });
+    if ((watched == title || watched == label) && event->type() == QEvent::MouseButtonRelease) {
+        const auto* release = static_cast<QMouseEvent*>(event);
+        // Whoever thinks better of it lets the button go elsewhere.
+        if (release->button() == Qt::LeftButton &&
+            static_cast<QLabel*>(watched)->rect().contains(release->position().toPoint()))
+            Guard([this] { screen_Click(); });
+    }
     return PageFrame::eventFilter(watched, event);
 }
 

@@ -65,6 +65,14 @@ QFont FontThatFits(const QList<QGraphicsSimpleTextItem*>& texts, qreal columnWid
     return widest <= room ? caption : Scaled(caption, room / widest * 0.99);
 }
 
+/// Digits that are a whole number of pixels wide: turned text is set pixel by pixel, and they would stand unevenly.
+QFont EvenlySet(QFont font)
+{
+    const qreal digit = QFontMetricsF(font).horizontalAdvance(u'0');
+    font.setLetterSpacing(QFont::AbsoluteSpacing, std::round(digit) - digit);
+    return font;
+}
+
 /// How far below the top of a line of text the middle of its digits lies.
 qreal DigitMiddle(const QFont& font)
 {
@@ -131,7 +139,6 @@ void BarChart::FillSeries()
     }
     for (const ChartBar& bar : bars)
         barAxis->append(bar.label);
-    valueAxis->setRange(0, axisEnd);
 }
 
 void BarChart::FillTexts()
@@ -150,11 +157,17 @@ void BarChart::FillTexts()
         add(labels, ChartText::Label, bar.label);
         add(figures, ChartText::Figure, QString::number(bar.value));
     }
+    qDeleteAll(figureGrounds);
+    figureGrounds.clear();
+    for (int bar = 0; bar < figures.size(); ++bar) {
+        figureGrounds.append(scene()->addRect({}, Qt::NoPen));
+        figureGrounds.back()->setZValue(chart()->zValue() - 1);
+    }
     qDeleteAll(gridLines);
     gridLines.clear();
     for (int value = 0; value <= axisEnd; value += axisStep) {
         gridLines.append(scene()->addLine({}));
-        gridLines.back()->setZValue(chart()->zValue() - 1);
+        gridLines.back()->setZValue(chart()->zValue() - 2);
         add(axisNumbers, ChartText::AxisNumber, QString::number(value));
     }
 }
@@ -171,7 +184,10 @@ void BarChart::LayOut()
     const qreal figure = qMax(line, WidestOf(figures, caption)) + Gap;
     const qreal spare = (plot.height() - figure) * (axisEnd - highest) / axisEnd;
     plot.setTop(plot.top() + qMax(line / 2, figure - spare));
-    chart()->setPlotArea(plot);
+    // The outline of a bar that reaches the end of the axis needs room as well.
+    constexpr qreal outline = 1;
+    chart()->setPlotArea(plot.adjusted(0, -outline, 0, 0));
+    valueAxis->setRange(0, axisEnd * (plot.height() + outline) / plot.height());
     baseLine->setLine(QLineF(plot.bottomLeft(), plot.bottomRight()));
     series->setBarWidth(qMin(BarShare, WidestBar / ColumnWidth()));
     PlaceLabels();
@@ -193,8 +209,9 @@ void BarChart::PlaceFigures()
     const QFont caption = FontFor(TextRole::Caption);
     const bool turned = WidestOf(figures, caption) > ColumnWidth() - 2;
     const qreal line = QFontMetricsF(caption).height();
-    const QFont font =
-        turned ? Scaled(caption, qMin(1.0, ColumnWidth() / line * 0.99)) : FontThatFits(figures, ColumnWidth());
+    const QFont font = turned ? EvenlySet(Scaled(caption, qMin(1.0, ColumnWidth() / line * 0.99)))
+                              : FontThatFits(figures, ColumnWidth());
+    const QFontMetricsF metrics(font);
     for (int bar = 0; bar < figures.size(); ++bar) {
         QGraphicsSimpleTextItem* figure = figures[bar];
         const QPointF top = TopOf(bar);
@@ -205,6 +222,9 @@ void BarChart::PlaceFigures()
         else
             figure->setPos(top.x() - figure->boundingRect().width() / 2,
                            top.y() - figure->boundingRect().height() - Gap / 3);
+        const QRectF digits(0, metrics.ascent() - metrics.capHeight(), figure->boundingRect().width(),
+                            metrics.capHeight());
+        figureGrounds[bar]->setRect(figure->mapRectToScene(digits).adjusted(-2, -2, 2, 2));
     }
 }
 
@@ -240,6 +260,8 @@ void BarChart::TakeColours()
             text->setBrush(theme.secondaryText);
     for (QGraphicsLineItem* line : gridLines)
         line->setPen(QPen(theme.cardLine, 1));
+    for (QGraphicsRectItem* ground : figureGrounds)
+        ground->setBrush(theme.card);
     baseLine->setPen(QPen(theme.secondaryText, 1));
 }
 

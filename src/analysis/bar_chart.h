@@ -7,6 +7,7 @@
 
 class QBarCategoryAxis;
 class QGraphicsLineItem;
+class QGraphicsRectItem;
 class QGraphicsSimpleTextItem;
 class QStackedBarSeries;
 class QValueAxis;
@@ -61,5 +62,7 @@ private:
     QRectF plot;
     QList<QGraphicsSimpleTextItem*> labels;
     QList<QGraphicsSimpleTextItem*> figures;
+    /// Behind the figures, so that no line of the grid passes through them.
+    QList<QGraphicsRectItem*> figureGrounds;
     QList<QGraphicsSimpleTextItem*> axisNumbers;
 };

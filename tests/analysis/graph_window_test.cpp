@@ -1,11 +1,12 @@
 // Ahead of the test framework, which brings a Display of its own.
 #include "platform/theme.h"
 
-#include "analysis/stored_draws.h"
+#include "support/stored_draws.h"
 #include "support/test_window.h"
 
 #include "analysis/bar_chart.h"
 #include "analysis/graph_window.h"
+#include "draws/draw_tables.h"
 
 #include <QChartView>
 #include <QComboBox>
@@ -87,65 +88,54 @@ class GraphWindowTest : public QObject
 private Q_SLOTS:
     void cleanup() { SetAppearance(Appearance::FromDesktop); }
 
-    void BallTypeChoosesPhraseAndCount_data()
-    {
-        QTest::addColumn<int>("chart");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("firstBar");
-        const QString mainOnly = "Main balls only";
-        const QString bonusOnly = "Bonus balls only";
-        const QString all = "All balls";
-        const QString drawn = "This is a bar chart, showing how many times each lottery ball has been drawn ";
-        QTest::newRow("1 all") << 1 << all << drawn + "in the main lottery draw."
-                               << "1: 277";
-        QTest::newRow("1 main") << 1 << mainOnly << drawn + "as a main ball, in the main lottery draw."
-                                << "1: 234";
-        QTest::newRow("1 bonus") << 1 << bonusOnly << drawn + "as a bonus ball, in the main lottery draw."
-                                 << "1: 43";
-        const QString colour =
-            "This is a bar chart, showing how many times each different colour of lottery ball has been drawn ";
-        QTest::newRow("2 all") << 2 << all << colour + "in the main lottery draw."
-                               << "1 - 9: 2623";
-        QTest::newRow("2 main") << 2 << mainOnly << colour + "as a main ball, in the main lottery draw."
-                                << "1 - 9: 2230";
-        QTest::newRow("2 bonus") << 2 << bonusOnly << colour + "as a bonus ball, in the main lottery draw."
-                                 << "1 - 9: 393";
-        const QString times = "This is a bar chart, showing how many times the ";
-        const QString odd = "been either odd, or even, in the main lottery draw.";
-        QTest::newRow("3 all") << 3 << all << times + "lottery balls have " + odd << "Odd: 7419";
-        QTest::newRow("3 main") << 3 << mainOnly << times + "main balls have " + odd << "Odd: 6354";
-        QTest::newRow("3 bonus") << 3 << bonusOnly << times + "bonus ball has " + odd << "Odd: 1065";
-        const QString since =
-            "This is a bar chart, showing how many draws have taken place since each ball has been drawn";
-        QTest::newRow("4 all") << 4 << all << since + "."
-                               << "1: 19";
-        QTest::newRow("4 main") << 4 << mainOnly << since + " as a main ball."
-                                << "1: 19";
-        QTest::newRow("4 bonus") << 4 << bonusOnly << since + " as a bonus ball."
-                                 << "1: 25";
-    }
-
     void BallTypeChoosesPhraseAndCount()
     {
-        QFETCH(int, chart);
-        QFETCH(QString, type);
-        QFETCH(QString, description);
-        QFETCH(QString, firstBar);
-        ShownChart shown(chart);
-        auto* balltype = shown.window.findChild<QComboBox*>("balltype");
-        QCOMPARE(balltype->currentText(), QString("All balls"));
-        QCOMPARE(balltype->count(), 3);
-        QCOMPARE(shown.window.findChild<QLabel*>("typelabel")->text(), QString("Ball type to count"));
-        shown.Choose(type);
-        QCOMPARE(shown.window.findChild<QLabel*>("description")->text(), description);
-        QCOMPARE(Bars(shown.window).first(), firstBar);
+        struct Row
+        {
+            int chart;
+            const char* description;
+            QStringList phrases;
+            QStringList firstBars;
+        };
+        const QStringList drawn{"as a main ball, ", "as a bonus ball, ", ""};
+        for (const Row& row :
+             {Row{1,
+                  "many times each lottery ball has been drawn %1in the main lottery draw.",
+                  drawn,
+                  {"1: 234", "1: 43", "1: 277"}},
+              Row{2,
+                  "many times each different colour of lottery ball has been drawn %1in the main lottery draw.",
+                  drawn,
+                  {"1 - 9: 2230", "1 - 9: 393", "1 - 9: 2623"}},
+              Row{3,
+                  "many times the %1been either odd, or even, in the main lottery draw.",
+                  {"main balls have ", "bonus ball has ", "lottery balls have "},
+                  {"Odd: 6354", "Odd: 1065", "Odd: 7419"}},
+              Row{4,
+                  "many draws have taken place since each ball has been drawn%1",
+                  {" as a main ball.", " as a bonus ball.", "."},
+                  {"1: 19", "1: 25", "1: 19"}}}) {
+            ShownChart shown(row.chart);
+            const auto* balltype = shown.window.findChild<QComboBox*>("balltype");
+            QCOMPARE(balltype->currentText(), QString("All balls"));
+            QCOMPARE(balltype->count(), 3);
+            QCOMPARE(shown.window.findChild<QLabel*>("typelabel")->text(), QString("Ball type to count"));
+            const QStringList types{"Main balls only", "Bonus balls only", "All balls"};
+            for (const int type : {2, 0, 1, 2}) {
+                shown.Choose(types[type]);
+                QCOMPARE(shown.window.findChild<QLabel*>("description")->text(),
+                         "This is a bar chart, showing how " + QString(row.description).arg(row.phrases[type]));
+                QCOMPARE(Bars(shown.window).first(), row.firstBars[type]);
+            }
+        }
     }
 
     void AnotherBallTypeIsCountedFromTheRowsAtHand()
     {
         ShownChart shown(3);
-        StoreDraw(MainGame, QDate(2026, 11, 21), {1, 3, 5, 7, 9, 11, 13});
+        InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), [](RecordSet& table) {
+            AddDraw(table, MainGame, {QDate(2026, 11, 21), {1, 3, 5, 7, 9, 11, 13}, {}, {}});
+        });
         shown.Choose("Main balls only");
         QCOMPARE(Bars(shown.window), (QStringList{"Odd: 6354", "Even: 6036"}));
         shown.window.PrepareChart(3);
@@ -188,19 +178,32 @@ private Q_SLOTS:
                              qPrintable(part[text]->text()));
             }
         }
-    }
-
-    void BarsAndTextsCanBeSeen_data()
-    {
-        QTest::addColumn<Appearance>("appearance");
-        QTest::newRow("light") << Appearance::Light;
-        QTest::newRow("dark") << Appearance::Dark;
+        // Without the lines of the grid every figure looks the same.
+        QGraphicsView* graph = shown.window.findChild<QGraphicsView*>("graph");
+        const QImage withLines = graph->grab().toImage();
+        for (QGraphicsItem* item : graph->scene()->items())
+            if (dynamic_cast<QGraphicsLineItem*>(item) != nullptr)
+                item->hide();
+        const QImage withoutLines = graph->grab().toImage();
+        for (const QGraphicsSimpleTextItem* figure : figures) {
+            const QFontMetricsF metrics(figure->font());
+            const QRectF digits(0, metrics.ascent() - metrics.capHeight(), figure->boundingRect().width(),
+                                metrics.capHeight());
+            const QRect place = figure->mapRectToScene(digits).toAlignedRect();
+            QVERIFY2(withLines.copy(place) == withoutLines.copy(place), qPrintable(figure->text()));
+        }
     }
 
     void BarsAndTextsCanBeSeen()
     {
-        QFETCH(Appearance, appearance);
         ShownChart shown(2);
+        for (const Appearance appearance : {Appearance::Light, Appearance::Dark})
+            CompareWithTheme(shown, appearance);
+    }
+
+private:
+    static void CompareWithTheme(ShownChart& shown, Appearance appearance)
+    {
         // The theme changes while the window is open.
         SetAppearance(appearance);
         QApplication::processEvents();
@@ -223,6 +226,7 @@ private Q_SLOTS:
         QVERIFY(edge >= 2);
     }
 
+private Q_SLOTS:
     void PointingAtABarTellsItsLabelAndFigure()
     {
         const ShownChart shown(2);
@@ -233,14 +237,23 @@ private Q_SLOTS:
         }
     }
 
-    void EscapeAndBackCloseTheWindow()
+    void KeysMoveThroughTheWindowAndCloseIt()
     {
-        ShownChart shown(5);
+        ShownChart shown(1);
+        shown.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&shown.window));
+        for (const char* name : {"balltype", "graph", "back", "balltype", "graph"}) {
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        for (const char* name : {"balltype", "graph", "back"}) {
+            QTest::keyClick(shown.window.findChild<QWidget*>(name), Qt::Key_Escape);
+            QVERIFY(!shown.window.isVisible());
+            shown.window.show();
+        }
+        shown.window.PrepareChart(5);
         QVERIFY(!shown.window.findChild<QComboBox*>("balltype")->isVisible());
         QVERIFY(!shown.window.findChild<QLabel*>("typelabel")->isVisible());
-        QTest::keyClick(&shown.window, Qt::Key_Escape);
-        QVERIFY(!shown.window.isVisible());
-        shown.window.show();
         QCOMPARE(shown.window.findChild<QPushButton*>("back")->text(), QString("BACK"));
         QTest::mouseClick(shown.window.findChild<QWidget*>("back"), Qt::LeftButton);
         QVERIFY(!shown.window.isVisible());
