@@ -9,6 +9,7 @@
 #include "platform/theme.h"
 #include "shell/main_window.h"
 #include "shell/open_databases.h"
+#include "users/draw_day_window.h"
 #include "users/user_records.h"
 
 #include <QAbstractButton>
@@ -132,6 +133,11 @@ public:
         InModal("generator_7_description", "", [](QDialog&) {});
         Find<QAbstractButton>("F26go")->click();
         Picture(QStringLiteral("generator_8_wheel_built"), window);
+        DaySet days{};
+        DrawDayWindow frmday(days, &window);
+        frmday.show();
+        frmday.findChild<QAbstractButton*>(QStringLiteral("check1_2"))->click();
+        Picture(QStringLiteral("draw_days"), frmday);
     }
 
     void Analysis() const
