@@ -210,6 +210,7 @@ private Q_SLOTS:
         };
         window.BuildKeyNumbers();
         QCOMPARE(stops(7), QString("F26combo_1 F26info F26combo_2 F26choose F26go F26grid F26store"));
+        QCOMPARE(GridDriver(window, "F26grid").Selected(), QString("0-0"));
         window.Choose(1, 0);
         QCOMPARE(stops(4), QString("F26combo_1 F26info F26text F26store"));
     }
