@@ -525,7 +525,7 @@ private Q_SLOTS:
         };
         const double single = medianTime(1);
         const double many = medianTime(200);
-        QVERIFY2(many < 40 * single, qPrintable(QString::number(many / single)));
+        QVERIFY2(many < 10 * single, qPrintable(QString::number(many / single)));
     }
 };
 
