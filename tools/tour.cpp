@@ -10,6 +10,7 @@
 #include "platform/theme.h"
 #include "shell/main_window.h"
 #include "shell/open_databases.h"
+#include "users/draw_day_window.h"
 #include "users/user_records.h"
 
 #include <QAbstractButton>
@@ -133,6 +134,11 @@ public:
         InModal("generator_7_description", "", [](QDialog&) {});
         Find<QAbstractButton>("F26go")->click();
         Picture(QStringLiteral("generator_8_wheel_built"), window);
+        DaySet days{};
+        DrawDayWindow frmday(days, &window);
+        frmday.show();
+        frmday.findChild<QAbstractButton*>(QStringLiteral("check1_2"))->click();
+        Picture(QStringLiteral("draw_days"), frmday);
     }
 
     void Analysis() const

@@ -41,6 +41,7 @@ EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
 {
     F26grid->setModel(&lines);
     F26grid->SetColumnShares(EntryGridModel::ColumnShares());
+    gridCard->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
     gridCard->Content()->addWidget(F26grid);
     auto* cards = new QHBoxLayout;
     cards->setSpacing(Spacing::Cards);
@@ -177,9 +178,10 @@ void EntryGeneratorPage::F26go_Click()
     if (!steps.MayBuild())
         return;
     lines.Fill(MainGame, AsEntries(Build()));
-    F26grid->scrollToTop();
     steps.LinesBuilt();
     ShowControls();
+    // A selected row is what shows that the grid has the keys.
+    F26grid->SelectRow(0);
     F26info_Click();
     steps.OfferStore();
     ShowControls();

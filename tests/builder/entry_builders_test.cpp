@@ -55,8 +55,6 @@ public:
         double chiSquare = 0;
         for (const int count : counts)
             chiSquare += (count - expected) * (count - expected) / expected;
-        if (chiSquare <= 18 || chiSquare >= 95)
-            qWarning("chi-square %f", chiSquare);
         return chiSquare > 18 && chiSquare < 95;
     }
 
@@ -71,68 +69,54 @@ class EntryBuildersTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void WheelHoldsEveryThreeOfItsNumbers_data()
-    {
-        QTest::addColumn<int>("entries");
-        QTest::newRow("8") << 4;
-        QTest::newRow("10") << 10;
-        QTest::newRow("12") << 20;
-        QTest::newRow("14") << 35;
-        QTest::newRow("16") << 56;
-        QTest::newRow("18") << 84;
-        QTest::newRow("20") << 120;
-    }
-
     void WheelHoldsEveryThreeOfItsNumbers()
     {
-        QFETCH(int, entries);
         RandomSource random(7);
-        const int count = QByteArray(QTest::currentDataTag()).toInt();
-        const std::vector<int> chosen = Ascending(DrawDifferentNumbers(count, random));
-        const std::vector<Line> lines = BuildWheeledPairEntries(chosen);
-        QCOMPARE(static_cast<int>(lines.size()), entries);
-        for (const Line& line : lines)
-            QVERIFY(IsLine(line) && std::includes(chosen.begin(), chosen.end(), line.begin(), line.end()));
-        for (const int a : chosen)
-            for (const int b : chosen)
-                for (const int c : chosen)
-                    QVERIFY(std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
-                        return Holds(line, a) && Holds(line, b) && Holds(line, c);
-                    }));
+        for (const auto& [count, entries] :
+             {std::pair(8, 4), {10, 10}, {12, 20}, {14, 35}, {16, 56}, {18, 84}, {20, 120}}) {
+            const std::vector<int> chosen = Ascending(DrawDifferentNumbers(count, random));
+            const std::vector<Line> lines = BuildWheeledPairEntries(chosen);
+            QCOMPARE(static_cast<int>(lines.size()), entries);
+            for (const Line& line : lines)
+                QVERIFY(IsLine(line) && std::includes(chosen.begin(), chosen.end(), line.begin(), line.end()));
+            for (const int a : chosen)
+                for (const int b : chosen)
+                    for (const int c : chosen)
+                        QVERIFY(std::any_of(lines.begin(), lines.end(), [=](const Line& line) {
+                            return Holds(line, a) && Holds(line, b) && Holds(line, c);
+                        }));
+        }
     }
 
     void KeyNumbersStandOnEveryLine_data()
     {
+        QTest::addColumn<int>("count");
         QTest::addColumn<int>("entries");
         QTest::addColumn<int>("twice");
-        QTest::newRow("2") << 12 << 1;
-        QTest::newRow("3") << 16 << 2;
-        QTest::newRow("4") << 23 << 1;
+        QTest::newRow("2") << 2 << 12 << 1;
+        QTest::newRow("3") << 3 << 16 << 2;
+        QTest::newRow("4") << 4 << 23 << 1;
     }
 
     void KeyNumbersStandOnEveryLine()
     {
+        QFETCH(int, count);
         QFETCH(int, entries);
-        QFETCH(int, twice);
         for (int seed = 0; seed < Seeds; ++seed) {
             RandomSource random(static_cast<std::uint64_t>(seed));
-            const std::vector<int> keys =
-                Ascending(DrawDifferentNumbers(QByteArray(QTest::currentDataTag()).toInt(), random));
+            const std::vector<int> keys = Ascending(DrawDifferentNumbers(count, random));
             const std::vector<Line> lines = BuildKeyNumberEntries(keys, random);
             QCOMPARE(static_cast<int>(lines.size()), entries);
             QVERIFY(std::all_of(lines.begin(), lines.end(), IsLine));
-            std::map<int, int> appearances = Appearances(lines);
-            QCOMPARE(appearances.size(), size_t{49});
-            for (const int key : keys) {
-                QCOMPARE(appearances[key], entries);
-                appearances.erase(key);
-            }
+            const std::map<int, int> appearances = Appearances(lines);
+            QCOMPARE(appearances.size(), size_t{HighestNumber});
             int foundTwice = 0;
             for (const auto& [number, times] : appearances) {
-                QVERIFY(times == 1 || (times == 2 && Holds(lines.back(), number)));
-                foundTwice += times - 1;
+                const bool isKey = std::binary_search(keys.begin(), keys.end(), number);
+                QVERIFY(isKey ? times == entries : times == 1 || (times == 2 && Holds(lines.back(), number)));
+                foundTwice += isKey ? 0 : times - 1;
             }
-            QCOMPARE(foundTwice, twice);
+            QTEST(foundTwice, "twice");
         }
     }
 
@@ -165,14 +149,8 @@ private Q_SLOTS:
         QVERIFY(all.IsEven());
         for (const Tally& place : places)
             QVERIFY(place.IsEven());
-        // The same numbers, in ascending order.
-        random.Reseed(1);
-        Line first = DrawRandomLines(1, random).front();
-        random.Reseed(1);
         const std::vector<Line> built = BuildRandomEntries(200, random);
-        std::sort(first.begin(), first.end());
         QCOMPARE(built.size(), size_t{200});
-        QVERIFY(built.front() == first);
         QVERIFY(std::all_of(built.begin(), built.end(), IsLine));
     }
 

@@ -14,12 +14,6 @@ const QString ThunderballStored = QStringLiteral("The new Thunderball draw data 
 const QString NotStored = QStringLiteral("The data has NOT been stored.");
 const QDate Saturday(2026, 11, 21);
 
-/// The prompt's buttons by their result.
-void PressInPrompt(QDialog& prompt, const QString& button)
-{
-    QTest::mouseClick(prompt.findChild<QWidget*>(button), Qt::LeftButton);
-}
-
 class Pages
 {
 public:
@@ -273,7 +267,7 @@ private Q_SLOTS:
             if (button.isEmpty())
                 prompt.close();
             else
-                PressInPrompt(prompt, button);
+                PressIn(prompt, button);
         });
         page.Store(message);
         QCOMPARE(question, QString("A %1 draw with this date already exists,\r\nwhat do you want to do?")

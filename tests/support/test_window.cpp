@@ -218,6 +218,11 @@ QColor TestWindow::ColourOf(const QString& name, QPalette::ColorRole role) const
     return Find(name)->palette().color(role);
 }
 
+void PressIn(const QDialog& dialog, const QString& name)
+{
+    QTest::mouseClick(dialog.findChild<QWidget*>(name), Qt::LeftButton);
+}
+
 int RunTests(QObject& tests, int count, char** arguments)
 {
     QApplication::setStyle(new Style);

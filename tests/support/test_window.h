@@ -124,6 +124,9 @@ private:
     std::unique_ptr<MainWindow> window;
 };
 
+/// Clicks a control of a dialog.
+void PressIn(const QDialog& dialog, const QString& name);
+
 /// Sets up the application as the program does, and runs the tests of one class.
 int RunTests(QObject& tests, int count, char** arguments);
 

@@ -244,11 +244,11 @@ private Q_SLOTS:
         QVERIFY(store->isVisible());
         tuesday->click();
         QVERIFY(!store->isVisible());
-        QTest::mouseClick(frmday.findChild<QWidget*>("selall"), Qt::LeftButton);
+        PressIn(frmday, "selall");
         frmday.reject();
         QCOMPARE(days, (DaySet{true, false, false, false, false, false, false}));
         frmday.show();
-        QTest::mouseClick(store, Qt::LeftButton);
+        PressIn(frmday, "store");
         QCOMPARE(days, (DaySet{true, true, true, true, true, true, true}));
     }
 };
