@@ -25,6 +25,11 @@ namespace {
     throw Failure(doing, reason, std::generic_category().message(error));
 }
 
+[[noreturn]] void FailToRead(const std::filesystem::path& file, const std::string& detail)
+{
+    throw Failure("The file " + file.filename().string() + " could not be copied", "it cannot be read", detail);
+}
+
 /// A file descriptor that is closed on every way out.
 class Descriptor
 {
@@ -68,12 +73,16 @@ int CopyContent(int source, int target)
     }
 }
 
+/// Returns 0, or the error at which the writing stopped.
 int WriteBeside(const std::filesystem::path& source, const std::filesystem::path& beside)
 {
-    const Descriptor from(source, O_RDONLY);
+    // Without waiting for what may come out of a pipe.
+    const Descriptor from(source, O_RDONLY | O_NONBLOCK);
     struct stat attributes = {};
     if (from.Number() < 0 || ::fstat(from.Number(), &attributes) != 0)
-        return errno;
+        FailToRead(source, std::generic_category().message(errno));
+    if (!S_ISREG(attributes.st_mode))
+        FailToRead(source, "not a regular file");
     Descriptor to(beside, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     if (to.Number() < 0)
         return errno;
@@ -92,13 +101,6 @@ void SyncFolder(const std::filesystem::path& folder)
         ::fsync(directory.Number());
 }
 
-// A link stays a link: the file that it leads to is the one replaced.
-std::filesystem::path FileBehind(const std::filesystem::path& path)
-{
-    std::error_code missing;
-    return std::filesystem::is_symlink(path, missing) ? std::filesystem::weakly_canonical(path, missing) : path;
-}
-
 std::string NotWritten(const std::filesystem::path& target)
 {
     return "The file " + target.filename().string() + " could not be written";
@@ -106,9 +108,16 @@ std::string NotWritten(const std::filesystem::path& target)
 
 } // namespace
 
+std::filesystem::path FileBehind(const std::filesystem::path& path)
+{
+    std::error_code missing;
+    return std::filesystem::is_symlink(path, missing) ? std::filesystem::weakly_canonical(path, missing) : path;
+}
+
 void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath,
                   const std::function<void(const std::filesystem::path& beside)>& beforeRename)
 {
+    // A link stays a link: the file that it leads to is the one replaced.
     const auto target = FileBehind(targetPath);
     const auto beside = BesideFile(target);
     try {

@@ -14,6 +14,10 @@ void CopyFileOver(const std::filesystem::path& source, const std::filesystem::pa
 /// then.
 void MoveFileOver(const std::filesystem::path& source, const std::filesystem::path& target);
 
+/// The file that a path leads to: a symbolic link's file, else the path itself. The engine keeps its own files beside
+/// that one.
+std::filesystem::path FileBehind(const std::filesystem::path& path);
+
 /// The file that lies beside the target while a copy over it is being written.
 std::filesystem::path BesideFile(const std::filesystem::path& target);
 

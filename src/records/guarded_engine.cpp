@@ -74,7 +74,12 @@ int AdmitExport(void* unused, int action, const char* first, const char* second,
     case SQLITE_CREATE_INDEX:
         return IsOneOf(schema, {"compacted"}) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_FUNCTION:
-        return IsOneOf(second, {"count", "like", "quote", "sqlcipher_export"}) ? SQLITE_OK : SQLITE_DENY;
+        // Those of the export itself, and some harmless ones that a file's own indexes and checks may be made with.
+        return IsOneOf(second,
+                       {"abs", "coalesce", "count", "ifnull", "instr", "length", "like", "lower", "ltrim", "nullif",
+                        "quote", "round", "rtrim", "sqlcipher_export", "substr", "trim", "typeof", "upper"})
+                   ? SQLITE_OK
+                   : SQLITE_DENY;
     case SQLITE_PRAGMA:
         return IsOneOf(first, {"user_version", "application_id"}) ? SQLITE_OK : SQLITE_DENY;
     default:

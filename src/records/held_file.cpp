@@ -72,7 +72,7 @@ std::filesystem::path WithEnding(std::filesystem::path file, const char* ending)
 void DeleteJournals(const std::filesystem::path& file)
 {
     for (const char* ending : {"-journal", "-wal", "-shm"}) {
-        auto journal = file;
+        auto journal = FileBehind(file);
         journal += ending;
         DeleteFileIfThere(journal);
     }

@@ -17,7 +17,9 @@ int main(int count, char** arguments)
     QApplication application(count, arguments);
     QApplication::setStyle(new Style);
     QApplication::setApplicationName(QStringLiteral("tavenor3"));
-    SetProgramDir(std::filesystem::current_path());
+    // In a folder that is gone meanwhile the files are missing like in any other.
+    std::error_code gone;
+    SetProgramDir(std::filesystem::current_path(gone));
     {
         SplashWindow frmsplash;
         frmsplash.ShowAtOnce();

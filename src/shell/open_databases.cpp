@@ -37,6 +37,8 @@ QString CloseAndCompactFile(Database& database, const std::filesystem::path& liv
             file.Compact();
     } catch (const Failure& failure) {
         return QString::fromStdString(failure.Doing() + ": " + failure.Reason() + ".");
+    } catch (const std::exception& failure) {
+        return QString::fromLocal8Bit(failure.what());
     }
     return {};
 }

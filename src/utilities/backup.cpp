@@ -9,12 +9,25 @@
 
 namespace {
 
+/// Whether a path is that of a file which the program itself puts beside a live file for a while, and would delete or
+/// take for its own there.
+bool IsWorkingFile(const std::filesystem::path& chosen, const std::filesystem::path& live)
+{
+    std::error_code missing;
+    if (!std::filesystem::equivalent(chosen.parent_path(), live.parent_path(), missing))
+        return false;
+    const std::string name = chosen.filename().string();
+    const std::string liveName = live.filename().string();
+    return name.starts_with(live.stem().string() + ".tp") || name == BesideFile(liveName) ||
+           name.starts_with(liveName + '-');
+}
+
 /// Refuses a target that some copy of the program works on, whatever path leads to it.
 void RefuseFileInUse(const std::filesystem::path& chosen, const std::string& doing)
 {
     std::error_code missing;
     for (const auto& live : {DrawDataPath, UserDataPath})
-        if (std::filesystem::equivalent(chosen, live, missing))
+        if (std::filesystem::equivalent(chosen, live, missing) || IsWorkingFile(chosen, live))
             throw Failure(doing, "it would take the place of one of the program's own files", chosen.string());
     if (!std::filesystem::exists(chosen, missing))
         return;

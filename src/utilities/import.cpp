@@ -28,7 +28,7 @@ void PutBack(const std::filesystem::path& live)
 
 std::vector<std::filesystem::path> UnfinishedFiles(const std::filesystem::path& live)
 {
-    std::vector<std::filesystem::path> files{BesideFile(live), BesideFile(KeptAside(live))};
+    std::vector<std::filesystem::path> files{BesideFile(FileBehind(live)), BesideFile(KeptAside(live))};
     for (const char* ending : {".tp1", ".tp2"}) {
         files.push_back(WithEnding(live, ending));
         files.push_back(BesideFile(files.back()));

@@ -1,3 +1,4 @@
+#include "support/failure_of.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
@@ -7,6 +8,7 @@
 #include "utilities/import.h"
 
 #include <csignal>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -66,6 +68,20 @@ bool IsKilled(int callsBeforeKill, const std::function<void()>& steps)
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFSIGNALED(status);
+}
+
+/// Another program is killed in the middle of a change that has reached the file of the users already.
+bool LeaveUnfinishedChange()
+{
+    return IsKilled(-1, [] {
+        sqlite3* engine = nullptr;
+        sqlite3_open(UserDataPath.c_str(), &engine);
+        Execute(engine,
+                "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
+                "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
+                "");
+        ::kill(::getpid(), SIGKILL);
+    });
 }
 
 void ImportUsers(const std::string& chosen)
@@ -128,16 +144,7 @@ private Q_SLOTS:
         OpenDatabaseFiles();
         AddUser(users, "Old", 1);
         CloseDatabaseFiles();
-        // Another program is killed in the middle of a change that has reached the file already.
-        QVERIFY(IsKilled(-1, [] {
-            sqlite3* engine = nullptr;
-            sqlite3_open(UserDataPath.c_str(), &engine);
-            Execute(engine,
-                    "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
-                    "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
-                    "");
-            ::kill(::getpid(), SIGKILL);
-        }));
+        QVERIFY(LeaveUnfinishedChange());
         QVERIFY(QFile::exists(folder.Path("userdata.tv3-journal")));
         const QTemporaryDir own;
         QFile garbage(own.filePath("garbage.tv3"));
@@ -148,6 +155,33 @@ private Q_SLOTS:
         }
         OpenDatabasesAtStart();
         QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+    }
+
+    void JournalBesideTheFileBehindALinkIsNotTakenForTheOldFiles()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const QTemporaryDir own;
+        RunSql(UserDataPath, {}, "INSERT INTO users VALUES (1, 'Old', 1)");
+        QFile::rename(folder.Path("userdata.tv3"), folder.Path("userdata.tp0"));
+        QFile::copy(folder.Path("userdata.tp0"), own.filePath("real.tv3"));
+        QFile::link(own.filePath("real.tv3"), folder.Path("userdata.tv3"));
+        RunSql(UserDataPath, {}, "DELETE FROM users; INSERT INTO users VALUES (2, hex(zeroblob(20000)), 2)");
+        QVERIFY(LeaveUnfinishedChange());
+        QVERIFY(QFile::exists(own.filePath("real.tv3-journal")));
+        OpenDatabasesAtStart();
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+        QVERIFY(QFileInfo(folder.Path("userdata.tv3")).isSymLink());
+    }
+
+    void PipeIsNoFileToImport()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const QTemporaryDir own;
+        const std::string pipe = own.filePath("pipe.tv3").toStdString();
+        QCOMPARE(::mkfifo(pipe.c_str(), 0600), 0);
+        QCOMPARE(FailureOf([&] { const Import import(UserDatabaseFile(), pipe); }).reason,
+                 QString("it cannot be read"));
+        QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
     }
 
     void OtherCopysImportIsLeftAlone()
