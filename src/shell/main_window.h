@@ -11,7 +11,7 @@ class MenuColumn;
 class PageArea;
 
 /// The main window, frmmain: the menu column and the page area, in which one page is shown at a time.
-class MainWindow : public QWidget, public PageSwitch
+class MainWindow final : public QWidget, public PageSwitch
 {
     Q_OBJECT
 

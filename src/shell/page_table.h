@@ -7,8 +7,8 @@ class PageSwitch;
 struct PageTableRow
 {
     int index;
-    PageFrame* (*make)(PageSwitch&);
     bool hasPreparation;
+    PageFrame* (*make)(PageSwitch&);
 };
 
 /// The row of a page, or nullptr for a frame that stays empty.
