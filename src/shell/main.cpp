@@ -11,13 +11,16 @@
 
 #include <filesystem>
 #include <memory>
+#include <system_error>
 
 int main(int count, char** arguments)
 {
     QApplication application(count, arguments);
     QApplication::setStyle(new Style);
     QApplication::setApplicationName(QStringLiteral("tavenor3"));
-    SetProgramDir(std::filesystem::current_path());
+    // A folder that is gone gives an empty path, and the databases are then missed in the usual words.
+    std::error_code gone;
+    SetProgramDir(std::filesystem::current_path(gone));
     {
         SplashWindow frmsplash;
         frmsplash.ShowAtOnce();
