@@ -6,7 +6,7 @@
 #include "draws/game.h"
 #include "platform/theme.h"
 
-#include <QKeyEvent>
+#include <QFocusEvent>
 #include <QPainter>
 
 #include <array>
@@ -113,21 +113,13 @@ void ScreenButton::DrawBallData(QPainter& painter, const QRectF& picture) const
 
 void ScreenButton::mouseMoveEvent(QMouseEvent* event)
 {
-    QAbstractButton::mouseMoveEvent(event);
+    EnterButton::mouseMoveEvent(event);
     Q_EMIT PointedAt();
 }
 
 void ScreenButton::focusInEvent(QFocusEvent* event)
 {
-    QAbstractButton::focusInEvent(event);
+    EnterButton::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         Q_EMIT PointedAt();
-}
-
-void ScreenButton::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
 }

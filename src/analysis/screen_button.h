@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "platform/enter_button.h"
 
 struct AnalysisScreen;
 struct Game;
 
 /// A screen of an analysis menu: a small picture, drawn from fixed examples, of the chart or page that it opens. It
 /// tells when the pointer or the Tab key comes over it.
-class ScreenButton : public QAbstractButton
+class ScreenButton : public EnterButton
 {
     Q_OBJECT
 
@@ -24,7 +24,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void DrawChart(QPainter& painter, const QRectF& picture) const;

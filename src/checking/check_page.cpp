@@ -104,10 +104,10 @@ void CheckPage::BuildCards()
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
     auto* cards = new QHBoxLayout;
-    cards->setSpacing(Spacing::Between);
-    for (Card* card : {userCard, typeCard, dateCard})
-        cards->addWidget(card);
-    cards->addStretch(1);
+    cards->setSpacing(Spacing::Cards);
+    cards->addWidget(userCard, 1);
+    cards->addWidget(typeCard);
+    cards->addWidget(dateCard);
     Body()->addLayout(cards);
 
     auto* reportCard = new Card;
@@ -223,6 +223,9 @@ void CheckPage::ShowReport(const CheckReport& report)
 {
     QTextCharFormat emphasised;
     emphasised.setFontWeight(QFont::Bold);
+    // A new text takes on the format at the cursor, which may stand in an emphasised line of the old one.
+    F12text->setTextCursor(QTextCursor(F12text->document()));
+    F12text->setCurrentCharFormat(QTextCharFormat());
     // The text goes in at once and is laid out once; line by line it would take several times as long.
     F12text->setPlainText(report.text);
     QTextCursor caret(F12text->document());

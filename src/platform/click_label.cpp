@@ -2,11 +2,10 @@
 
 #include "platform/theme.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : QAbstractButton(parent)
+ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : EnterButton(parent)
 {
     setText(caption);
     setAccessibleName(caption);
@@ -36,12 +35,4 @@ void ClickLabel::paintEvent(QPaintEvent* /*event*/)
         option.initFrom(this);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
-}
-
-void ClickLabel::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
 }

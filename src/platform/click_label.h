@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "platform/enter_button.h"
 
 /// A label that acts when it is clicked, or by Enter or Space when it has the focus. Its text colour is the WindowText
 /// role of its palette.
-class ClickLabel : public QAbstractButton
+class ClickLabel : public EnterButton
 {
     Q_OBJECT
 
@@ -16,5 +16,4 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 };

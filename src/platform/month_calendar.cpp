@@ -16,6 +16,8 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     setVerticalHeaderFormat(NoVerticalHeader);
     setHorizontalHeaderFormat(ShortDayNames);
     setSelectedDate(QDate::currentDate());
+    // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
+    setMinimumHeight(8 * (fontMetrics().height() + 9));
     setAccessibleName(tr("Draw date"));
     for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
         auto* button = findChild<QToolButton*>(QLatin1String(name));

@@ -6,7 +6,7 @@
 #include "records/engine.h"
 
 #include <algorithm>
-#include <limits>
+#include <stdexcept>
 
 namespace {
 
@@ -98,51 +98,20 @@ std::string RecordSet::ReadStatement() const
            (layout.IsList() ? layout.listOrder : "rowid");
 }
 
-RecordSet::Cell RecordSet::Stored(Rows& target, const Value& value) const
-{
-    Cell cell = {};
-    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
-        cell.whole = *whole;
-        cell.kind = CellKind::Whole;
-    } else if (const auto* real = std::get_if<double>(&value)) {
-        cell.real = *real;
-        cell.kind = CellKind::Real;
-    } else if (const auto* text = std::get_if<std::string_view>(&value)) {
-        if (target.texts.size() + text->size() > std::numeric_limits<std::uint32_t>::max())
-            throw Failure(Doing("read"), "its texts are too long", "more than 4 GiB of text");
-        cell.text = {static_cast<std::uint32_t>(target.texts.size()), static_cast<std::uint32_t>(text->size())};
-        cell.kind = CellKind::Text;
-        target.texts.append(*text);
-    }
-    return cell;
-}
-
-Value RecordSet::Read(const Cell& cell) const
-{
-    switch (cell.kind) {
-    case CellKind::Whole:
-        return cell.whole;
-    case CellKind::Real:
-        return cell.real;
-    case CellKind::Text:
-        return std::string_view(rows.texts).substr(cell.text.offset, cell.text.length);
-    case CellKind::Nothing:
-        break;
-    }
-    return std::monostate();
-}
-
-RecordSet::Rows RecordSet::ReadRows() const
+StoredRows RecordSet::ReadRows() const
 {
     const int columns = layout.ColumnCount();
-    Rows read;
+    StoredRows read(columns);
     Statement query(database->engine, ReadStatement(), Doing("read"));
-    while (query.Step()) {
-        read.rowIds.push_back(query.WholeNumber(0));
-        for (int column = 1; column <= columns; ++column)
-            read.cells.push_back(Stored(read, query.Column(column)));
+    try {
+        while (query.Step()) {
+            read.BeginRow(query.WholeNumber(0));
+            for (int column = 1; column <= columns; ++column)
+                read.AddField(query.Column(column));
+        }
+    } catch (const std::length_error& failure) {
+        throw Failure(Doing("read"), "its texts are too long", failure.what());
     }
-    read.deleted.resize(read.rowIds.size(), false);
     return read;
 }
 
@@ -156,7 +125,7 @@ void RecordSet::Load()
     loadedVersion = database->ChangesByOthers();
     rows = ReadRows();
     loaded = true;
-    current = rows.deleted.empty() ? -1 : 0;
+    current = rows.Places() == 0 ? -1 : 0;
 }
 
 void RecordSet::Refresh()
@@ -164,67 +133,45 @@ void RecordSet::Refresh()
     if (loaded && database != nullptr && database->ChangesByOthers() != loadedVersion)
         loaded = false;
     Load();
-    DropDeletedRows();
-}
-
-void RecordSet::DropDeletedRows()
-{
-    if (rows.deletedCount == 0)
-        return;
-    const auto columns = static_cast<std::size_t>(layout.ColumnCount());
-    std::size_t kept = 0;
-    for (std::size_t row = 0; row < rows.deleted.size(); ++row) {
-        if (rows.deleted[row])
-            continue;
-        if (kept != row) {
-            rows.rowIds[kept] = rows.rowIds[row];
-            std::copy_n(rows.cells.begin() + static_cast<std::ptrdiff_t>(row * columns), columns,
-                        rows.cells.begin() + static_cast<std::ptrdiff_t>(kept * columns));
-        }
-        ++kept;
-    }
-    rows.rowIds.resize(kept);
-    rows.cells.resize(kept * columns);
-    rows.deleted.assign(kept, false);
-    rows.deletedCount = 0;
+    rows.DropDeleted();
 }
 
 bool RecordSet::Bof()
 {
     Load();
-    return current < 0 || rows.deletedCount == RowCount();
+    return current < 0 || rows.Count() == 0;
 }
 
 bool RecordSet::Eof()
 {
     Load();
-    return current >= RowCount() || rows.deletedCount == RowCount();
+    return current >= rows.Places() || rows.Count() == 0;
 }
 
 int RecordSet::Count()
 {
     Load();
-    return RowCount() - rows.deletedCount;
+    return rows.Count();
 }
 
 void RecordSet::MoveFirst()
 {
     Refresh();
-    current = RowCount() == 0 ? -1 : 0;
+    current = rows.Places() == 0 ? -1 : 0;
 }
 
 void RecordSet::MoveLast()
 {
     Refresh();
-    current = RowCount() - 1;
+    current = rows.Places() - 1;
 }
 
 void RecordSet::Step(int direction)
 {
     do
         current += direction;
-    while (current >= 0 && current < RowCount() && rows.deleted[Index()]);
-    current = std::clamp(current, -1, RowCount());
+    while (current >= 0 && current < rows.Places() && rows.IsDeleted(current));
+    current = std::clamp(current, -1, rows.Places());
 }
 
 void RecordSet::MoveNext()
@@ -242,12 +189,12 @@ void RecordSet::MovePrevious()
 void RecordSet::Move(int count)
 {
     Load();
-    if (rows.deletedCount == 0) {
-        current = static_cast<int>(std::clamp<std::int64_t>(std::int64_t{current} + count, -1, RowCount()));
+    if (!rows.HasDeleted()) {
+        current = static_cast<int>(std::clamp<std::int64_t>(std::int64_t{current} + count, -1, rows.Places()));
         return;
     }
     const int direction = count < 0 ? -1 : 1;
-    for (int moved = 0; moved != count && current >= -1 && current <= RowCount(); moved += direction)
+    for (int moved = 0; moved != count && current >= -1 && current <= rows.Places(); moved += direction)
         Step(direction);
 }
 
@@ -255,8 +202,7 @@ Value RecordSet::Field(int position) const
 {
     if (!OnRecord())
         throw Failure(Doing("read"), "there is no current record", "record set at its start or end");
-    return Read(
-        rows.cells[Index() * static_cast<std::size_t>(layout.ColumnCount()) + static_cast<std::size_t>(position)]);
+    return rows.Read(current, position);
 }
 
 double RecordSet::Number(int position) const
@@ -329,12 +275,11 @@ void RecordSet::StoreNewRow()
     insertRow->Step();
     insertRow->Reset();
     const bool first = Count() == 0;
-    rows.rowIds.push_back(sqlite3_last_insert_rowid(database->engine));
-    rows.deleted.push_back(false);
+    rows.BeginRow(sqlite3_last_insert_rowid(database->engine));
     for (const Value& value : edited)
-        rows.cells.push_back(Stored(rows, value));
+        rows.AddField(value);
     if (first)
-        current = RowCount() - 1;
+        current = rows.Places() - 1;
 }
 
 void RecordSet::StoreCurrentRow()
@@ -357,14 +302,13 @@ void RecordSet::StoreCurrentRow()
     }
     for (std::size_t column = 0; column < columns; ++column)
         updateRow->Bind(static_cast<int>(column) + 1, edited[column]);
-    updateRow->Bind(static_cast<int>(columns) + 1, rows.rowIds[Index()]);
+    updateRow->Bind(static_cast<int>(columns) + 1, rows.RowId(current));
     updateRow->Bind(static_cast<int>(columns) + 2, Field(0));
     updateRow->Step();
     updateRow->Reset();
     if (sqlite3_changes(database->engine) == 0)
         throw Failure(Doing("changed"), "another copy of the program has deleted the row meanwhile", "no row changed");
-    for (std::size_t column = 0; column < columns; ++column)
-        rows.cells[Index() * columns + column] = Stored(rows, edited[column]);
+    rows.Replace(current, edited);
 }
 
 void RecordSet::Delete()
@@ -376,12 +320,11 @@ void RecordSet::Delete()
                                                 "DELETE FROM " + Quoted(layout.name) + " WHERE rowid = ?1 AND " +
                                                     Quoted(layout.columns[0].name) + " IS ?2",
                                                 Doing("changed"));
-    deleteRow->Bind(1, rows.rowIds[Index()]);
+    deleteRow->Bind(1, rows.RowId(current));
     deleteRow->Bind(2, Field(0));
     deleteRow->Step();
     deleteRow->Reset();
-    rows.deleted[Index()] = true;
-    ++rows.deletedCount;
+    rows.Delete(current);
     changed = database->inTransaction;
 }
 
@@ -405,7 +348,7 @@ void RecordSet::TakeBackChanges()
         return;
     changed = false;
     editing = Editing::No;
-    const std::int64_t rowId = OnRecord() ? rows.rowIds[Index()] : 0;
+    const std::int64_t rowId = OnRecord() ? rows.RowId(current) : 0;
     const int place = current;
     loaded = false;
     try {
@@ -414,7 +357,6 @@ void RecordSet::TakeBackChanges()
         // The rows are read anew, and the failure told, when they are next asked for.
         return;
     }
-    const auto found = std::find(rows.rowIds.begin(), rows.rowIds.end(), rowId);
-    current =
-        found != rows.rowIds.end() ? static_cast<int>(found - rows.rowIds.begin()) : std::clamp(place, -1, RowCount());
+    const int found = rows.PlaceOf(rowId);
+    current = found >= 0 ? found : std::clamp(place, -1, rows.Places());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/stored_rows.h"
 #include "records/table_layout.h"
 #include "records/value.h"
 
@@ -73,35 +74,6 @@ private:
     friend class Database;
     friend class Transaction;
 
-    enum class CellKind : std::uint8_t
-    {
-        Nothing,
-        Whole,
-        Real,
-        Text
-    };
-    struct TextPlace
-    {
-        std::uint32_t offset;
-        std::uint32_t length;
-    };
-    struct Cell
-    {
-        union {
-            std::int64_t whole;
-            double real;
-            TextPlace text;
-        };
-        CellKind kind;
-    };
-    struct Rows
-    {
-        std::vector<Cell> cells;
-        std::vector<std::int64_t> rowIds;
-        std::vector<bool> deleted;
-        std::string texts;
-        int deletedCount = 0;
-    };
     enum class Editing
     {
         No,
@@ -109,18 +81,13 @@ private:
         CurrentRow
     };
 
-    int RowCount() const { return static_cast<int>(rows.deleted.size()); }
-    bool OnRecord() const { return loaded && current >= 0 && current < RowCount() && !rows.deleted[Index()]; }
-    std::size_t Index() const { return static_cast<std::size_t>(current); }
+    bool OnRecord() const { return loaded && current >= 0 && current < rows.Places() && !rows.IsDeleted(current); }
     void Load();
     void Refresh();
-    void DropDeletedRows();
     void Step(int direction);
     void TakeBackChanges();
     void KeepChanges() { changed = false; }
-    Rows ReadRows() const;
-    Cell Stored(Rows& target, const Value& value) const;
-    Value Read(const Cell& cell) const;
+    StoredRows ReadRows() const;
     void ProveLayout() const;
     std::string ReadStatement() const;
     void StoreNewRow();
@@ -129,7 +96,7 @@ private:
 
     Database* database = nullptr;
     TableLayout layout;
-    Rows rows;
+    StoredRows rows;
     std::int64_t loadedVersion = 0;
     bool loaded = false;
     bool changed = false;

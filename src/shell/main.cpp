@@ -11,6 +11,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <system_error>
 
 int main(int count, char** arguments)
 {

@@ -4,6 +4,7 @@
 
 #include <array>
 
+class LogoButton;
 class MenuButton;
 class SuboptionLabel;
 class QFrame;
@@ -42,7 +43,7 @@ private:
 
     int open = 0;
     int marked = 0;
-    QWidget* logo;
+    LogoButton* logo;
     std::array<MenuButton*, 5> buttons{};
     std::array<SuboptionLabel*, 4> suboptions{};
     QWidget* optionMark;

@@ -1,29 +1,15 @@
 #include "shell/start_page.h"
 
-#include "platform/artwork.h"
 #include "platform/guard.h"
+#include "platform/logo_picture.h"
 #include "shell/about_window.h"
 #include "shell/page_switch.h"
 #include "utilities/advanced_window.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace {
-
-class LogoPicture : public QWidget
-{
-public:
-    LogoPicture() { setFixedSize(110, 110); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        DrawLogo(painter, QRectF(rect()).adjusted(1, 1, -1, -1));
-    }
-};
 
 QLabel* Centred(QLabel* label)
 {
@@ -43,7 +29,7 @@ StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pa
     welcome->setFont(light);
     welcome->setForegroundRole(QPalette::PlaceholderText);
     Body()->addWidget(Centred(welcome));
-    Body()->addWidget(new LogoPicture, 0, Qt::AlignHCenter);
+    Body()->addWidget(new LogoPicture(110), 0, Qt::AlignHCenter);
     Body()->addWidget(Centred(MakeLabel(QStringLiteral("Tavenor"), TextRole::Product)));
     QLabel* hint =
         MakeLabel(QStringLiteral("Click on the buttons to the left to get a description of what it does.  Click "

@@ -3,6 +3,7 @@
 #include "draws/ball_fields.h"
 #include "draws/game.h"
 #include "platform/card.h"
+#include "platform/failure.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/numbers.h"
@@ -10,6 +11,7 @@
 #include "shell/page_switch.h"
 #include "users/day_boxes.h"
 #include "users/user_records.h"
+#include "users/user_tables.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -117,8 +119,12 @@ void AddEntriesPage::Prepare()
 
 void AddEntriesPage::F18user_Click()
 {
-    if (!FindUserByName(users, F18user->currentText()))
-        return;
+    if (!FindUserByName(users, F18user->currentText())) {
+        const std::string name = F18user->currentText().toStdString();
+        Prepare();
+        throw Failure("The user could not be chosen",
+                      "another copy of the program has deleted it or given it another name meanwhile", name);
+    }
     const UserRow user = ReadUser(users);
     selectedUserNumber = user.number;
     selectedUserLimit = user.spendLimit;
@@ -169,7 +175,7 @@ const Game& AddEntriesPage::ChosenGame() const
 
 bool AddEntriesPage::IsUpToLimit() const
 {
-    return !MayStoreEntries(entryCount, 1, selectedUserLimit) && entryCount >= selectedUserLimit;
+    return entryCount >= selectedUserLimit;
 }
 
 void AddEntriesPage::F18store_Click()
@@ -205,7 +211,13 @@ void AddEntriesPage::StoreEntry()
     entry.days = F18day->Days();
     const std::vector<double> numbers = F18ent->Numbers();
     std::copy(numbers.begin(), numbers.end(), entry.numbers.begin());
-    Transaction transaction(UserDb, "The entry could not be stored");
+    const std::string doing = "The entry could not be stored";
+    Transaction transaction(UserDb, doing);
+    // Another copy of the program may have changed the user or its entries since the user was chosen.
+    if (!FindUserByNumber(users, selectedUserNumber))
+        throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
+    if (CountEntries(entries, selectedUserNumber) >= users.Number(UserField::SpendLimit))
+        throw Failure(doing, "the user's spend limit no longer allows it", "changed by another copy");
     entry.number = entries.NextNumber();
     AddEntry(entries, entry);
     transaction.Commit();

@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -125,7 +126,7 @@ void UserDetailsPage::BuildCards()
 void UserDetailsPage::ConnectHandlers()
 {
     ConnectGuarded(F11list, &QListWidget::itemClicked, this, [this] { F11list_Click(); });
-    ConnectGuarded(F11list, &QListWidget::currentRowChanged, this, [this] { F11list_Click(); });
+    ConnectGuarded(F11list, &QListWidget::itemSelectionChanged, this, [this] { F11list_Click(); });
     ConnectGuarded(F11adduser, &QPushButton::clicked, this, [this] { F11adduser_Click(); });
     ConnectGuarded(F11edituser, &QPushButton::clicked, this, [this] { F11edituser_Click(); });
     ConnectGuarded(F11deleteuser, &QPushButton::clicked, this, [this] { F11deleteuser_Click(); });
@@ -178,10 +179,21 @@ void UserDetailsPage::SetMode(Mode newMode)
         F11seluser->setFocus(Qt::TabFocusReason);
 }
 
+const QListWidgetItem* UserDetailsPage::SelectedLine() const
+{
+    const QList<QListWidgetItem*> selected = F11list->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
+}
+
 void UserDetailsPage::F11list_Click()
 {
-    if (F11list->currentItem() == nullptr || !FindUserByName(users, F11list->currentItem()->text()))
+    if (SelectedLine() == nullptr)
         return;
+    if (!FindUserByName(users, SelectedLine()->text())) {
+        // The list cannot be filled anew while it is still at work on the click.
+        QTimer::singleShot(0, this, [this] { Guard([this] { DropVanishedUser(); }); });
+        return;
+    }
     const UserRow user = ReadUser(users);
     selectedUserNumber = user.number;
     entryCount = CountEntries(entries, user.number);
@@ -189,6 +201,16 @@ void UserDetailsPage::F11list_Click()
     F11seluser->setText(user.name);
     F11spend->setText(PlainNumber(user.spendLimit));
     F11entrycount->setText(PlainNumber(entryCount));
+}
+
+void UserDetailsPage::DropVanishedUser()
+{
+    if (SelectedLine() == nullptr)
+        return;
+    const std::string name = SelectedLine()->text().toStdString();
+    Prepare();
+    throw Failure("The user could not be shown",
+                  "another copy of the program has deleted it or given it another name meanwhile", name);
 }
 
 void UserDetailsPage::F11adduser_Click()
@@ -200,7 +222,7 @@ void UserDetailsPage::F11edituser_Click()
 {
     if (mode == Mode::Edit)
         return;
-    if (F11list->currentItem() == nullptr) {
+    if (SelectedLine() == nullptr) {
         ShowMessage(QStringLiteral("Select a user first."));
         return;
     }
@@ -244,7 +266,7 @@ void UserDetailsPage::F11storech_Click()
 
 void UserDetailsPage::F11deleteuser_Click()
 {
-    if (F11list->currentItem() == nullptr) {
+    if (SelectedLine() == nullptr) {
         ShowMessage(QStringLiteral("Select a user first."));
         return;
     }

@@ -6,6 +6,7 @@
 
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 
 /// Page 11, "User Details": users are listed, added, given a new name or limit, and deleted with their entries.
 class UserDetailsPage : public PageFrame
@@ -30,7 +31,11 @@ private:
     void ConnectHandlers();
     void FillList();
     void SetMode(Mode newMode);
+    /// The selected line of the list; the line that merely has the focus stands for nobody.
+    const QListWidgetItem* SelectedLine() const;
     void F11list_Click();
+    /// Fills the list anew, for its selected line names a user who is gone. Throws the Failure that tells it.
+    void DropVanishedUser();
     void F11adduser_Click();
     void F11edituser_Click();
     void F11storenu_Click();

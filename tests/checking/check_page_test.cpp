@@ -103,6 +103,12 @@ private Q_SLOTS:
         AddEntry(entries, {1, 1, 1, {1, 2, 3, 4, 5, 6}, {}});
         Open(window);
         window.Click("F12check");
+        // A report that follows another one takes nothing over from it, wherever the cursor stood.
+        auto* report = window.Find<QTextEdit>("F12text");
+        QTextCursor inTheHeading(report->document());
+        inTheHeading.setPosition(5);
+        report->setTextCursor(inTheHeading);
+        window.Click("F12check");
         QStringList bold;
         for (QTextBlock block = window.Find<QTextEdit>("F12text")->document()->begin(); block.isValid();
              block = block.next())

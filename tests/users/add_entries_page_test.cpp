@@ -1,7 +1,9 @@
+#include "support/stored_draws.h"
 #include "support/test_window.h"
 
 #include "users/draw_day_window.h"
 #include "users/user_records.h"
+#include "users/user_tables.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,8 +31,8 @@ void Choose(TestWindow& window, const QString& list, int item)
 {
     auto* combo = window.Find<QComboBox>(list);
     combo->setFocus();
-    while (combo->currentIndex() != item)
-        QTest::keyClick(combo, combo->currentIndex() < item ? Qt::Key_Down : Qt::Key_Up);
+    for (int steps = item - combo->currentIndex(); steps != 0; steps += steps < 0 ? 1 : -1)
+        QTest::keyClick(combo, steps > 0 ? Qt::Key_Down : Qt::Key_Up);
 }
 
 void TypeNumbers(TestWindow& window, const QStringList& numbers)
@@ -203,6 +205,54 @@ private Q_SLOTS:
         window.modals.WillPress(QMessageBox::Ok);
         Choose(window, "F18user", 0);
         QCOMPARE(window.modals.TakeTexts(), QStringList{UpToLimit});
+    }
+
+    /// What another copy does to the users meanwhile never leads an entry to the wrong user, to nobody, or over a
+    /// limit.
+    void AnotherCopysChangesAreNoticed_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<bool>("choosesAgain");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("chosen user deleted")
+            << "delete" << true << "The user could not be chosen, because another copy";
+        QTest::newRow("user of the entry deleted")
+            << "delete" << false << "The entry could not be stored, because another copy";
+        QTest::newRow("limit lowered") << "lower" << false
+                                       << "The entry could not be stored, because the user's spend limit";
+    }
+
+    void AnotherCopysChangesAreNoticed()
+    {
+        QFETCH(QString, change);
+        QFETCH(bool, choosesAgain);
+        QFETCH(QString, message);
+        TestWindow window;
+        AddUser(users, "Ann", 10);
+        AddUser(users, "Bob", 10);
+        Open(window);
+        if (!choosesAgain)
+            Choose(window, "F18user", 1);
+        TypeNumbers(window, {"1", "2", "3", "4", "5", "6"});
+        window.Click("F18selallday");
+        InAnotherCopy(UserDataPath, {}, UsersTable(), [&change](RecordSet& table) {
+            table.MoveLast();
+            if (change == "delete")
+                table.Delete();
+            else
+                ChangeUser(table, "Bob", 0);
+        });
+        window.modals.WillPress(QMessageBox::Ok);
+        if (choosesAgain)
+            Choose(window, "F18user", 1);
+        else
+            window.Click("F18store");
+        QVERIFY(window.modals.TakeTexts().value(0).startsWith(message));
+        QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
+        if (choosesAgain)
+            QCOMPARE(window.Find<QComboBox>("F18user")->currentText(), QString("Ann"));
+        else
+            QCOMPARE(Numbers(window).join(' '), QString("1 2 3 4 5 6"));
     }
 
     void OtherGameEmptiesTheBoxes()

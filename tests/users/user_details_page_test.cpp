@@ -1,6 +1,8 @@
+#include "support/stored_draws.h"
 #include "support/test_window.h"
 
 #include "users/user_records.h"
+#include "users/user_tables.h"
 
 #include <QListWidget>
 
@@ -236,6 +238,46 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("users"), QStringList{"2,Bob,10"});
         QCOMPARE(TestFolder::StoredRows("entries"), QStringList{"4,2,1,1,2,3,4,5,6,0,0,0,0,0,0,0"});
         QCOMPARE(window.TextOf("F11label1"), QString("There is currently 1 user."));
+    }
+
+    /// A line of the list whose user is gone stands for nobody, not for the user shown before.
+    void UserGoneInAnotherCopyIsNotMistakenForAnother()
+    {
+        TestWindow window;
+        Fill({"Ann", "Bob"}, 3);
+        Open(window);
+        Select(window, 0);
+        InAnotherCopy(UserDataPath, {}, UsersTable(), [](RecordSet& table) {
+            table.MoveLast();
+            table.Delete();
+        });
+        window.modals.WillPress(QMessageBox::Ok);
+        Select(window, 1);
+        QTRY_VERIFY(window.modals.AllCame());
+        QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be shown, because another copy"));
+        QCOMPARE(window.Find<QListWidget>("F11list")->count(), 1);
+        QCOMPARE(window.TextOf("F11seluser"), QString());
+        window.modals.WillPress(QMessageBox::Ok);
+        window.Click("F11deleteuser");
+        QCOMPARE(window.modals.TakeTexts(), QStringList{"Select a user first."});
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Ann,10"});
+    }
+
+    /// Passing the list with the Tab key chooses nobody.
+    void FocusAloneChoosesNoUser()
+    {
+        TestWindow window;
+        Fill({"Ann", "Bob"}, 0);
+        Open(window);
+        window.Click("F11adduser");
+        window.Type("F11seluser", "Cid");
+        window.Press("F11seluser", Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(window.FocusedName(), QString("F11list"));
+        CompareMode(window, Mode::Add);
+        QCOMPARE(window.TextOf("F11seluser"), QString("Cid"));
+        window.modals.WillPress(QMessageBox::Ok);
+        window.Click("F11deleteuser");
+        QCOMPARE(window.modals.TakeTexts(), QStringList{"Select a user first."});
     }
 
     void LastNumberIsGivenAgain()

@@ -1,0 +1,131 @@
+#include "shell/menu_buttons.h"
+
+#include "platform/theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int TextLeft = 56;
+
+/// The light blue of the product's number and of the marker.
+const QColor& Blue()
+{
+    static const QColor blue("#7F95EC");
+    return blue;
+}
+
+/// A focus ring that can be seen on the dark column.
+void DrawRing(QPainter& painter, const QRectF& rect)
+{
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(CurrentTheme().menuText, 2));
+    painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), 8, 8);
+}
+
+} // namespace
+
+MenuButton::MenuButton(const QString& caption, const QString& name, Picture shownPicture, QWidget* parent)
+    : EnterButton(parent), picture(shownPicture)
+{
+    setObjectName(name);
+    setText(caption);
+    setAccessibleName(caption);
+    setFont(FontFor(TextRole::Strong));
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_Hover);
+}
+
+void MenuButton::SetOpen(bool isOpen)
+{
+    open = isOpen;
+    update();
+}
+
+QSize MenuButton::sizeHint() const
+{
+    return {TextLeft + QFontMetrics(font()).horizontalAdvance(text()) + MenuMeasure::ButtonMargin,
+            MenuMeasure::RowHeight};
+}
+
+void MenuButton::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Theme& theme = CurrentTheme();
+    if (open || underMouse()) {
+        QColor fill = theme.openGroup;
+        if (!open)
+            fill.setAlpha(70);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(fill);
+        painter.drawRoundedRect(rect(), 8, 8);
+    }
+    const QColor colour = open ? theme.onOpenGroup : theme.menuText;
+    DrawPicture(painter, picture, QRectF(12, height() / 2.0 - 10, 20, 20), colour);
+    painter.setPen(colour);
+    painter.drawText(rect().adjusted(TextLeft - MenuMeasure::ButtonMargin, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                     text());
+    if (hasFocus())
+        DrawRing(painter, rect());
+}
+
+LogoButton::LogoButton(QWidget* parent) : EnterButton(parent)
+{
+    setObjectName(QStringLiteral("Logo"));
+    setAccessibleName(QStringLiteral("Tavenor 3, to the start page"));
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void LogoButton::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    DrawLogo(painter, QRectF(10, 10, 42, 42));
+    QFont font = FontFor(TextRole::Heading);
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    const int left = 66;
+    painter.drawText(QRect(left, 0, width(), height()), Qt::AlignVCenter, QStringLiteral("Tavenor"));
+    const int next = left + QFontMetrics(font).horizontalAdvance(QStringLiteral("Tavenor "));
+    font.setWeight(QFont::Normal);
+    painter.setFont(font);
+    painter.setPen(Blue());
+    painter.drawText(QRect(next, 0, width(), height()), Qt::AlignVCenter, QStringLiteral("3"));
+    if (hasFocus())
+        DrawRing(painter, rect());
+}
+
+SuboptionLabel::SuboptionLabel(int number, QWidget* parent) : ClickLabel(QString(), parent)
+{
+    setObjectName(QStringLiteral("Suboption%1").arg(number));
+    QPalette onColumn = palette();
+    onColumn.setColor(QPalette::WindowText, CurrentTheme().menuText);
+    onColumn.setColor(QPalette::Highlight, CurrentTheme().menuText);
+    setPalette(onColumn);
+}
+
+void SuboptionLabel::SetMarked(bool marked)
+{
+    setFont(FontFor(marked ? TextRole::Strong : TextRole::Body));
+    QPalette onColumn = palette();
+    onColumn.setColor(QPalette::WindowText, marked ? Qt::white : CurrentTheme().menuText);
+    setPalette(onColumn);
+}
+
+OptionMark::OptionMark(QWidget* parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("Optionmark"));
+}
+
+void OptionMark::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Blue());
+    painter.drawRoundedRect(QRectF(rect()), 2, 2);
+}
