@@ -122,12 +122,12 @@ void BrowserSection::ShowDraw()
 
 DrawBrowserPage::DrawBrowserPage()
     : PageFrame(9, QStringLiteral("View Any Single Draw")),
-      F9Cal(new MonthCalendar),
+      F9Cal(new MonthCalendar(this)),
       mainSection(new BrowserSection(MainGame, this)),
       thunderballSection(new BrowserSection(ThunderballGame, this))
 {
     F9Cal->setObjectName(QStringLiteral("F9Cal"));
-    auto* dateCard = new Card;
+    auto* dateCard = new Card(this);
     dateCard->Content()->addWidget(F9Cal);
     auto* draws = new QVBoxLayout;
     draws->setSpacing(Spacing::Cards);
@@ -141,6 +141,8 @@ DrawBrowserPage::DrawBrowserPage()
     Body()->addLayout(columns);
     Body()->addStretch(1);
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });
+    // The arrow keys walk through the dates; what is shown goes with them.
+    ConnectGuarded(F9Cal, &MonthCalendar::selectionChanged, this, [this] { FindDrawsOfDate(F9Cal->selectedDate()); });
 }
 
 void DrawBrowserPage::Prepare()

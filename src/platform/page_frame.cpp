@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 Button::Button(const QString& caption, const QString& name, QWidget* parent) : QPushButton(caption, parent)
@@ -73,6 +74,22 @@ void PageFrame::ShowInFront()
 {
     show();
     raise();
+    if (back != nullptr)
+        back->setFocus();
+}
+
+void PageFrame::PutFooterLastInTabOrder()
+{
+    for (int place = 0; place < footer->count(); ++place) {
+        QWidget* button = footer->itemAt(place)->widget();
+        if (button == nullptr)
+            continue;
+        QWidget* last = previousInFocusChain();
+        while (last != this && last->focusPolicy() == Qt::NoFocus)
+            last = last->previousInFocusChain();
+        if (last != this)
+            setTabOrder(last, button);
+    }
 }
 
 Button* PageFrame::AddFooterButton(const QString& caption, const QString& name)
@@ -91,8 +108,14 @@ Button* PageFrame::AddFooterDefault(const QString& caption, const QString& name)
 
 void PageFrame::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && back != nullptr)
-        back->click();
-    else
+    if (event->key() != Qt::Key_Escape || back == nullptr) {
         QFrame::keyPressEvent(event);
+        return;
+    }
+    // As with the mouse, a field is left and checked before the button is pressed; one that is refused keeps the focus.
+    back->setFocus();
+    QTimer::singleShot(0, back, [button = back] {
+        if (button->hasFocus())
+            button->click();
+    });
 }

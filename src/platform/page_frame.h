@@ -43,8 +43,12 @@ public:
     /// Fills the page and makes it visible. Throws Failure.
     virtual void Prepare();
 
-    /// Makes the page visible in front of the others.
+    /// Makes the page visible in front of the others. One that has a button that leaves it gives that the focus.
     void ShowInFront();
+
+    /// Makes the Tab key reach the buttons at the lower right behind all else on the page, as the eye does. To be asked
+    /// for before the page is put into a window.
+    void PutFooterLastInTabOrder();
 
 protected:
     QVBoxLayout* Body() const { return body; }

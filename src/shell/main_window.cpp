@@ -50,8 +50,10 @@ PageFrame* MainWindow::Page(int index)
     } else if (const PageTableRow* row = FindPage(index)) {
         page = row->make(*this);
     }
-    if (page != nullptr)
+    if (page != nullptr) {
+        page->PutFooterLastInTabOrder();
         area->Add(page);
+    }
     return page;
 }
 
@@ -65,9 +67,13 @@ void MainWindow::BuildMenu()
 
 void MainWindow::ShowPage()
 {
+    // A page that comes to light while the others are hidden must not take the focus away from the menu.
+    QWidget* chosenFrom = menu->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
     for (int index = 0; index < PageCount; ++index)
         if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
             page->hide();
+    if (chosenFrom != nullptr)
+        chosenFrom->setFocus();
     repaint();
     const PageTableRow* row = FindPage(SelectedPage);
     if (row != nullptr && row->hasPreparation)

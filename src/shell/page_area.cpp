@@ -70,7 +70,13 @@ void PageArea::EnableFrontPageOnly()
             front = page;
     for (Place& place : pages) {
         const bool inFront = place.page == front;
-        if (place.page->isEnabled() == inFront || place.page->isHidden())
+        if (place.page->isHidden()) {
+            // It is not covered any more: shown again, it is as it was before.
+            place.focusWhenCovered = nullptr;
+            place.page->setEnabled(true);
+            continue;
+        }
+        if (place.page->isEnabled() == inFront)
             continue;
         if (!inFront)
             place.focusWhenCovered =

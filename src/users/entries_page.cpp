@@ -16,6 +16,8 @@
 #include <QGridLayout>
 #include <QRadioButton>
 
+#include <utility>
+
 namespace {
 
 constexpr int ViewPage = 19;
@@ -109,8 +111,9 @@ void EntriesPage::Prepare()
 
 void EntriesPage::F13user_Click()
 {
-    if (FindUserByName(users, F13user->currentText()))
-        selectedUserNumber = ReadUser(users).number;
+    // Another copy may have deleted or renamed the user; the entries of the one chosen before must not stand in.
+    selectedUserNumber =
+        FindUserByName(users, F13user->currentText()) ? std::optional(ReadUser(users).number) : std::nullopt;
     FillEntriesGrid();
 }
 
@@ -127,7 +130,10 @@ const Game& EntriesPage::ChosenGame() const
 
 void EntriesPage::FillEntriesGrid()
 {
-    model->Fill(ChosenGame(), ReadEntriesOf(entries, selectedUserNumber, ChosenGame().drawType));
+    std::vector<EntryRow> rows;
+    if (selectedUserNumber)
+        rows = ReadEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType);
+    model->Fill(ChosenGame(), std::move(rows));
     const bool empty = model->rowCount() == 0;
     F13grid->setHidden(empty);
     F13noentries->setVisible(empty);

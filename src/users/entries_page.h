@@ -42,7 +42,7 @@ private:
     std::optional<EntryRow> FindEntry(int row) const;
 
     PageSwitch& pages;
-    std::int64_t selectedUserNumber = 0;
+    std::optional<std::int64_t> selectedUserNumber;
 
     QComboBox* F13user;
     QRadioButton* F13typemain;
