@@ -69,19 +69,19 @@ void PageArea::EnableFrontPageOnly()
         if (const auto* page = qobject_cast<const QWidget*>(child); page != nullptr && !page->isHidden())
             front = page;
     for (Place& place : pages) {
-        const bool inFront = place.page == front;
-        if (place.page->isHidden()) {
+        QWidget& page = *place.page;
+        const bool inFront = &page == front;
+        if (page.isHidden()) {
             // It is not covered any more: shown again, it is as it was before.
             place.focusWhenCovered = nullptr;
-            place.page->setEnabled(true);
+            page.setEnabled(true);
             continue;
         }
-        if (place.page->isEnabled() == inFront)
+        if (page.isEnabled() == inFront)
             continue;
         if (!inFront)
-            place.focusWhenCovered =
-                place.page->isAncestorOf(window()->focusWidget()) ? window()->focusWidget() : nullptr;
-        place.page->setEnabled(inFront);
+            place.focusWhenCovered = page.isAncestorOf(window()->focusWidget()) ? window()->focusWidget() : nullptr;
+        page.setEnabled(inFront);
         if (inFront && place.focusWhenCovered != nullptr)
             place.focusWhenCovered->setFocus();
     }
