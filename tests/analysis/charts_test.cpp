@@ -108,8 +108,8 @@ QString Text(const QString& label, int colour, int value)
 struct Expected
 {
     int chart;
-    QString source;
     int bars;
+    QString source;
     QList<int> types;
     /// Empty for the bars' own numbers.
     QStringList labels;
@@ -117,21 +117,21 @@ struct Expected
     QList<int> colours;
 };
 const Expected ExpectedCharts[] = {
-    {1, "ukmain", 49, {0, 1, 2}, {}, {}},
-    {2, "ukmain", 5, {0, 1, 2}, {"1 - 9", "10 - 19", "20 - 29", "30 - 39", "40 - 49"}, {15, 9, 12, 10, 14}},
-    {3, "ukmain", 2, {0, 1, 2}, {"Odd", "Even"}, {9, 12}},
-    {4, "ukmainlist", 49, {0, 1, 2}, {}, {}},
-    {5, "ukmain", 4, {2}, {"Arthur", "Guinevere", "Lancelot", "Merlin"}, {15, 9, 12, 10}},
+    {1, 49, "ukmain", {0, 1, 2}, {}, {}},
+    {2, 5, "ukmain", {0, 1, 2}, {"1 - 9", "10 - 19", "20 - 29", "30 - 39", "40 - 49"}, {15, 9, 12, 10, 14}},
+    {3, 2, "ukmain", {0, 1, 2}, {"Odd", "Even"}, {9, 12}},
+    {4, 49, "ukmainlist", {0, 1, 2}, {}, {}},
+    {5, 4, "ukmain", {2}, {"Arthur", "Guinevere", "Lancelot", "Merlin"}, {15, 9, 12, 10}},
     {6,
-     "ukmain",
      8,
+     "ukmain",
      {2},
      {"Set 1", "Set 2", "Set 3", "Set 4", "Set 5", "Set 6", "Set 7", "Set 8"},
      {15, 9, 12, 10, 15, 9, 12, 10}},
-    {21, "ukthunder", 34, {0}, {}, {9}},
-    {22, "ukthunderlist", 34, {0}, {}, {9}},
-    {23, "ukthunder", 14, {1}, {}, {12}},
-    {24, "ukthunderlist", 14, {1}, {}, {12}},
+    {21, 34, "ukthunder", {0}, {}, {9}},
+    {22, 34, "ukthunderlist", {0}, {}, {9}},
+    {23, 14, "ukthunder", {1}, {}, {12}},
+    {24, 14, "ukthunderlist", {1}, {}, {12}},
 };
 
 QStringList PlainBars(const Expected& chart, int type)
