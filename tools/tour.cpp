@@ -171,10 +171,17 @@ public:
         Find<QAbstractButton>("F0links")->click();
         Picture(QStringLiteral("links"), window);
         window.ShowStartPage();
-        for (const char* name : {"about", "advanced"}) {
-            InModal(name, "back", [](QDialog&) {});
-            Find<QAbstractButton>(name)->click();
-        }
+        InModal("about", "back", [](QDialog&) {});
+        Find<QAbstractButton>("about")->click();
+        InModal("advanced", "back", [this](QDialog& advanced) {
+            QTimer::singleShot(100, &advanced, [this] {
+                auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                Picture(QStringLiteral("file_dialog"), *dialog);
+                dialog->reject();
+            });
+            advanced.findChild<QAbstractButton*>(QStringLiteral("exportdraw"))->click();
+        });
+        Find<QAbstractButton>("advanced")->click();
     }
 
 private:

@@ -15,6 +15,9 @@
 
 namespace {
 
+// More than fits a list's line; shaping a text of megabytes takes seconds.
+constexpr qsizetype MostDrawnCharacters = 1000;
+
 constexpr qreal Corner = 8;
 constexpr int ControlHeight = 36;
 constexpr int ListLineHeight = 28;
@@ -194,6 +197,13 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
             QProxyStyle::drawControl(element, &quiet, painter, widget);
             return;
         }
+    }
+    if (const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        list != nullptr && element == CE_ComboBoxLabel && list->currentText.size() > MostDrawnCharacters) {
+        QStyleOptionComboBox beginning(*list);
+        beginning.currentText.truncate(MostDrawnCharacters);
+        QProxyStyle::drawControl(element, &beginning, painter, widget);
+        return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
 }

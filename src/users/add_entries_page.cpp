@@ -24,6 +24,8 @@ namespace {
 QComboBox* MakeList(const QString& name, const QString& caption)
 {
     auto* list = new QComboBox;
+    // Not as wide as its longest text, which may be of any length.
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setObjectName(name);
     list->setAccessibleName(caption);
     return list;
