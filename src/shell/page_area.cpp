@@ -70,7 +70,7 @@ void PageArea::EnableFrontPageOnly()
             front = page;
     for (Place& place : pages) {
         QWidget& page = *place.page;
-        const bool inFront = &page == front;
+        const bool inFront = front != nullptr && &page == front;
         if (page.isHidden()) {
             // It is not covered any more: shown again, it is as it was before.
             place.focusWhenCovered = nullptr;

@@ -22,7 +22,7 @@ void OpenWithFiveDraws(TestWindow& window)
     QStringList mainDraws;
     QStringList thunderballDraws;
     for (int draw = 1; draw <= 5; ++draw) {
-        const QString date = QDate(2026, 1, 3).addDays(7 * draw).toString(Qt::ISODate);
+        const QString date = QDate(2026, 1, 3).addDays(qint64{7} * draw).toString(Qt::ISODate);
         mainDraws.append(QString("%1,%2,11,22,33,44,49,40,ARTHUR,%2").arg(date).arg(draw));
         thunderballDraws.append(QString("%1,%2,11,22,33,34,14").arg(date).arg(draw));
     }
