@@ -32,8 +32,8 @@ make_root() {
         tar --create --no-recursion --ignore-failed-read --warning=no-failed-read --files-from - 2>/dev/null |
         tar --extract --directory "$root" --keep-directory-symlink
     mkdir -p "$root/dev"
-    mknod -m 666 "$root/dev/null" c 1 3
-    chroot "$root" ldconfig
+    mknod -m 666 "$root/dev/null" c 1 3 && chroot "$root" ldconfig ||
+        fail "a clean root needs the right to make a device and to chroot, which this machine does not give to root"
 }
 
 in_dpkg() { dpkg --root="$root" --log=/dev/null "$@" >/dev/null; }
