@@ -1,5 +1,6 @@
 #include "platform/guard.h"
 #include "platform/style.h"
+#include "platform/traceless_start.h"
 #include "shell/main_window.h"
 #include "shell/open_databases.h"
 #include "shell/shut_down.h"
@@ -8,16 +9,23 @@
 #include "shell/termination_watch.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
 
 #include <filesystem>
-#include <memory>
+#include <optional>
 #include <system_error>
 
 int main(int count, char** arguments)
 {
+    std::optional<TracelessStart> tracelessStart(std::in_place, QDir::currentPath());
     QApplication application(count, arguments);
+    QFontDatabase::families();
+    tracelessStart.reset();
     QApplication::setStyle(new Style);
     QApplication::setApplicationName(QStringLiteral("tavenor3"));
+    // By this name the desktop finds the window's icon.
+    QApplication::setDesktopFileName(QStringLiteral("tavenor3"));
     // In a folder that is gone meanwhile the files are missing like in any other.
     std::error_code gone;
     SetProgramDir(std::filesystem::current_path(gone));
