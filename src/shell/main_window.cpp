@@ -12,6 +12,30 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 
+namespace {
+
+/// A page that comes to light must not take the focus away from the menu from which it was chosen.
+class KeptMenuFocus
+{
+public:
+    explicit KeptMenuFocus(const MenuColumn& menu)
+        : chosenFrom(menu.isAncestorOf(menu.window()->focusWidget()) ? menu.window()->focusWidget() : nullptr)
+    {
+    }
+    ~KeptMenuFocus()
+    {
+        if (chosenFrom != nullptr)
+            chosenFrom->setFocus();
+    }
+    KeptMenuFocus(const KeptMenuFocus&) = delete;
+    KeptMenuFocus& operator=(const KeptMenuFocus&) = delete;
+
+private:
+    QWidget* chosenFrom;
+};
+
+} // namespace
+
 MainWindow::MainWindow() : menu(new MenuColumn(this)), area(new PageArea(this))
 {
     setObjectName(QStringLiteral("frmmain"));
@@ -61,19 +85,21 @@ void MainWindow::BuildMenu()
 {
     menu->LayOut(MenuGroup);
     SelectedPage = MenuGroup;
-    Page(SelectedPage)->ShowInFront();
+    {
+        const KeptMenuFocus kept(*menu);
+        Page(SelectedPage)->ShowInFront();
+    }
     ShowPage();
 }
 
 void MainWindow::ShowPage()
 {
-    // A page that comes to light while the others are hidden must not take the focus away from the menu.
-    QWidget* chosenFrom = menu->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
-    for (int index = 0; index < PageCount; ++index)
-        if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
-            page->hide();
-    if (chosenFrom != nullptr)
-        chosenFrom->setFocus();
+    {
+        const KeptMenuFocus kept(*menu);
+        for (int index = 0; index < PageCount; ++index)
+            if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
+                page->hide();
+    }
     repaint();
     const PageTableRow* row = FindPage(SelectedPage);
     if (row != nullptr && row->hasPreparation)
