@@ -12,30 +12,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 
-namespace {
-
-/// A page that comes to light must not take the focus away from the menu from which it was chosen.
-class KeptMenuFocus
-{
-public:
-    explicit KeptMenuFocus(const MenuColumn& menu)
-        : chosenFrom(menu.isAncestorOf(menu.window()->focusWidget()) ? menu.window()->focusWidget() : nullptr)
-    {
-    }
-    ~KeptMenuFocus()
-    {
-        if (chosenFrom != nullptr)
-            chosenFrom->setFocus();
-    }
-    KeptMenuFocus(const KeptMenuFocus&) = delete;
-    KeptMenuFocus& operator=(const KeptMenuFocus&) = delete;
-
-private:
-    QWidget* chosenFrom;
-};
-
-} // namespace
-
 MainWindow::MainWindow() : menu(new MenuColumn(this)), area(new PageArea(this))
 {
     setObjectName(QStringLiteral("frmmain"));
@@ -85,21 +61,19 @@ void MainWindow::BuildMenu()
 {
     menu->LayOut(MenuGroup);
     SelectedPage = MenuGroup;
-    {
-        const KeptMenuFocus kept(*menu);
-        Page(SelectedPage)->ShowInFront();
-    }
+    // A page that was covered takes its focus back, but not from the menu from which it is chosen.
+    QWidget* chosenFrom = menu->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
+    Page(SelectedPage)->ShowInFront();
+    if (chosenFrom != nullptr)
+        chosenFrom->setFocus();
     ShowPage();
 }
 
 void MainWindow::ShowPage()
 {
-    {
-        const KeptMenuFocus kept(*menu);
-        for (int index = 0; index < PageCount; ++index)
-            if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
-                page->hide();
-    }
+    for (int index = 0; index < PageCount; ++index)
+        if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
+            page->hide();
     repaint();
     const PageTableRow* row = FindPage(SelectedPage);
     if (row != nullptr && row->hasPreparation)
