@@ -179,9 +179,11 @@ private Q_SLOTS:
     {
         TestWindow window(TestFolder::Content::Starter);
         const QStringList kept = TestFolder::StoredRows("ukmain").mid(0, 100);
+        Transaction transaction(DrawDb, "The draws could not be deleted");
         for (ukmain.MoveFirst(); !ukmain.Eof(); ukmain.MoveNext())
             if (ukmain.Number(0) > 100)
                 ukmain.Delete();
+        transaction.Commit();
         const QString live = window.files.Path("drawdata.tv3");
         const auto size = QFileInfo(live).size();
         // The compaction cannot write over a folder that stands in its way, but over what an interrupted run left.

@@ -81,6 +81,10 @@ private Q_SLOTS:
         CompareMode(window, Add);
         QCOMPARE(window.FocusedName(), QString("F11seluser"));
         window.Type("F11seluser", "half a na");
+        window.Click("F11edituser");
+        CompareMode(window, Edit);
+        QCOMPARE(window.TextOf("F11seluser"), QString("Bob"));
+        window.Type("F11seluser", "half a na");
         Select(window, 1);
         CompareMode(window, View);
         QCOMPARE(window.TextOf("F11seluser"), QString("Bob"));
