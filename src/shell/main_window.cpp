@@ -61,19 +61,19 @@ void MainWindow::BuildMenu()
 {
     menu->LayOut(MenuGroup);
     SelectedPage = MenuGroup;
+    // A page that was covered takes its focus back, but not from the menu from which it is chosen.
+    QWidget* chosenFrom = menu->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
     Page(SelectedPage)->ShowInFront();
+    if (chosenFrom != nullptr)
+        chosenFrom->setFocus();
     ShowPage();
 }
 
 void MainWindow::ShowPage()
 {
-    // A page that comes to light while the others are hidden must not take the focus away from the menu.
-    QWidget* chosenFrom = menu->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
     for (int index = 0; index < PageCount; ++index)
         if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
             page->hide();
-    if (chosenFrom != nullptr)
-        chosenFrom->setFocus();
     repaint();
     const PageTableRow* row = FindPage(SelectedPage);
     if (row != nullptr && row->hasPreparation)

@@ -127,5 +127,6 @@ void OptionMark::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Blue());
-    painter.drawRoundedRect(QRectF(rect()), 2, 2);
+    constexpr int barHeight = 14;
+    painter.drawRoundedRect(QRectF(0, (height() - barHeight) / 2.0, width(), barHeight), 2, 2);
 }

@@ -99,9 +99,8 @@ void MenuColumn::PlaceChildren()
                 ->setGeometry(SuboptionLeft, Pixels(suboption->top), width() - SuboptionLeft - 2, SuboptionHeight);
     if (const MenuSuboption* suboption = FindSuboption(open, marked)) {
         constexpr int markerDrop = 30;
-        constexpr int markerHeight = 14;
-        const int middle = (SuboptionHeight - markerHeight) / 2 - Pixels(markerDrop);
-        optionMark->setGeometry(SuboptionLeft - 12, Pixels(suboption->top + markerDrop) + middle, 4, markerHeight);
+        optionMark->setGeometry(SuboptionLeft - 12, Pixels(suboption->top + markerDrop), 4,
+                                SuboptionHeight - 2 * Pixels(markerDrop));
     }
     exit->setGeometry(ButtonMargin, height() - ButtonMargin - RowHeight, width() - 2 * ButtonMargin, RowHeight);
 }

@@ -187,6 +187,14 @@ void TestWindow::Click(const QString& name)
     Settle();
 }
 
+QStringList TestWindow::Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers)
+{
+    for (const auto answer : answers)
+        modals.WillPress(answer);
+    Click(name);
+    return modals.TakeTexts();
+}
+
 void TestWindow::Type(const QString& name, const QString& text)
 {
     auto* edit = Find<QLineEdit>(name);
@@ -194,6 +202,22 @@ void TestWindow::Type(const QString& name, const QString& text)
     edit->selectAll();
     QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClicks(edit, text);
+}
+
+void TestWindow::TypeInTurn(const QString& firstField, const QStringList& texts)
+{
+    Type(firstField, texts.first());
+    PressFocused(Qt::Key_Return);
+    for (const QString& text : texts.mid(1)) {
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        PressFocused(Qt::Key_Return);
+    }
+}
+
+void TestWindow::OpenPage(int group, int suboption)
+{
+    Click(QString("Button%1").arg(group));
+    Click(QString("Suboption%1").arg(suboption));
 }
 
 void TestWindow::Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)

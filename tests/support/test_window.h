@@ -105,8 +105,14 @@ public:
     QString TextOf(const QString& name) const;
     bool IsShown(const QString& name) const { return Find(name)->isVisible(); }
     void Click(const QString& name);
+    /// Clicks a control and answers the message boxes that follow, in order; what they said comes back.
+    QStringList Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers);
     /// Clicks into a text field, replaces its text by typing, and leaves it alone.
     void Type(const QString& name, const QString& text);
+    /// Types the texts into the fields through which the Enter key leads, and presses it in the last one too.
+    void TypeInTurn(const QString& firstField, const QStringList& texts);
+    /// Chooses a group of the menu and one of its sub-options.
+    void OpenPage(int group, int suboption);
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void PressFocused(Qt::Key key);
     QString FocusedName() const;

@@ -21,10 +21,12 @@ const QString NotStored =
 const QString Stored = QStringLiteral("This entry has been stored.");
 const QString NoDay = QStringLiteral("You must specify at least ONE draw day. Please retry.");
 
-void Open(TestWindow& window)
+/// Stores users with their limits and opens the page.
+void Open(TestWindow& window, const QList<std::pair<QString, int>>& newUsers = {})
 {
-    window.Click("Button3");
-    window.Click("Suboption2");
+    for (const auto& [name, limit] : newUsers)
+        AddUser(users, name, limit);
+    window.OpenPage(3, 2);
 }
 
 void Choose(TestWindow& window, const QString& list, int item)
@@ -35,16 +37,6 @@ void Choose(TestWindow& window, const QString& list, int item)
         QTest::keyClick(combo, steps > 0 ? Qt::Key_Down : Qt::Key_Up);
 }
 
-void TypeNumbers(TestWindow& window, const QStringList& numbers)
-{
-    window.Type("F18ent_1", numbers.first());
-    for (const QString& number : numbers.mid(1)) {
-        window.PressFocused(Qt::Key_Return);
-        QTest::keyClicks(QApplication::focusWidget(), number);
-    }
-    window.PressFocused(Qt::Key_Return);
-}
-
 QStringList Numbers(const TestWindow& window)
 {
     QStringList numbers;
@@ -53,12 +45,12 @@ QStringList Numbers(const TestWindow& window)
     return numbers;
 }
 
-void Store(TestWindow& window, const QStringList& messages)
+void CompareColours(const TestWindow& window, const QStringList& colours)
 {
-    for (int box = 0; box < messages.size(); ++box)
-        window.modals.WillPress(QMessageBox::Ok);
-    window.Click("F18store");
-    QCOMPARE(window.modals.TakeTexts(), messages);
+    for (int box = 1; box <= 6; ++box) {
+        QCOMPARE(window.ColourOf(QString("F18ent_%1").arg(box), QPalette::Base), QColor(colours[box - 1]));
+        QCOMPARE(window.ColourOf(QString("F18ball_%1").arg(box), QPalette::Window), QColor(colours[box - 1]));
+    }
 }
 
 } // namespace
@@ -73,133 +65,109 @@ private Q_SLOTS:
         TestWindow window;
         window.modals.WillPress(QMessageBox::Ok);
         Open(window);
-        QCOMPARE(window.modals.TakeTexts(),
-                 QStringList{"You cannot store entries until you have created a user profile."});
-        QVERIFY(window.IsShown("Frame_11"));
-        QVERIFY(!window.IsShown("Frame_18"));
-        QVERIFY(window.IsShown("F11storenu"));
+        const QList<SeenBox> seen = window.modals.TakeSeen();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QString("You cannot store entries until you have created a user profile."));
+        QCOMPARE(seen[0].title, QString("Tavenor 3"));
+        QCOMPARE(seen[0].icon, QMessageBox::NoIcon);
+        QVERIFY(window.IsShown("F11storenu") && !window.IsShown("Frame_18"));
     }
 
     void EntryIsStoredSorted_data()
     {
-        QTest::addColumn<int>("type");
         QTest::addColumn<QStringList>("numbers");
         QTest::addColumn<QString>("row");
-        QTest::newRow("Main") << 0 << QStringList{"40", "3", "17", "25", "9", "33"}
-                              << "1,1,1,3,9,17,25,33,40,-1,0,0,0,0,0,-1";
-        QTest::newRow("Thunderball") << 1 << QStringList{"30", "2", "15", "7", "21", "2"}
-                                     << "1,1,2,2,7,15,21,30,2,-1,0,0,0,0,0,-1";
+        QTest::addColumn<QStringList>("colours");
+        QTest::newRow("Main") << QStringList{"40", "3", "17", "25", "9", "33"}
+                              << "1,1,1,3,9,17,25,33,40,-1,0,0,0,0,0,-1"
+                              << QStringList{"#FFFFFF", "#FFFFFF", "#80FFFF", "#FF8080", "#80FF80", "#FFFF80"};
+        QTest::newRow("Thunderball") << QStringList{"30", "2", "15", "7", "21", "2"}
+                                     << "1,1,2,2,7,15,21,30,2,-1,0,0,0,0,0,-1"
+                                     << (QStringList(5, "#000080") << "#FF0000");
     }
 
     void EntryIsStoredSorted()
     {
-        QFETCH(int, type);
         QFETCH(QStringList, numbers);
         QFETCH(QString, row);
+        QFETCH(QStringList, colours);
+        const int type = row.section(',', 2, 2).toInt() - 1;
         TestWindow window;
-        AddUser(users, "Ann", 10);
-        Open(window);
+        Open(window, {{"Ann", 10}});
         QCOMPARE(window.TextOf("F18userdata_0"), QString("This user has no entries stored."));
         QCOMPARE(window.TextOf("F18userdata_1"), QString("Your limit is 10 entries."));
         QCOMPARE(window.TextOf("F18userdata_2"), QString("To alter limit, goto \"User Details\""));
         Choose(window, "F18type", type);
         QCOMPARE(window.TextOf("F18blab_6"), type == 0 ? QString("Ball 6") : QString("Thunderball"));
-        TypeNumbers(window, numbers);
+        window.TypeInTurn("F18ent_1", numbers);
         QCOMPARE(window.FocusedName(), QString("F18store"));
-        Store(window, {NoDay});
-        QStringList sorted = row.split(',').mid(3, 6);
-        QCOMPARE(Numbers(window), sorted);
-        QCOMPARE(window.ColourOf("F18ent_6", QPalette::Base), type == 0 ? QColor("#FFFF80") : QColor("#FF0000"));
-        QCOMPARE(window.ColourOf("F18ball_1", QPalette::Window), type == 0 ? QColor("#FFFFFF") : QColor("#000080"));
-        window.Click("F18day_0");
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{NoDay});
+        QCOMPARE(Numbers(window).join(','), row.section(',', 3, 8));
+        CompareColours(window, colours);
+        window.Find<QCheckBox>("F18day_0")->click();
         window.Find<QCheckBox>("F18day_6")->click();
-        window.Find<QCheckBox>("F18day_0")->setChecked(true);
-        Store(window, {Stored});
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Stored});
         QCOMPARE(TestFolder::StoredRows("entries"), QStringList{row});
         QCOMPARE(Numbers(window), QStringList(6, QString()));
-        QCOMPARE(window.ColourOf("F18ent_1", QPalette::Base), QColor("#404040"));
+        CompareColours(window, QStringList(6, "#404040"));
         QVERIFY(!window.Find<QCheckBox>("F18day_6")->isChecked());
         QCOMPARE(window.Find<QComboBox>("F18type")->currentIndex(), type);
         QCOMPARE(window.TextOf("F18userdata_0"), QString("This user has 1 entries stored."));
     }
 
-    void StoreRefusesWhatIsNoEntry_data()
+    /// A box that is refused says so when it is left, all others when they are stored.
+    void RefusedNumbersAreTold_data()
     {
         QTest::addColumn<int>("type");
         QTest::addColumn<QStringList>("numbers");
-        QTest::newRow("two equal numbers") << 0 << QStringList{"1", "2", "3", "4", "5", "5"};
-        QTest::newRow("an empty box") << 0 << QStringList{"1", "2", "3", "4", "5", ""};
-        QTest::newRow("a fraction") << 0 << QStringList{"1", "2", "3", "4", "5", "6.5"};
-        QTest::newRow("two equal Thunderball numbers") << 1 << QStringList{"1", "2", "3", "4", "4", "5"};
-        QTest::newRow("no thunderball") << 1 << QStringList{"1", "2", "3", "4", "5", ""};
-        QTest::newRow("half a thunderball") << 1 << QStringList{"1", "2", "3", "4", "5", "0.5"};
+        QTest::addColumn<QStringList>("boxMessage");
+        const auto row = [](const char* name, int type, const QStringList& numbers,
+                            const QStringList& boxMessage = {}) {
+            QTest::newRow(name) << type << numbers << boxMessage;
+        };
+        row("two equal numbers", 0, {"1", "2", "3", "4", "5", "5"});
+        row("an empty box", 0, {"1", "2", "3", "4", "5", ""});
+        row("50", 0, {"1", "2", "3", "4", "5", "50"}, {"Ball values must be between 1 and 49"});
+        row("two equal Thunderball numbers", 1, {"1", "2", "3", "4", "4", "5"});
+        row("half a thunderball", 1, {"1", "2", "3", "4", "5", "0.5"});
+        row("a main number of 35", 1, {"1", "2", "3", "4", "35"}, {"Main ball values must be between 1 and 34"});
+        row("15", 1, {"1", "2", "3", "4", "5", "15"}, {"Thunderball value must be between 1 and 14"});
     }
 
-    void StoreRefusesWhatIsNoEntry()
+    void RefusedNumbersAreTold()
     {
         QFETCH(int, type);
         QFETCH(QStringList, numbers);
+        QFETCH(QStringList, boxMessage);
         TestWindow window;
-        AddUser(users, "Ann", 10);
-        Open(window);
+        Open(window, {{"Ann", 10}});
         Choose(window, "F18type", type);
-        TypeNumbers(window, numbers);
+        if (!boxMessage.isEmpty())
+            window.modals.WillPress(QMessageBox::Ok);
+        window.TypeInTurn("F18ent_1", numbers);
+        QCOMPARE(window.modals.TakeTexts(), boxMessage);
+        const QString last = QString("F18ent_%1").arg(numbers.size());
+        QCOMPARE(window.FocusedName(), boxMessage.isEmpty() ? "F18store" : last);
+        QCOMPARE(window.TextOf(last), boxMessage.isEmpty() ? numbers.last() : QString());
         window.Click("F18selallday");
-        Store(window, {Refused});
-        QCOMPARE(Numbers(window), numbers);
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Refused});
+        QCOMPARE(window.TextOf("F18ent_1"), QString("1"));
         QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
-    }
-
-    void RefusedBoxIsToldByItsGame_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("box");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("Main") << 0 << "F18ent_6"
-                              << "50"
-                              << "Ball values must be between 1 and 49";
-        QTest::newRow("Thunderball main") << 1 << "F18ent_5"
-                                          << "35"
-                                          << "Main ball values must be between 1 and 34";
-        QTest::newRow("thunderball") << 1 << "F18ent_6"
-                                     << "15"
-                                     << "Thunderball value must be between 1 and 14";
-    }
-
-    void RefusedBoxIsToldByItsGame()
-    {
-        QFETCH(int, type);
-        QFETCH(QString, box);
-        QFETCH(QString, typed);
-        QFETCH(QString, message);
-        TestWindow window;
-        AddUser(users, "Ann", 10);
-        Open(window);
-        Choose(window, "F18type", type);
-        window.Type(box, typed);
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Press(box, Qt::Key_Tab);
-        QCOMPARE(window.modals.TakeTexts(), QStringList{message});
-        QCOMPARE(window.TextOf(box), QString());
-        QCOMPARE(window.FocusedName(), box);
     }
 
     void LimitIsKept()
     {
         TestWindow window;
-        AddUser(users, "Ann", 1);
-        AddUser(users, "Bob", 5);
-        Open(window);
-        TypeNumbers(window, {"1", "2", "3", "4", "5", "6"});
+        Open(window, {{"Ann", 1}, {"Bob", 5}});
+        window.TypeInTurn("F18ent_1", {"1", "2", "3", "4", "5", "6"});
         window.Click("F18selallday");
-        Store(window, {Stored, UpToLimit});
-        TypeNumbers(window, {"1", "2", "3", "4", "5", "7"});
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok, QMessageBox::Ok}), (QStringList{Stored, UpToLimit}));
+        window.TypeInTurn("F18ent_1", {"1", "2", "3", "4", "5", "7"});
         window.Click("F18selallday");
-        Store(window, {NotStored});
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{NotStored});
         QCOMPARE(Numbers(window), (QStringList{"1", "2", "3", "4", "5", "7"}));
         Choose(window, "F18user", 1);
-        Store(window, {Stored});
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Stored});
         QCOMPARE(TestFolder::StoredRows("entries"),
                  (QStringList{"1,1,1,1,2,3,4,5,6,-1,-1,-1,-1,-1,-1,-1", "2,2,1,1,2,3,4,5,7,-1,-1,-1,-1,-1,-1,-1"}));
         window.modals.WillPress(QMessageBox::Ok);
@@ -209,59 +177,37 @@ private Q_SLOTS:
 
     /// What another copy does to the users meanwhile never leads an entry to the wrong user, to nobody, or over a
     /// limit.
-    void AnotherCopysChangesAreNoticed_data()
-    {
-        QTest::addColumn<QString>("change");
-        QTest::addColumn<bool>("choosesAgain");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("chosen user deleted")
-            << "delete" << true << "The user could not be chosen, because another copy";
-        QTest::newRow("user of the entry deleted")
-            << "delete" << false << "The entry could not be stored, because another copy";
-        QTest::newRow("limit lowered") << "lower" << false
-                                       << "The entry could not be stored, because the user's spend limit";
-    }
-
     void AnotherCopysChangesAreNoticed()
     {
-        QFETCH(QString, change);
-        QFETCH(bool, choosesAgain);
-        QFETCH(QString, message);
         TestWindow window;
-        AddUser(users, "Ann", 10);
-        AddUser(users, "Bob", 10);
-        Open(window);
-        if (!choosesAgain)
-            Choose(window, "F18user", 1);
-        TypeNumbers(window, {"1", "2", "3", "4", "5", "6"});
+        Open(window, {{"Ann", 10}, {"Bob", 10}});
+        Choose(window, "F18user", 1);
+        window.TypeInTurn("F18ent_1", {"1", "2", "3", "4", "5", "6"});
         window.Click("F18selallday");
-        InAnotherCopy(UserDataPath, {}, UsersTable(), [&change](RecordSet& table) {
-            table.MoveLast();
-            if (change == "delete")
-                table.Delete();
-            else
-                ChangeUser(table, "Bob", 0);
-        });
-        window.modals.WillPress(QMessageBox::Ok);
-        if (choosesAgain)
-            Choose(window, "F18user", 1);
-        else
-            window.Click("F18store");
-        QVERIFY(window.modals.TakeTexts().value(0).startsWith(message));
+        for (const bool deletes : {false, true}) {
+            InAnotherCopy(UserDataPath, {}, UsersTable(), [deletes](RecordSet& table) {
+                table.MoveLast();
+                deletes ? table.Delete() : ChangeUser(table, "Bob", 0);
+            });
+            const QString told = window.Click("F18store", {QMessageBox::Ok}).value(0);
+            QVERIFY(told.startsWith(deletes ? "The entry could not be stored, because another copy"
+                                            : "The entry could not be stored, because the user's spend limit"));
+        }
         QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
-        if (choosesAgain)
-            QCOMPARE(window.Find<QComboBox>("F18user")->currentText(), QString("Ann"));
-        else
-            QCOMPARE(Numbers(window).join(' '), QString("1 2 3 4 5 6"));
+        QCOMPARE(Numbers(window).join(' '), QString("1 2 3 4 5 6"));
+        Choose(window, "F18user", 0);
+        window.modals.WillPress(QMessageBox::Ok);
+        Choose(window, "F18user", 1);
+        QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be chosen, because another copy"));
+        QCOMPARE(window.Find<QComboBox>("F18user")->currentText(), QString("Ann"));
     }
 
     void OtherGameEmptiesTheBoxes()
     {
         TestWindow window;
-        AddUser(users, "Ann", 10);
-        Open(window);
+        Open(window, {{"Ann", 10}});
         const QStringList typed{"1", "2", "3", "4", "5", "6"};
-        TypeNumbers(window, typed);
+        window.TypeInTurn("F18ent_1", typed);
         window.Click("F18selallday");
         window.Find<QComboBox>("F18type")->activated(0);
         QCOMPARE(Numbers(window), typed);
@@ -271,11 +217,11 @@ private Q_SLOTS:
         QVERIFY(!window.Find<QCheckBox>("F18day_3")->isChecked());
         Choose(window, "F18type", 1);
         QCOMPARE(Numbers(window), QStringList(6, QString()));
-        TypeNumbers(window, typed);
+        window.TypeInTurn("F18ent_1", typed);
         window.Click("F18reset");
         QCOMPARE(Numbers(window), QStringList(6, QString()));
         QCOMPARE(window.FocusedName(), QString("F18ent_1"));
-        TypeNumbers(window, typed);
+        window.TypeInTurn("F18ent_1", typed);
         Open(window);
         QCOMPARE(Numbers(window), QStringList(6, QString()));
         QCOMPARE(window.TextOf("F18blab_6"), QString("Ball 6"));

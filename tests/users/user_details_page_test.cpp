@@ -8,19 +8,14 @@
 
 namespace {
 
-/// Users with their limits, and entries of the first of them.
-void Fill(const QStringList& names, int entryCount)
+/// Stores users with a limit of 10, and entries of the first of them, and opens the page.
+void OpenWith(TestWindow& window, const QStringList& names, int entryCount)
 {
     for (const QString& name : names)
         AddUser(users, name, 10);
     for (int i = 1; i <= entryCount; ++i)
         AddEntry(entries, {i, 1, 1 + i % 2, {1, 2, 3, 4, 5, 6}, {}});
-}
-
-void Open(TestWindow& window)
-{
-    window.Click("Button3");
-    window.Click("Suboption1");
+    window.OpenPage(3, 1);
 }
 
 void Select(TestWindow& window, int line)
@@ -29,25 +24,21 @@ void Select(TestWindow& window, int line)
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(line)).center());
 }
 
-enum class Mode
-{
-    View,
-    Add,
-    Edit
-};
+/// The modes of the page, each by its caption of the name.
+constexpr const char* View = "Currently selected user";
+constexpr const char* Add = "New users name";
+constexpr const char* Edit = "Updated users name";
 
-void CompareMode(const TestWindow& window, Mode mode)
+void CompareMode(const TestWindow& window, const char* mode)
 {
-    const QMap<Mode, QString> captions{
-        {Mode::View, "Currently selected user"}, {Mode::Add, "New users name"}, {Mode::Edit, "Updated users name"}};
-    QCOMPARE(window.TextOf("F11label2"), captions[mode]);
+    QCOMPARE(window.TextOf("F11label2"), QString(mode));
     for (const char* box : {"F11seluser", "F11spend"})
-        QCOMPARE(window.Find<QLineEdit>(box)->isReadOnly(), mode == Mode::View);
+        QCOMPARE(window.Find<QLineEdit>(box)->isReadOnly(), mode == View);
     QVERIFY(window.Find<QLineEdit>("F11entrycount")->isReadOnly());
-    QCOMPARE(window.IsShown("F11entrycount"), mode != Mode::Add);
-    QCOMPARE(window.IsShown("F11label4"), mode != Mode::Add);
-    QCOMPARE(window.IsShown("F11storenu"), mode == Mode::Add);
-    QCOMPARE(window.IsShown("F11storech"), mode == Mode::Edit);
+    QCOMPARE(window.IsShown("F11entrycount"), mode != Add);
+    QCOMPARE(window.IsShown("F11label4"), mode != Add);
+    QCOMPARE(window.IsShown("F11storenu"), mode == Add);
+    QCOMPARE(window.IsShown("F11storech"), mode == Edit);
 }
 
 } // namespace
@@ -57,37 +48,28 @@ class UserDetailsPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void OpenPageCountsAndListsTheUsers_data()
-    {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("none") << QStringList{} << "There are currently no users.";
-        QTest::newRow("one") << QStringList{"Ann"} << "There is currently 1 user.";
-        QTest::newRow("three") << QStringList{"Cid", "Ann", "<i>Bob</i> & Co"} << "There are currently  3 users.";
-    }
-
     void OpenPageCountsAndListsTheUsers()
     {
-        QFETCH(QStringList, names);
-        QFETCH(QString, caption);
         TestWindow window;
-        Fill(names, 0);
-        Open(window);
-        QCOMPARE(window.TextOf("F11label1"), caption);
-        const auto* list = window.Find<QListWidget>("F11list");
-        QStringList shown;
-        for (int line = 0; line < list->count(); ++line)
-            shown.append(list->item(line)->text());
-        QCOMPARE(shown, names);
-        CompareMode(window, names.isEmpty() ? Mode::Add : Mode::View);
-        QCOMPARE(window.TextOf("F11seluser"), QString());
+        const QStringList names{"Cid", "Ann", "<i>Bob</i> & Co"};
+        const QStringList captions{"There are currently no users.", "There is currently 1 user.",
+                                   "There are currently  2 users.", "There are currently  3 users."};
+        for (int count = 0; count <= names.size(); ++count) {
+            OpenWith(window, count == 0 ? QStringList() : names.mid(count - 1, 1), 0);
+            QCOMPARE(window.TextOf("F11label1"), captions[count]);
+            const auto* list = window.Find<QListWidget>("F11list");
+            QCOMPARE(list->count(), count);
+            for (int line = 0; line < count; ++line)
+                QCOMPARE(list->item(line)->text(), names[line]);
+            CompareMode(window, count == 0 ? Add : View);
+            QCOMPARE(window.TextOf("F11seluser"), QString());
+        }
     }
 
     void ListClickShowsTheUser()
     {
         TestWindow window;
-        Fill({"Ann", "Bob"}, 3);
-        Open(window);
+        OpenWith(window, {"Ann", "Bob"}, 3);
         Select(window, 0);
         QCOMPARE(window.TextOf("F11seluser"), QString("Ann"));
         QCOMPARE(window.TextOf("F11spend"), QString("10"));
@@ -96,49 +78,40 @@ private Q_SLOTS:
         QCOMPARE(window.TextOf("F11seluser"), QString("Bob"));
         QCOMPARE(window.TextOf("F11entrycount"), QString("0"));
         window.Click("F11adduser");
-        CompareMode(window, Mode::Add);
+        CompareMode(window, Add);
         QCOMPARE(window.FocusedName(), QString("F11seluser"));
         window.Type("F11seluser", "half a na");
+        window.Click("F11edituser");
+        CompareMode(window, Edit);
+        QCOMPARE(window.TextOf("F11seluser"), QString("Bob"));
+        window.Type("F11seluser", "half a na");
         Select(window, 1);
-        CompareMode(window, Mode::View);
+        CompareMode(window, View);
         QCOMPARE(window.TextOf("F11seluser"), QString("Bob"));
     }
 
     void UsersAreAddedByKeyboard()
     {
         TestWindow window;
-        Open(window);
-        window.Type("F11seluser", "Ann");
-        window.PressFocused(Qt::Key_Return);
-        QCOMPARE(window.FocusedName(), QString("F11spend"));
-        QTest::keyClicks(QApplication::focusWidget(), "10 lines");
-        window.PressFocused(Qt::Key_Return);
+        OpenWith(window, {}, 0);
+        window.TypeInTurn("F11seluser", {"Ann", "10 lines"});
         QCOMPARE(window.FocusedName(), QString("F11storenu"));
         window.PressFocused(Qt::Key_Return);
-        CompareMode(window, Mode::View);
+        CompareMode(window, View);
         QCOMPARE(window.TextOf("F11label1"), QString("There is currently 1 user."));
         window.Click("F11adduser");
-        window.Click("F11storenu");
-        QCOMPARE(TestFolder::StoredRows("users"), (QStringList{"1,Ann,10", "2,,0"}));
-        QVERIFY(window.modals.AllCame());
-    }
-
-    void DuplicateNameIsRefusedAndTheTypingStays()
-    {
-        TestWindow window;
-        Fill({"Ann"}, 0);
-        Open(window);
-        window.Click("F11adduser");
         window.Type("F11seluser", "Ann");
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F11storenu");
-        QCOMPARE(window.modals.TakeTexts(),
+        QCOMPARE(window.Click("F11storenu", {QMessageBox::Ok}),
                  QStringList{"There is already a user with this name.\r\nTry another name and try again."});
-        CompareMode(window, Mode::Add);
+        CompareMode(window, Add);
         QCOMPARE(window.TextOf("F11seluser"), QString("Ann"));
-        window.Type("F11seluser", "ann");
-        window.Click("F11storenu");
-        QCOMPARE(TestFolder::StoredRows("users").size(), 2);
+        for (const QString& name : {QString("ann"), QString(), QString("Cid")}) {
+            window.Click("F11adduser");
+            window.Type("F11seluser", name);
+            window.Click("F11storenu");
+        }
+        QCOMPARE(TestFolder::StoredRows("users"), (QStringList{"1,Ann,10", "2,ann,0", "3,,0", "4,Cid,0"}));
+        QVERIFY(window.modals.AllCame());
     }
 
     void ChangesAreCheckedAndStored_data()
@@ -147,32 +120,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("limit");
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("stored");
+        const auto row = [](const char* given, const QString& name, const QString& limit, const QString& message,
+                            const QString& stored) { QTest::newRow(given) << name << limit << message << stored; };
         const QString tooLow = "This user already has more entries than you have specified as the maximum.\r\n"
                                "Change the maximum limit or delete some entries, then retry.";
-        QTest::newRow("a limit equal to the entry count") << "Ann"
-                                                          << "3"
-                                                          << ""
-                                                          << "1,Ann,3";
-        QTest::newRow("a limit one below it") << "Ann"
-                                              << "2" << tooLow << "1,Ann,10";
-        QTest::newRow("no limit") << "Ann"
-                                  << "" << tooLow << "1,Ann,10";
-        QTest::newRow("a name in another case") << "ann"
-                                                << "10"
-                                                << ""
-                                                << "1,ann,10";
-        QTest::newRow("an empty name") << ""
-                                       << "10"
-                                       << "Invalid user name, please retry."
-                                       << "1,Ann,10";
-        QTest::newRow("another user's name") << "Bob"
-                                             << "10"
-                                             << "This user name has already been used, please retry"
-                                             << "1,Ann,10";
-        QTest::newRow("a limit with a fraction") << "Ann"
-                                                 << "3.5"
-                                                 << ""
-                                                 << "1,Ann,3.5";
+        row("a limit equal to the entry count", "Ann", "3", {}, "1,Ann,3");
+        row("a limit one below it", "Ann", "2", tooLow, "1,Ann,10");
+        row("no limit", "Ann", {}, tooLow, "1,Ann,10");
+        row("a limit with a fraction", "Ann", "3.5", {}, "1,Ann,3.5");
+        row("a name in another case", "ann", "10", {}, "1,ann,10");
+        row("an empty name", {}, "10", "Invalid user name, please retry.", "1,Ann,10");
+        row("another user's name", "Bob", "10", "This user name has already been used, please retry", "1,Ann,10");
     }
 
     void ChangesAreCheckedAndStored()
@@ -182,61 +140,56 @@ private Q_SLOTS:
         QFETCH(QString, message);
         QFETCH(QString, stored);
         TestWindow window;
-        Fill({"Ann", "Bob"}, 3);
-        Open(window);
+        OpenWith(window, {"Ann", "Bob"}, 3);
         Select(window, 0);
         window.Click("F11edituser");
-        CompareMode(window, Mode::Edit);
+        CompareMode(window, Edit);
         QCOMPARE(window.FocusedName(), QString("F11seluser"));
-        window.Type("F11seluser", name);
-        window.PressFocused(Qt::Key_Return);
-        window.Type("F11spend", limit);
-        window.PressFocused(Qt::Key_Return);
+        window.Type("F11spend", {});
+        window.TypeInTurn("F11seluser", {name, limit});
         QCOMPARE(window.FocusedName(), QString("F11storech"));
-        if (!message.isEmpty())
-            window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F11storech");
-        QCOMPARE(window.modals.TakeTexts(), message.isEmpty() ? QStringList() : QStringList{message});
-        CompareMode(window, message.isEmpty() ? Mode::View : Mode::Edit);
+        if (message.isEmpty())
+            window.Click("F11storech");
+        else
+            QCOMPARE(window.Click("F11storech", {QMessageBox::Ok}), QStringList{message});
+        CompareMode(window, message.isEmpty() ? View : Edit);
         QCOMPARE(TestFolder::StoredRows("users"), (QStringList{stored, "2,Bob,10"}));
     }
 
+    /// Passing the list with the Tab key chooses nobody.
     void NothingSelectedIsTold()
     {
         TestWindow window;
-        Fill({"Ann"}, 0);
-        Open(window);
-        for (const char* button : {"F11edituser", "F11deleteuser"}) {
-            window.modals.WillPress(QMessageBox::Ok);
-            window.Click(button);
-            QCOMPARE(window.modals.TakeTexts(), QStringList{"Select a user first."});
-        }
-        CompareMode(window, Mode::View);
+        OpenWith(window, {"Ann", "Bob"}, 0);
+        for (const char* button : {"F11edituser", "F11deleteuser"})
+            QCOMPARE(window.Click(button, {QMessageBox::Ok}), QStringList{"Select a user first."});
         window.Press("F11spend", Qt::Key_Return);
-        CompareMode(window, Mode::View);
+        CompareMode(window, View);
+        window.Click("F11adduser");
+        window.Type("F11seluser", "Cid");
+        window.Press("F11seluser", Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(window.FocusedName(), QString("F11list"));
+        CompareMode(window, Add);
+        QCOMPARE(window.TextOf("F11seluser"), QString("Cid"));
+        QCOMPARE(window.Click("F11deleteuser", {QMessageBox::Ok}), QStringList{"Select a user first."});
     }
 
     void DeletionTakesTheUserAndItsEntriesOnly()
     {
         TestWindow window;
-        Fill({"Ann", "Bob"}, 3);
-        AddEntry(entries, {4, 2, 1, {1, 2, 3, 4, 5, 6}, {}});
-        Open(window);
+        AddEntry(entries, {9, 2, 1, {1, 2, 3, 4, 5, 6}, {}});
+        OpenWith(window, {"Ann", "Bob"}, 3);
         Select(window, 0);
-        window.modals.WillPress(QMessageBox::No);
-        window.Click("F11deleteuser");
-        QCOMPARE(window.modals.TakeTexts(),
+        QCOMPARE(window.Click("F11deleteuser", {QMessageBox::No}),
                  QStringList{"Are you sure you want to delete this user\r\nand all entries stored with it?"});
         QCOMPARE(TestFolder::StoredRows("entries").size(), 4);
         // A refused change in between must not lead the deletion to another user.
         window.Click("F11edituser");
         window.Type("F11seluser", "Bob");
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F11storech");
-        window.modals.WillPress(QMessageBox::Yes);
-        window.Click("F11deleteuser");
+        window.Click("F11storech", {QMessageBox::Ok});
+        window.Click("F11deleteuser", {QMessageBox::Yes});
         QCOMPARE(TestFolder::StoredRows("users"), QStringList{"2,Bob,10"});
-        QCOMPARE(TestFolder::StoredRows("entries"), QStringList{"4,2,1,1,2,3,4,5,6,0,0,0,0,0,0,0"});
+        QCOMPARE(TestFolder::StoredRows("entries"), QStringList{"9,2,1,1,2,3,4,5,6,0,0,0,0,0,0,0"});
         QCOMPARE(window.TextOf("F11label1"), QString("There is currently 1 user."));
     }
 
@@ -244,8 +197,7 @@ private Q_SLOTS:
     void UserGoneInAnotherCopyIsNotMistakenForAnother()
     {
         TestWindow window;
-        Fill({"Ann", "Bob"}, 3);
-        Open(window);
+        OpenWith(window, {"Ann", "Bob"}, 3);
         Select(window, 0);
         InAnotherCopy(UserDataPath, {}, UsersTable(), [](RecordSet& table) {
             table.MoveLast();
@@ -257,41 +209,8 @@ private Q_SLOTS:
         QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be shown, because another copy"));
         QCOMPARE(window.Find<QListWidget>("F11list")->count(), 1);
         QCOMPARE(window.TextOf("F11seluser"), QString());
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F11deleteuser");
-        QCOMPARE(window.modals.TakeTexts(), QStringList{"Select a user first."});
+        QCOMPARE(window.Click("F11deleteuser", {QMessageBox::Ok}), QStringList{"Select a user first."});
         QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Ann,10"});
-    }
-
-    /// Passing the list with the Tab key chooses nobody.
-    void FocusAloneChoosesNoUser()
-    {
-        TestWindow window;
-        Fill({"Ann", "Bob"}, 0);
-        Open(window);
-        window.Click("F11adduser");
-        window.Type("F11seluser", "Cid");
-        window.Press("F11seluser", Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(window.FocusedName(), QString("F11list"));
-        CompareMode(window, Mode::Add);
-        QCOMPARE(window.TextOf("F11seluser"), QString("Cid"));
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F11deleteuser");
-        QCOMPARE(window.modals.TakeTexts(), QStringList{"Select a user first."});
-    }
-
-    void LastNumberIsGivenAgain()
-    {
-        TestWindow window;
-        Fill({"Ann", "Bob", "Cid"}, 0);
-        Open(window);
-        Select(window, 2);
-        window.modals.WillPress(QMessageBox::Yes);
-        window.Click("F11deleteuser");
-        window.Click("F11adduser");
-        window.Type("F11seluser", "Dora");
-        window.Click("F11storenu");
-        QCOMPARE(TestFolder::StoredRows("users").last(), QString("3,Dora,0"));
     }
 };
 
