@@ -187,6 +187,14 @@ void TestWindow::Click(const QString& name)
     Settle();
 }
 
+QStringList TestWindow::Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers)
+{
+    for (const auto answer : answers)
+        modals.WillPress(answer);
+    Click(name);
+    return modals.TakeTexts();
+}
+
 void TestWindow::Type(const QString& name, const QString& text)
 {
     auto* edit = Find<QLineEdit>(name);

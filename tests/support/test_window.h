@@ -105,6 +105,8 @@ public:
     QString TextOf(const QString& name) const;
     bool IsShown(const QString& name) const { return Find(name)->isVisible(); }
     void Click(const QString& name);
+    /// Clicks a control and answers the message boxes that follow, in order; what they said comes back.
+    QStringList Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers);
     /// Clicks into a text field, replaces its text by typing, and leaves it alone.
     void Type(const QString& name, const QString& text);
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
