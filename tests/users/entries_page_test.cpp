@@ -258,6 +258,11 @@ private Q_SLOTS:
         QCOMPARE(window.Click("F13view", {QMessageBox::Ok}), gone);
         window.Click("F19back");
         QCOMPARE(window.Click("F13edit", {QMessageBox::Ok}), gone);
+        // The editor that has not shown an entry yet can be typed in and left.
+        window.Type("F20num_1", "12");
+        window.Press("F20num_1", Qt::Key_Tab);
+        QCOMPARE(window.ColourOf("F20num_1", QPalette::Base), QColor("#80FFFF"));
+        QCOMPARE(window.ColourOf("F20num_3", QPalette::Base), QColor("#404040"));
         window.Click("F20back", {QMessageBox::No});
         window.Edit(false, 0);
         deleteNumber(EntriesTable(), 2);
