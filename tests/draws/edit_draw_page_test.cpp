@@ -130,7 +130,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::addColumn<QColor>("colour");
         const QColor navy("#000080");
-        QTest::newRow("50 F16number_1 Tab") << "Ball values must be between 1 and 49" << QColor("#404040");
+        QTest::newRow("50 F16number_1 Esc") << "Ball values must be between 1 and 49" << QColor("#404040");
         QTest::newRow("35 F17number_5 Tab") << "Balls must be between 1 and 34" << navy;
         QTest::newRow("0.5 F17number_0 Tab") << "Thunderball must be between 1 and 14" << QColor("#FF0000");
         QTest::newRow(" F17number_2 Tab") << QString() << navy;
