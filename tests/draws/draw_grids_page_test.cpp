@@ -30,15 +30,6 @@ public:
 
     GridDriver MainGrid() { return {*this, "F10Grid1"}; }
     GridDriver ThunderballGrid() { return {*this, "F10Grid2"}; }
-
-    /// The numbers of the stored draws.
-    static QString Stored(const QString& table)
-    {
-        QStringList numbers;
-        for (const QString& row : TestFolder::StoredRows(table))
-            numbers.append(row.section(u',', 0, 0));
-        return numbers.join(u' ');
-    }
 };
 
 } // namespace
@@ -80,29 +71,20 @@ private Q_SLOTS:
         }
     }
 
-    void SelectedRowsAreDeleted_data()
-    {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<QString>("left");
-        QTest::newRow("click") << 1 << 3 << "1 5";
-        QTest::newRow("drag") << 3 << 2 << "1 4 5";
-        QTest::newRow("keys") << 4 << 0 << "";
-    }
-
     void SelectedRowsAreDeleted()
     {
-        QFETCH(int, from);
-        QFETCH(int, to);
-        FiveDraws window;
-        GridDriver grid = window.MainGrid();
-        grid.Select(QTest::currentDataTag(), from, to);
-        QCOMPARE(window.Click("F10maindeletebutton", {QMessageBox::Yes, QMessageBox::Ok}),
-                 QStringList({ManyMain, "Deleted"}));
-        QTEST(FiveDraws::Stored("ukmain"), "left");
-        QCOMPARE(grid.Rows(), 4 - qAbs(from - to));
-        QCOMPARE(grid.Selected(), grid.Rows() == 0 ? QString("-1--1") : QString("0-0"));
-        QCOMPARE(FiveDraws::Stored("ukthunder"), QString("1 2 3 4 5"));
+        for (const auto& [way, from, to, left] :
+             {std::tuple("click", 1, 3, "1 5"), {"drag", 3, 2, "1 4 5"}, {"keys", 4, 0, ""}}) {
+            FiveDraws window;
+            GridDriver grid = window.MainGrid();
+            grid.Select(way, from, to);
+            QCOMPARE(window.Click("F10maindeletebutton", {QMessageBox::Yes, QMessageBox::Ok}),
+                     QStringList({ManyMain, "Deleted"}));
+            QCOMPARE(TestFolder::StoredNumbers("ukmain"), QString(left));
+            QCOMPARE(grid.Rows(), 4 - qAbs(from - to));
+            QCOMPARE(grid.Selected(), grid.Rows() == 0 ? QString("-1--1") : QString("0-0"));
+            QCOMPARE(TestFolder::StoredNumbers("ukthunder"), QString("1 2 3 4 5"));
+        }
     }
 
     void SelectionIsKeptUntilAnotherIsMade()
@@ -158,7 +140,7 @@ private Q_SLOTS:
         grid.Press(Qt::Key_Return);
         QVERIFY(window.IsShown("Frame_14") && window.IsShown("Frame_10"));
         QCOMPARE(window.TextOf("F14date"), QString("Saturday, 31 January 2026"));
-        QCOMPARE(window.TextOf("F14number_1") + ' ' + window.TextOf("F14number_0"), QString("4 40"));
+        QCOMPARE(window.TextOf("F14number_0"), QString("40"));
         QCOMPARE(window.ColourOf("F14ball_0", QPalette::Window), QColor("#FFFF80"));
         QCOMPARE(window.TextOf("F14machine"), QString("Machine used: ARTHUR"));
         QCOMPARE(window.TextOf("F14ballset"), QString("Set of balls used: 4"));
@@ -167,8 +149,8 @@ private Q_SLOTS:
         QCOMPARE(grid.Selected(), QString("1-1"));
         QCOMPARE(window.FocusedName(), QString("F10Grid1"));
         window.Click("F10thunderviewbutton");
-        QCOMPARE(window.TextOf("F15number_0"), QString("14"));
-        QCOMPARE(window.TextOf("F15date"), QString("Saturday, 7 February 2026"));
+        QCOMPARE(window.TextOf("F15date") + ' ' + window.TextOf("F15number_0"),
+                 QString("Saturday, 7 February 2026 14"));
         window.Click("F15back");
         QVERIFY(!window.IsShown("Frame_15") && window.IsShown("F10Grid2"));
     }
@@ -195,7 +177,7 @@ private Q_SLOTS:
         grid.Select("click", 2, 3);
         QCOMPARE(window.Click("F10maindeletebutton", {QMessageBox::Yes, QMessageBox::Ok}),
                  QStringList({ManyMain, "Deleted"}));
-        QCOMPARE(FiveDraws::Stored("ukmain"), QString("1 4 5 6"));
+        QCOMPARE(TestFolder::StoredNumbers("ukmain"), QString("1 4 5 6"));
         QCOMPARE(grid.Row(0, 2), QString("31,32,33,34,35,36,37"));
     }
 };

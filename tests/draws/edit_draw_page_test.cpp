@@ -2,7 +2,6 @@
 #include "support/stored_draws.h"
 
 #include <QComboBox>
-#include <QKeySequence>
 
 namespace {
 
@@ -124,32 +123,24 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("ukmain").value(0), MainRow);
     }
 
-    void RefusedFieldIsToldEmptiedAndFocused_data()
-    {
-        // A row is named by what is typed into which field and the key that leaves it.
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QColor>("colour");
-        const QColor navy("#000080");
-        QTest::newRow("50 F16number_1 Esc") << "Ball values must be between 1 and 49" << QColor("#404040");
-        QTest::newRow("35 F17number_5 Tab") << "Balls must be between 1 and 34" << navy;
-        QTest::newRow("0.5 F17number_0 Tab") << "Thunderball must be between 1 and 14" << QColor("#FF0000");
-        QTest::newRow(" F17number_2 Tab") << QString() << navy;
-    }
-
     void RefusedFieldIsToldEmptiedAndFocused()
     {
-        QFETCH(QString, message);
-        const QStringList steps = QString(QTest::currentDataTag()).split(u' ');
-        const QString field = steps[1];
-        EditedDraw window(field.startsWith("F16") ? MainGame : ThunderballGame);
-        window.Type(field, steps[0]);
-        if (!message.isEmpty())
+        for (const auto& [game, slot, typed, leave, message, colour] :
+             {std::tuple(&MainGame, "1", "50", Qt::Key_Escape, "Ball values must be between 1 and 49", "#404040"),
+              {&ThunderballGame, "5", "35", Qt::Key_Tab, "Balls must be between 1 and 34", "#000080"},
+              {&ThunderballGame, "0", "0.5", Qt::Key_Tab, "Thunderball must be between 1 and 14", "#FF0000"}}) {
+            EditedDraw window(*game);
+            const QString field = window.prefix + "number_" + slot;
+            window.Type(field, typed);
             window.modals.WillPress(QMessageBox::Ok);
-        window.Press(field, QKeySequence(steps[2])[0].key());
-        QCOMPARE(window.modals.TakeTexts().join(u' '), message);
-        QCOMPARE(window.TextOf(field), QString());
-        QCOMPARE(window.FocusedName() == field, !message.isEmpty());
-        QTEST(window.ColourOf(QString(field).replace("number", "ball"), QPalette::Window), "colour");
+            window.Press(field, leave);
+            QCOMPARE(window.modals.TakeTexts(), QStringList{message});
+            // The emptied field is left without a word.
+            QCOMPARE(window.TextOf(field) + window.FocusedName(), field);
+            window.PressFocused(Qt::Key_Tab);
+            QVERIFY(window.modals.AllCame());
+            QCOMPARE(window.ColourOf(window.prefix + "ball_" + slot, QPalette::Window), QColor(colour));
+        }
     }
 };
 

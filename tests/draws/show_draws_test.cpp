@@ -66,37 +66,27 @@ private Q_SLOTS:
             QCOMPARE(window.ColourOf(QString("F8Mball_%1").arg(index), QPalette::Window), QColor(bands[index]));
     }
 
-    void BrowserStepsThroughTheDrawsOfADate_data()
-    {
-        // A row is named by the clicks; before and after each of them this is seen.
-        QTest::addColumn<int>("draws");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("no draw") << 0 << "-";
-        QTest::newRow("one draw") << 1 << "1";
-        QTest::newRow("><") << 2 << "1> 2< 1>";
-        QTest::newRow(">><<") << 3 << "1> 2<> 3< 2<> 1>";
-    }
-
     void BrowserStepsThroughTheDrawsOfADate()
     {
-        QFETCH(int, draws);
         // The first ball is the number of the draw; neighbours in the list carry other dates.
-        for (const Game* game : {&MainGame, &ThunderballGame}) {
-            TestWindow window;
-            for (int ball = 1; ball <= draws; ++ball)
-                StoreDraws(*game, {QString("2026-11-21,%1,11,12,13,14,10,16,,").arg(ball)});
-            StoreDraws(*game, {"2026-11-20,30,31,32,33,34,10,12,,", "2026-11-22,30,31,32,33,34,10,12,,"});
-            window.Window().ChooseMenu(2, 2);
-            ChooseDate(window, Saturday);
-            const QString letter = game->name.left(1);
-            QStringList seen{State(window, letter)};
-            for (const char* click = QTest::currentDataTag(); draws > 1 && *click != '\0'; ++click) {
-                window.Click("F9" + letter + (*click == '>' ? "forward" : "back"));
-                seen.append(State(window, letter));
+        for (const auto& [draws, clicks, expected] :
+             {std::tuple(0, "", "-"), {1, "", "1"}, {2, "><", "1> 2< 1>"}, {3, ">><<", "1> 2<> 3< 2<> 1>"}})
+            for (const Game* game : {&MainGame, &ThunderballGame}) {
+                TestWindow window;
+                for (int ball = 1; ball <= draws; ++ball)
+                    StoreDraws(*game, {QString("2026-11-21,%1,11,12,13,14,10,16,,").arg(ball)});
+                StoreDraws(*game, {"2026-11-20,30,31,32,33,34,10,12,,", "2026-11-22,30,31,32,33,34,10,12,,"});
+                window.Window().ChooseMenu(2, 2);
+                ChooseDate(window, Saturday);
+                const QString letter = game->name.left(1);
+                QStringList seen{State(window, letter)};
+                for (const char* click = clicks; *click != '\0'; ++click) {
+                    window.Click("F9" + letter + (*click == '>' ? "forward" : "back"));
+                    seen.append(State(window, letter));
+                }
+                QCOMPARE(seen.join(u' '), QString(expected));
+                QCOMPARE(window.IsShown("F9" + letter + "nodraw"), draws == 0);
             }
-            QTEST(seen.join(u' '), "expected");
-            QCOMPARE(window.IsShown("F9" + letter + "nodraw"), draws == 0);
-        }
     }
 
     void BrowserShowsEachGameByItself()
@@ -146,9 +136,6 @@ private Q_SLOTS:
         QCOMPARE(GridDriver(window, "F10Grid1").Row(0), QString("soon,,77,0,0,0,0,0,0"));
         window.Click("F10mainviewbutton");
         QCOMPARE(window.TextOf("F14date"), QString("soon"));
-        window.Click("F14back");
-        window.Click("F10maineditbutton");
-        QCOMPARE(window.TextOf("F16number_1"), QString("77"));
         QCOMPARE(window.Window().width(), 1024);
         QVERIFY(window.modals.AllCame());
     }

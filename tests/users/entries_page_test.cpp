@@ -41,22 +41,6 @@ public:
         Grid().Click(row);
         Click("F13edit");
     }
-
-    /// The fields of a stored entry behind its number.
-    static QString StoredEntry(int number)
-    {
-        for (const QString& row : TestFolder::StoredRows("entries"))
-            if (row.section(u',', 0, 0) == QString::number(number))
-                return row.section(u',', 1);
-        return {};
-    }
-    static QString StoredNumbers()
-    {
-        QStringList numbers;
-        for (const QString& row : TestFolder::StoredRows("entries"))
-            numbers.append(row.section(u',', 0, 0));
-        return numbers.join(u' ');
-    }
 };
 
 } // namespace
@@ -115,7 +99,7 @@ private Q_SLOTS:
         window.modals.WillPress(QMessageBox::Yes);
         grid.Press(Qt::Key_Delete);
         QCOMPARE(window.modals.TakeTexts(), QStringList{"Are you sure you want to\r\ndelete these entries?"});
-        QCOMPARE(Entries::StoredNumbers(), QString("1 5 6 7"));
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1 5 6 7"));
         QCOMPARE(grid.Rows(), 2);
         QCOMPARE(grid.Row(1), QString("7,2,7,15,22,38,41,49"));
         QCOMPARE(window.Click("F13delete", {QMessageBox::No, QMessageBox::Ok}),
@@ -131,12 +115,11 @@ private Q_SLOTS:
         grid.Press(Qt::Key_Return);
         QCOMPARE(window.TextOf("F19user") + ' ' + window.TextOf("F19type"), QString("Ann Main"));
         QVERIFY(!window.IsShown("F19thunderlabel"));
-        const QStringList numbers{"3", "15", "22", "38", "41", "49"};
-        const QStringList colours{"#FFFFFF", "#80FFFF", "#FF8080", "#80FF80", "#FFFF80", "#FFFF80"};
-        for (int ball = 1; ball <= 6; ++ball) {
-            QCOMPARE(window.TextOf(QString("F19num_%1").arg(ball)), numbers[ball - 1]);
-            QCOMPARE(window.ColourOf(QString("F19ball_%1").arg(ball), QPalette::Window), QColor(colours[ball - 1]));
-        }
+        QString shown;
+        for (int ball = 1; ball <= 6; ++ball)
+            shown += window.TextOf(QString("F19num_%1").arg(ball)) +
+                     window.ColourOf(QString("F19ball_%1").arg(ball), QPalette::Window).name() + ' ';
+        QCOMPARE(shown, QString("3#ffffff 15#80ffff 22#ff8080 38#80ff80 41#ffff80 49#ffff80 "));
         for (int day = 0; day < 7; ++day)
             QCOMPARE(window.ColourOf(QString("F19day_%1").arg(day), QPalette::WindowText),
                      day == 0 || day == 6 ? QColor("#000000") : QColor("#808080"));
@@ -164,7 +147,7 @@ private Q_SLOTS:
         window.Click("F20day_0");
         window.Click("F20day_2");
         QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});
-        QCOMPARE(Entries::StoredEntry(1), QString("1,1,3,22,38,40,41,49,0,0,-1,0,0,0,-1"));
+        QCOMPARE(TestFolder::StoredRows("entries").value(0), QString("1,1,1,3,22,38,40,41,49,0,0,-1,0,0,0,-1"));
         QCOMPARE(window.Grid().Row(0), QString("1,1,3,22,38,40,41,49"));
         QVERIFY(!window.IsShown("Frame_20") && window.IsShown("Frame_13"));
     }
@@ -181,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(window.FocusedName(), QString("F20store"));
         QCOMPARE(window.ColourOf("F20ball_6", QPalette::Window), QColor("#FF0000"));
         QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});
-        QCOMPARE(Entries::StoredEntry(6), QString("1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1"));
+        QCOMPARE(TestFolder::StoredRows("entries").value(5), QString("6,1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1"));
         QCOMPARE(window.Grid().Rows(), 1);
         QVERIFY(window.Find<QRadioButton>("F13typethunder")->isChecked());
     }
@@ -193,8 +176,8 @@ private Q_SLOTS:
         for (const auto& [thunderball, number, balls] :
              {std::tuple(false, "49", "balls"), {true, "34", "main balls"}, {false, "", "balls"}}) {
             window.Edit(thunderball, 0);
-            window.Type("F20num_1", number);
-            window.Type("F20num_2", number);
+            for (const char* box : {"F20num_1", "F20num_2"})
+                window.Type(box, number);
             QCOMPARE(window.Click("F20store", {QMessageBox::Ok}),
                      QStringList{QString("Two or more %1 have the same value,\r\nplease retry.").arg(balls)});
             window.Click("F20back", {QMessageBox::No});
@@ -202,27 +185,21 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("entries"), before);
     }
 
-    void RefusedNumberIsToldEmptiedAndFocused_data()
-    {
-        // A row is named by the number and the box it is typed into.
-        QTest::addColumn<QString>("message");
-        QTest::newRow("50 F20num_6 Main") << "Ball values must be between 1 and 49";
-        QTest::newRow("35 F20num_2 Thunderball") << "Main ball values must be between 1 and 34";
-        QTest::newRow("0.5 F20num_6 Thunderball") << "Main ball values must be between 1 and 14";
-    }
-
     void RefusedNumberIsToldEmptiedAndFocused()
     {
-        const QStringList words = QString(QTest::currentDataTag()).split(u' ');
-        Entries window;
-        window.Edit(words[2] == "Thunderball", 0);
-        window.Type(words[1], words[0]);
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Press(words[1], Qt::Key_Tab);
-        QTEST(window.modals.TakeTexts().join(u' '), "message");
-        QCOMPARE(window.TextOf(words[1]), QString());
-        QCOMPARE(window.FocusedName(), words[1]);
-        QCOMPARE(window.ColourOf(words[1], QPalette::Base), QColor("#404040"));
+        for (const auto& [thunderball, box, typed, message] :
+             {std::tuple(false, "F20num_6", "50", "Ball values must be between 1 and 49"),
+              {true, "F20num_2", "35", "Main ball values must be between 1 and 34"},
+              {true, "F20num_6", "0.5", "Main ball values must be between 1 and 14"}}) {
+            Entries window;
+            window.Edit(thunderball, 0);
+            window.Type(box, typed);
+            window.modals.WillPress(QMessageBox::Ok);
+            window.Press(box, Qt::Key_Tab);
+            QCOMPARE(window.modals.TakeTexts(), QStringList{message});
+            QCOMPARE(window.TextOf(box) + window.FocusedName(), QString(box));
+            QCOMPARE(window.ColourOf(box, QPalette::Base), QColor("#404040"));
+        }
     }
 
     void BackAsksWhetherToSave()
@@ -236,12 +213,12 @@ private Q_SLOTS:
         QVERIFY(window.IsShown("Frame_20"));
         QCOMPARE(window.Click("F20back", {QMessageBox::No}), QStringList{question});
         QVERIFY(!window.IsShown("Frame_20"));
-        QCOMPARE(Entries::StoredEntry(4).section(u',', 2, 7), QString("4,15,22,38,41,49"));
+        QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("4,15,22,38,41,49"));
         window.Edit(false, 3);
         window.Type("F20num_6", "");
         QCOMPARE(window.Click("F20back", {QMessageBox::Yes, QMessageBox::Ok}), QStringList({question, Stored}));
         QVERIFY(!window.IsShown("Frame_20"));
-        QCOMPARE(Entries::StoredEntry(4).section(u',', 2, 7), QString("0,4,15,22,38,41"));
+        QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("0,4,15,22,38,41"));
     }
 
     void WhatAnotherCopyHasDeletedIsNotTouched()
@@ -270,7 +247,7 @@ private Q_SLOTS:
                     .value(0)
                     .startsWith("The changes could not be stored, because another copy"));
         QVERIFY(window.IsShown("Frame_20"));
-        QCOMPARE(Entries::StoredNumbers(), QString("3 4 5 6 7"));
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("3 4 5 6 7"));
         window.Click("F20back", {QMessageBox::No});
         // The entries of the user chosen before do not stand in for those of one that is gone.
         deleteNumber(UsersTable(), 2);
