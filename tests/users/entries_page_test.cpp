@@ -130,6 +130,7 @@ private Q_SLOTS:
         window.Click("F13view");
         QCOMPARE(window.TextOf("F19type"), QString("Thunderball"));
         QVERIFY(window.IsShown("F19thunderlabel"));
+        QCOMPARE(window.Find("F19num_6")->accessibleName(), QString("Thunderball 14"));
         QCOMPARE(window.ColourOf("F19ball_5", QPalette::Window), QColor("#000080"));
         QCOMPARE(window.ColourOf("F19ball_6", QPalette::Window), QColor("#FF0000"));
     }
@@ -176,8 +177,10 @@ private Q_SLOTS:
         for (const auto& [thunderball, number, balls] :
              {std::tuple(false, "49", "balls"), {true, "34", "main balls"}, {false, "", "balls"}}) {
             window.Edit(thunderball, 0);
-            for (const char* box : {"F20num_1", "F20num_2"})
-                window.Type(box, number);
+            window.Type("F20num_1", number);
+            // Two empty boxes are equal too.
+            if (*number == '\0')
+                window.Type("F20num_2", number);
             QCOMPARE(window.Click("F20store", {QMessageBox::Ok}),
                      QStringList{QString("Two or more %1 have the same value,\r\nplease retry.").arg(balls)});
             window.Click("F20back", {QMessageBox::No});
