@@ -1,14 +1,14 @@
 #include "draws/ball_row.h"
 
 #include "draws/ball_colours.h"
+#include "draws/game.h"
 #include "platform/numbers.h"
 #include "platform/page_frame.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-BallRow::BallRow(const BallFields::Names& names, const QStringList& ballCaptions, QWidget* parent)
-    : QWidget(parent), captions(ballCaptions)
+BallRow::BallRow(const BallFields::Names& names, const QStringList& captions, QWidget* parent) : QWidget(parent)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -40,7 +40,7 @@ void BallRow::Show(const Game& game, std::span<const double> numbers)
         const BallColours colours = ColoursOfBall(game, static_cast<int>(slot), numbers[slot]);
         const QString text = PlainNumber(numbers[slot]);
         balls[slot].Show(text, QColor::fromRgb(colours.ball), QColor::fromRgb(colours.number));
-        balls[slot].number->setAccessibleName(captions[static_cast<int>(slot)] + u' ' + text);
+        balls[slot].number->setAccessibleName(game.BallCaption(static_cast<int>(slot)) + u' ' + text);
     }
 }
 

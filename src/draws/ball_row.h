@@ -14,7 +14,7 @@ class BallRow : public QWidget
 
 public:
     /// `names` are those of the labels, discs and captions; without a name for the captions there are none.
-    BallRow(const BallFields::Names& names, const QStringList& ballCaptions, QWidget* parent = nullptr);
+    BallRow(const BallFields::Names& names, const QStringList& captions, QWidget* parent = nullptr);
 
     /// Shows the numbers, in slot order, in the colours of the game.
     void Show(const Game& game, std::span<const double> numbers);
@@ -26,7 +26,6 @@ public:
     void SetLastApart(bool apart) { gap->setVisible(apart); }
 
 private:
-    QStringList captions;
     std::vector<LabelledBall> balls;
     std::vector<QLabel*> captionLabels;
     QWidget* gap = nullptr;

@@ -2,6 +2,7 @@
 
 #include "platform/style.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QTimer>
@@ -113,9 +114,10 @@ void PageFrame::keyPressEvent(QKeyEvent* event)
         return;
     }
     // As with the mouse, a field is left and checked before the button is pressed; one that is refused keeps the focus.
+    // Its message box is open by then, but the focus may still be on its way there.
     back->setFocus();
     QTimer::singleShot(0, back, [button = back] {
-        if (button->hasFocus())
+        if (button->hasFocus() && QApplication::activeModalWidget() == nullptr)
             button->click();
     });
 }

@@ -29,6 +29,9 @@ EntryEditPage::EntryEditPage(PageSwitch& pageSwitch)
       F20store(AddFooterDefault(QStringLiteral("Store Changes"), QStringLiteral("F20store")))
 {
     KeepThunderballCaptionOnly(F20num, QStringLiteral("F20thunderlabel"));
+    // The page may come to light without an entry, where another copy has deleted the one that was asked for.
+    F20num->SetRule(EntryEditingRule(MainGame));
+    F20num->Recolour();
     auto* ballCard = new Card;
     ballCard->Content()->addWidget(F20num);
     auto* dayCard = new Card;

@@ -145,6 +145,14 @@ QStringList TestFolder::StoredRows(const QString& table)
     return rows;
 }
 
+QString TestFolder::StoredNumbers(const QString& table)
+{
+    QStringList numbers;
+    for (const QString& row : StoredRows(table))
+        numbers.append(row.section(u',', 0, 0));
+    return numbers.join(u' ');
+}
+
 TestWindow::TestWindow(TestFolder::Content content) : files(content)
 {
     EndProcess = [this] { ended = true; };

@@ -78,6 +78,8 @@ public:
 
     /// Every row of a table, as the file holds it, read by a connection of its own: fields joined by commas.
     static QStringList StoredRows(const QString& table);
+    /// The number, which is the first field, of every row of a table, joined by blanks.
+    static QString StoredNumbers(const QString& table);
 
 private:
     QTemporaryDir folder;

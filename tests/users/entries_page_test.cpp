@@ -10,59 +10,38 @@
 
 namespace {
 
-const QString Gone = QStringLiteral("An unexpected error has occured,\r\nplease try again.");
-const QString Many = QStringLiteral("Are you sure you want to\r\ndelete these entries?");
 const QString Stored = QStringLiteral("The changes have been stored.");
-const QString SaveQuestion = QStringLiteral("Do you want to save the changes to this entry");
 
-/// Stores two users: Ann with five Main entries, each beginning with its number and played on Monday and Sunday, and
-/// one Thunderball entry; Bob with one Main entry. Opens the page, where the entries 1 to 7 are listed for their users.
-void OpenWithEntries(TestWindow& window)
+/// The page with two users: Ann with five Main entries, each beginning with its number and played on Monday and Sunday,
+/// and one Thunderball entry; Bob with one Main entry.
+class Entries : public TestWindow
 {
-    const DaySet days{true, false, false, false, false, false, true};
-    Transaction transaction(UserDb, "The entries of the test could not be stored");
-    AddUser(users, "Ann", 10);
-    AddUser(users, "Bob", 10);
-    for (int number = 1; number <= 4; ++number)
-        AddEntry(entries, {number, 1, 1, {double(number), 15, 22, 38, 41, 49}, days});
-    AddEntry(entries, {5, 2, 1, {1, 2, 3, 4, 5, 6}, days});
-    AddEntry(entries, {6, 1, 2, {3, 15, 22, 30, 34, 14}, days});
-    AddEntry(entries, {7, 1, 1, {7, 15, 22, 38, 41, 49}, days});
-    transaction.Commit();
-    window.Click("Button3");
-    window.Click("Suboption3");
-}
+public:
+    Entries()
+    {
+        const DaySet days{true, false, false, false, false, false, true};
+        Transaction transaction(UserDb, "The entries of the test could not be stored");
+        AddUser(users, "Ann", 10);
+        AddUser(users, "Bob", 10);
+        for (int number = 1; number <= 4; ++number)
+            AddEntry(entries, {number, 1, 1, {double(number), 15, 22, 38, 41, 49}, days});
+        AddEntry(entries, {5, 2, 1, {1, 2, 3, 4, 5, 6}, days});
+        AddEntry(entries, {6, 1, 2, {3, 15, 22, 30, 34, 14}, days});
+        AddEntry(entries, {7, 1, 1, {7, 15, 22, 38, 41, 49}, days});
+        transaction.Commit();
+        Click("Button3");
+        Click("Suboption3");
+    }
 
-QStringList StoredNumbers()
-{
-    QStringList numbers;
-    for (const QString& row : TestFolder::StoredRows("entries"))
-        numbers.append(row.section(u',', 0, 0));
-    return numbers;
-}
+    GridDriver Grid() { return {*this, "F13grid"}; }
 
-QString StoredEntry(int number)
-{
-    for (const QString& row : TestFolder::StoredRows("entries"))
-        if (row.section(u',', 0, 0) == QString::number(number))
-            return row.section(u',', 1);
-    return {};
-}
-
-void Edit(TestWindow& window, bool thunderball, int row)
-{
-    if (thunderball)
-        window.Click("F13typethunder");
-    GridDriver(window, "F13grid").Click(row);
-    window.Click("F13edit");
-}
-
-QStringList Store(TestWindow& window)
-{
-    window.modals.WillPress(QMessageBox::Ok);
-    window.Click("F20store");
-    return window.modals.TakeTexts();
-}
+    void Edit(bool thunderball, int row)
+    {
+        Click(thunderball ? "F13typethunder" : "F13typemain");
+        Grid().Click(row);
+        Click("F13edit");
+    }
+};
 
 } // namespace
 
@@ -83,102 +62,64 @@ private Q_SLOTS:
 
     void ListsTheEntriesOfOneUserAndGame()
     {
-        TestWindow window;
-        OpenWithEntries(window);
-        GridDriver grid(window, "F13grid");
-        QVERIFY(window.Find<QRadioButton>("F13typemain")->isChecked());
+        Entries window;
+        const GridDriver grid = window.Grid();
         QCOMPARE(grid.Rows(), 5);
         QCOMPARE(grid.Row(4), QString("7,5,7,15,22,38,41,49"));
         QCOMPARE(grid.Selected(), QString("0-0"));
-        QVERIFY(grid.view->isColumnHidden(0));
+        QCOMPARE(grid.Headings(1), QString("Entry,Ball 1,Ball 2,Ball 3,Ball 4,Ball 5,Ball 6"));
         const QModelIndex entryCell = grid.view->model()->index(1, 1);
         QCOMPARE(entryCell.data(Qt::BackgroundRole).value<QColor>(), QColor("#5B74D7"));
         QCOMPARE(entryCell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::white));
-        QCOMPARE(grid.view->model()->headerData(1, Qt::Horizontal).toString(), QString("Entry"));
-        QCOMPARE(grid.view->model()->headerData(7, Qt::Horizontal).toString(), QString("Ball 6"));
 
         window.Click("F13typethunder");
         QCOMPARE(grid.Rows(), 1);
         QCOMPARE(grid.Row(0), QString("6,1,3,15,22,30,34,14"));
-        QCOMPARE(grid.view->model()->headerData(7, Qt::Horizontal).toString(), QString("Thunder"));
+        QCOMPARE(grid.Headings(7), QString("Thunder"));
         QVERIFY(grid.view->isColumnHidden(0));
 
-        QTest::keyClick(window.Find("F13user"), Qt::Key_Down);
+        window.Press("F13user", Qt::Key_Down);
         QCOMPARE(window.Find<QComboBox>("F13user")->currentText(), QString("Bob"));
         QVERIFY(!window.IsShown("F13grid") && window.IsShown("F13noentries"));
         QCOMPARE(window.TextOf("F13noentries"), QString("There are no entries of this type, for this user."));
+        QCOMPARE(window.Click("F13view", {QMessageBox::Ok}), QStringList{"There are no entries to view"});
+        QCOMPARE(window.Click("F13edit", {QMessageBox::Ok}), QStringList{"There are no entries to edit"});
+        QCOMPARE(window.Click("F13delete", {}), QStringList());
         window.Click("F13typemain");
         QCOMPARE(grid.Row(0), QString("5,1,1,2,3,4,5,6"));
         QVERIFY(window.IsShown("F13grid") && !window.IsShown("F13noentries"));
     }
 
-    void NothingToActOnIsTold()
-    {
-        TestWindow window;
-        OpenWithEntries(window);
-        QTest::keyClick(window.Find("F13user"), Qt::Key_Down);
-        window.Click("F13typethunder");
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F13view");
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F13edit");
-        window.Click("F13delete");
-        QCOMPARE(window.modals.TakeTexts(),
-                 QStringList({"There are no entries to view", "There are no entries to edit"}));
-        QVERIFY(window.modals.AllCame());
-    }
-
-    void SelectedEntriesAreDeleted_data()
-    {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::newRow("downwards") << "drag" << 1 << 3;
-        QTest::newRow("upwards") << "drag" << 3 << 1;
-        QTest::newRow("Shift with Up") << "keys" << 3 << 1;
-    }
-
     void SelectedEntriesAreDeleted()
     {
-        QFETCH(QString, way);
-        QFETCH(int, from);
-        QFETCH(int, to);
-        TestWindow window;
-        OpenWithEntries(window);
-        GridDriver grid(window, "F13grid");
-        grid.Select(way, from, to);
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F13view");
-        QCOMPARE(window.modals.TakeTexts(), QStringList{"Select only ONE draw."});
+        Entries window;
+        GridDriver grid = window.Grid();
+        grid.Drag(3, 1);
+        QCOMPARE(window.Click("F13view", {QMessageBox::Ok}), QStringList{"Select only ONE draw."});
         window.modals.WillPress(QMessageBox::Yes);
         grid.Press(Qt::Key_Delete);
-        QCOMPARE(window.modals.TakeTexts(), QStringList{Many});
-        QCOMPARE(StoredNumbers(), QStringList({"1", "5", "6", "7"}));
+        QCOMPARE(window.modals.TakeTexts(), QStringList{"Are you sure you want to\r\ndelete these entries?"});
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1 5 6 7"));
         QCOMPARE(grid.Rows(), 2);
         QCOMPARE(grid.Row(1), QString("7,2,7,15,22,38,41,49"));
-        window.modals.WillPress(QMessageBox::No);
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F13delete");
-        QCOMPARE(window.modals.TakeTexts(),
+        QCOMPARE(window.Click("F13delete", {QMessageBox::No, QMessageBox::Ok}),
                  QStringList({"Are you sure you want\r\nto delete this entry?", "Data delete has been aborted."}));
-        QCOMPARE(StoredNumbers().size(), 4);
+        QCOMPARE(grid.Rows(), 2);
     }
 
     void ViewShowsNumbersAndDays()
     {
-        TestWindow window;
-        OpenWithEntries(window);
-        GridDriver(window, "F13grid").Click(2);
-        GridDriver(window, "F13grid").Press(Qt::Key_Return);
-        QCOMPARE(window.TextOf("F19user"), QString("Ann"));
-        QCOMPARE(window.TextOf("F19type"), QString("Main"));
+        Entries window;
+        GridDriver grid = window.Grid();
+        grid.Click(2);
+        grid.Press(Qt::Key_Return);
+        QCOMPARE(window.TextOf("F19user") + ' ' + window.TextOf("F19type"), QString("Ann Main"));
         QVERIFY(!window.IsShown("F19thunderlabel"));
-        const QStringList numbers{"3", "15", "22", "38", "41", "49"};
-        const QStringList colours{"#FFFFFF", "#80FFFF", "#FF8080", "#80FF80", "#FFFF80", "#FFFF80"};
-        for (int ball = 1; ball <= 6; ++ball) {
-            QCOMPARE(window.TextOf(QString("F19num_%1").arg(ball)), numbers[ball - 1]);
-            QCOMPARE(window.ColourOf(QString("F19ball_%1").arg(ball), QPalette::Window), QColor(colours[ball - 1]));
-        }
+        QString shown;
+        for (int ball = 1; ball <= 6; ++ball)
+            shown += window.TextOf(QString("F19num_%1").arg(ball)) +
+                     window.ColourOf(QString("F19ball_%1").arg(ball), QPalette::Window).name() + ' ';
+        QCOMPARE(shown, QString("3#ffffff 15#80ffff 22#ff8080 38#80ff80 41#ffff80 49#ffff80 "));
         for (int day = 0; day < 7; ++day)
             QCOMPARE(window.ColourOf(QString("F19day_%1").arg(day), QPalette::WindowText),
                      day == 0 || day == 6 ? QColor("#000000") : QColor("#808080"));
@@ -189,15 +130,15 @@ private Q_SLOTS:
         window.Click("F13view");
         QCOMPARE(window.TextOf("F19type"), QString("Thunderball"));
         QVERIFY(window.IsShown("F19thunderlabel"));
+        QCOMPARE(window.Find("F19num_6")->accessibleName(), QString("Thunderball 14"));
         QCOMPARE(window.ColourOf("F19ball_5", QPalette::Window), QColor("#000080"));
         QCOMPARE(window.ColourOf("F19ball_6", QPalette::Window), QColor("#FF0000"));
     }
 
     void EditedMainEntryIsStoredInOrder()
     {
-        TestWindow window;
-        OpenWithEntries(window);
-        Edit(window, false, 0);
+        Entries window;
+        window.Edit(false, 0);
         QCOMPARE(window.TextOf("F20num_2"), QString("15"));
         QCOMPARE(window.ColourOf("F20num_2", QPalette::Base), QColor("#80FFFF"));
         QVERIFY(window.Find<QCheckBox>("F20day_6")->isChecked());
@@ -206,17 +147,16 @@ private Q_SLOTS:
         QTest::keyClicks(QApplication::focusWidget(), "3");
         window.Click("F20day_0");
         window.Click("F20day_2");
-        QCOMPARE(Store(window), QStringList{Stored});
-        QCOMPARE(StoredEntry(1), QString("1,1,3,22,38,40,41,49,0,0,-1,0,0,0,-1"));
-        QCOMPARE(GridDriver(window, "F13grid").Row(0), QString("1,1,3,22,38,40,41,49"));
+        QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});
+        QCOMPARE(TestFolder::StoredRows("entries").value(0), QString("1,1,1,3,22,38,40,41,49,0,0,-1,0,0,0,-1"));
+        QCOMPARE(window.Grid().Row(0), QString("1,1,3,22,38,40,41,49"));
         QVERIFY(!window.IsShown("Frame_20") && window.IsShown("Frame_13"));
     }
 
     void EditedThunderballEntryKeepsItsThunderballApart()
     {
-        TestWindow window;
-        OpenWithEntries(window);
-        Edit(window, true, 0);
+        Entries window;
+        window.Edit(true, 0);
         QVERIFY(window.IsShown("F20thunderlabel"));
         const QStringList numbers{"34", "30", "22", "15", "3", "3"};
         for (int box = 1; box <= 6; ++box)
@@ -224,128 +164,98 @@ private Q_SLOTS:
         window.PressFocused(Qt::Key_Return);
         QCOMPARE(window.FocusedName(), QString("F20store"));
         QCOMPARE(window.ColourOf("F20ball_6", QPalette::Window), QColor("#FF0000"));
-        QCOMPARE(Store(window), QStringList{Stored});
-        QCOMPARE(StoredEntry(6), QString("1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1"));
-        QCOMPARE(GridDriver(window, "F13grid").Rows(), 1);
+        QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});
+        QCOMPARE(TestFolder::StoredRows("entries").value(5), QString("6,1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1"));
+        QCOMPARE(window.Grid().Rows(), 1);
         QVERIFY(window.Find<QRadioButton>("F13typethunder")->isChecked());
     }
 
     void EqualNumbersAreNotStored()
     {
-        TestWindow window;
-        OpenWithEntries(window);
+        Entries window;
         const QStringList before = TestFolder::StoredRows("entries");
-        Edit(window, false, 0);
-        window.Type("F20num_1", "49");
-        QCOMPARE(Store(window), QStringList{"Two or more balls have the same value,\r\nplease retry."});
-        QVERIFY(window.IsShown("Frame_20"));
-        window.modals.WillPress(QMessageBox::No);
-        window.Click("F20back");
-        Edit(window, true, 0);
-        window.modals.TakeTexts();
-        window.Type("F20num_1", "34");
-        QCOMPARE(Store(window).value(0), QString("Two or more main balls have the same value,\r\nplease retry."));
+        for (const auto& [thunderball, number, balls] :
+             {std::tuple(false, "49", "balls"), {true, "34", "main balls"}, {false, "", "balls"}}) {
+            window.Edit(thunderball, 0);
+            window.Type("F20num_1", number);
+            // Two empty boxes are equal too.
+            if (*number == '\0')
+                window.Type("F20num_2", number);
+            QCOMPARE(window.Click("F20store", {QMessageBox::Ok}),
+                     QStringList{QString("Two or more %1 have the same value,\r\nplease retry.").arg(balls)});
+            window.Click("F20back", {QMessageBox::No});
+        }
         QCOMPARE(TestFolder::StoredRows("entries"), before);
-    }
-
-    void EmptyBoxIsStoredAsNothing()
-    {
-        TestWindow window;
-        OpenWithEntries(window);
-        Edit(window, false, 1);
-        window.Type("F20num_6", "");
-        QCOMPARE(Store(window), QStringList{Stored});
-        QCOMPARE(StoredEntry(2), QString("1,1,0,2,15,22,38,41,-1,0,0,0,0,0,-1"));
-    }
-
-    void RefusedNumberIsToldEmptiedAndFocused_data()
-    {
-        QTest::addColumn<bool>("thunderball");
-        QTest::addColumn<int>("box");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("50") << false << 6 << "50"
-                            << "Ball values must be between 1 and 49";
-        QTest::newRow("a Thunderball number of 35") << true << 2 << "35"
-                                                    << "Main ball values must be between 1 and 34";
-        QTest::newRow("a thunderball of 15") << true << 6 << "15"
-                                             << "Main ball values must be between 1 and 14";
-        QTest::newRow("half a thunderball") << true << 6 << "0.5"
-                                            << "Main ball values must be between 1 and 14";
     }
 
     void RefusedNumberIsToldEmptiedAndFocused()
     {
-        QFETCH(bool, thunderball);
-        QFETCH(int, box);
-        QFETCH(QString, typed);
-        QFETCH(QString, message);
-        TestWindow window;
-        OpenWithEntries(window);
-        Edit(window, thunderball, 0);
-        const QString name = QString("F20num_%1").arg(box);
-        window.Type(name, typed);
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Press(name, Qt::Key_Tab);
-        QCOMPARE(window.modals.TakeTexts(), QStringList{message});
-        QCOMPARE(window.TextOf(name), QString());
-        QCOMPARE(window.FocusedName(), name);
-        QCOMPARE(window.ColourOf(name, QPalette::Base), QColor("#404040"));
-    }
-
-    void BackAsksWhetherToSave_data()
-    {
-        QTest::addColumn<QMessageBox::StandardButton>("answer");
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<bool>("stays");
-        QTest::newRow("yes") << QMessageBox::Yes << "13" << false;
-        QTest::newRow("no") << QMessageBox::No << "1" << false;
-        QTest::newRow("cancel") << QMessageBox::Cancel << "1" << true;
+        for (const auto& [thunderball, box, typed, message] :
+             {std::tuple(false, "F20num_6", "50", "Ball values must be between 1 and 49"),
+              {true, "F20num_2", "35", "Main ball values must be between 1 and 34"},
+              {true, "F20num_6", "0.5", "Main ball values must be between 1 and 14"}}) {
+            Entries window;
+            window.Edit(thunderball, 0);
+            window.Type(box, typed);
+            window.modals.WillPress(QMessageBox::Ok);
+            window.Press(box, Qt::Key_Tab);
+            QCOMPARE(window.modals.TakeTexts(), QStringList{message});
+            QCOMPARE(window.TextOf(box) + window.FocusedName(), QString(box));
+            QCOMPARE(window.ColourOf(box, QPalette::Base), QColor("#404040"));
+        }
     }
 
     void BackAsksWhetherToSave()
     {
-        QFETCH(QMessageBox::StandardButton, answer);
-        QFETCH(QString, first);
-        QFETCH(bool, stays);
-        TestWindow window;
-        OpenWithEntries(window);
-        Edit(window, false, 0);
-        window.Type("F20num_1", "13");
-        window.modals.WillPress(answer);
-        if (answer == QMessageBox::Yes)
-            window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F20back");
-        const QStringList said = window.modals.TakeTexts();
-        QCOMPARE(said, answer == QMessageBox::Yes ? QStringList({SaveQuestion, Stored}) : QStringList{SaveQuestion});
-        QCOMPARE(StoredEntry(1).section(u',', 2, 2), first);
-        QCOMPARE(window.IsShown("Frame_20"), stays);
-        QVERIFY(window.modals.AllCame());
+        Entries window;
+        const QString question = QStringLiteral("Do you want to save the changes to this entry");
+        window.Edit(false, 3);
+        // An empty box counts as nothing, and comes first.
+        window.Type("F20num_6", "");
+        QCOMPARE(window.Click("F20back", {QMessageBox::Cancel}), QStringList{question});
+        QVERIFY(window.IsShown("Frame_20"));
+        QCOMPARE(window.Click("F20back", {QMessageBox::No}), QStringList{question});
+        QVERIFY(!window.IsShown("Frame_20"));
+        QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("4,15,22,38,41,49"));
+        window.Edit(false, 3);
+        window.Type("F20num_6", "");
+        QCOMPARE(window.Click("F20back", {QMessageBox::Yes, QMessageBox::Ok}), QStringList({question, Stored}));
+        QVERIFY(!window.IsShown("Frame_20"));
+        QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("0,4,15,22,38,41"));
     }
 
-    void EntryDeletedByAnotherCopyIsNotChanged()
+    void WhatAnotherCopyHasDeletedIsNotTouched()
     {
-        TestWindow window;
-        OpenWithEntries(window);
-        Edit(window, false, 1);
-        const auto deleteEntry = [](std::int64_t number) {
-            InAnotherCopy(UserDataPath, {}, EntriesTable(), [number](RecordSet& table) {
+        Entries window;
+        const auto deleteNumber = [](const TableLayout& layout, std::int64_t number) {
+            InAnotherCopy(UserDataPath, {}, layout, [number](RecordSet& table) {
                 FindRecord(table, number);
                 table.Delete();
             });
         };
-        deleteEntry(2);
-        QVERIFY(Store(window).value(0).startsWith("The changes could not be stored, because another copy"));
+        const QStringList gone{"An unexpected error has occured,\r\nplease try again."};
+        deleteNumber(EntriesTable(), 1);
+        QCOMPARE(window.Click("F13view", {QMessageBox::Ok}), gone);
+        window.Click("F19back");
+        QCOMPARE(window.Click("F13edit", {QMessageBox::Ok}), gone);
+        // The editor that has not shown an entry yet can be typed in and left.
+        window.Type("F20num_1", "12");
+        window.Press("F20num_1", Qt::Key_Tab);
+        QCOMPARE(window.ColourOf("F20num_1", QPalette::Base), QColor("#80FFFF"));
+        QCOMPARE(window.ColourOf("F20num_3", QPalette::Base), QColor("#404040"));
+        window.Click("F20back", {QMessageBox::No});
+        window.Edit(false, 0);
+        deleteNumber(EntriesTable(), 2);
+        QVERIFY(window.Click("F20store", {QMessageBox::Ok})
+                    .value(0)
+                    .startsWith("The changes could not be stored, because another copy"));
         QVERIFY(window.IsShown("Frame_20"));
-        window.modals.WillPress(QMessageBox::No);
-        window.Click("F20back");
-        deleteEntry(1);
-        GridDriver(window, "F13grid").Click(0);
-        window.modals.TakeTexts();
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Click("F13view");
-        QCOMPARE(window.modals.TakeTexts(), QStringList{Gone});
-        QCOMPARE(StoredNumbers(), QStringList({"3", "4", "5", "6", "7"}));
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("3 4 5 6 7"));
+        window.Click("F20back", {QMessageBox::No});
+        // The entries of the user chosen before do not stand in for those of one that is gone.
+        deleteNumber(UsersTable(), 2);
+        window.Press("F13user", Qt::Key_Down);
+        QVERIFY(!window.IsShown("F13grid") && window.IsShown("F13noentries"));
     }
 };
 
