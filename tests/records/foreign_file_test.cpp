@@ -2,6 +2,7 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
+#include "analysis/draw_history.h"
 #include "records/compaction.h"
 #include "users/user_records.h"
 
@@ -125,6 +126,22 @@ private Q_SLOTS:
 
     void EngineAdmitsOnlyWhatTheProgramDoes_data()
     {
+    void NumbersInThePlaceOfTextsAreTexts()
+    {
+        const ForeignFiles files("DROP TABLE users; CREATE TABLE users(UserId, UserName, SpendLimit);"
+                                 "INSERT INTO users VALUES (1, 42, 5)",
+                                 "DROP TABLE ukmain; CREATE TABLE ukmain(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
+                                 "Ball4, Ball5, Ball6, Bonus, Machine, BallSet); INSERT INTO ukmain VALUES "
+                                 "(1, '2020-01-04', 'Sat', 1, 2, 3, 4, 5, 6, 7, 'MERLIN', 4.0), "
+                                 "(2, '2020-01-11', 'Sat', 1, 2, 3, 4, 5, 6, 7, 12, 4)");
+        OpenDatabaseFiles();
+        users.MoveFirst();
+        QCOMPARE(ReadUser(users).name, QString("42"));
+        ukmainlist.MoveFirst();
+        QCOMPARE(ukmainlist.Text(10), std::string_view("12"));
+        QCOMPARE(CountChart(FindChart(6)).Bars(BallType::AllBalls)[3].value, 2);
+    }
+
         QTest::addColumn<bool>("compacting");
         QTest::addColumn<std::string>("sql");
         for (const char* sql : {"CREATE TABLE x(a)", "DROP TABLE users", "CREATE TEMP TABLE x(a)",
