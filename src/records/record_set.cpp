@@ -367,8 +367,9 @@ void RecordSet::TakeBackChanges()
         return;
     changed = false;
     editing = Editing::No;
-    const std::int64_t rowId = OnRecord() ? rows.RowId(current) : 0;
     const int place = current;
+    const bool onRow = loaded && place >= 0 && place < rows.Places();
+    const std::int64_t rowId = onRow ? rows.RowId(place) : 0;
     loaded = false;
     try {
         Load();
@@ -376,6 +377,6 @@ void RecordSet::TakeBackChanges()
         // The rows are read anew, and the failure told, when they are next asked for.
         return;
     }
-    const int found = rows.PlaceOf(rowId);
+    const int found = onRow ? rows.PlaceOf(rowId) : -1;
     current = found >= 0 ? found : std::clamp(place, -1, rows.Places());
 }

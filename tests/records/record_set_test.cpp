@@ -206,6 +206,14 @@ private Q_SLOTS:
         }
         QCOMPARE(f.table.Number(0), 2.0);
         QCOMPARE(Walk(f.table), QString("1 2 3 4"));
+        {
+            Transaction transaction(f.database, "nothing");
+            f.table.MoveFirst();
+            f.table.Delete();
+            f.table.MoveLast();
+            f.table.Delete();
+        }
+        QCOMPARE(f.table.Number(0), 4.0);
         Transaction transaction(f.database, "all");
         Add(f.table, 5, "five");
         transaction.Commit();
