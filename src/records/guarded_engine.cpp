@@ -108,7 +108,7 @@ void ApplyKey(sqlite3* engine, const std::string& password, std::string_view fir
     if (firstBytes.size() < SaltBytes || firstBytes.starts_with(PlainFileStart))
         throw Failure(doing, "the file is damaged or is not one of this program's files",
                       "not protected by a password");
-    const std::string key = DerivedKeyText(password, firstBytes.substr(0, SaltBytes));
+    const std::string& key = DerivedKeyText(password, firstBytes.substr(0, SaltBytes));
     const int code = sqlite3_key(engine, key.data(), static_cast<int>(key.size()));
     if (code != SQLITE_OK)
         ThrowEngineFailure(engine, code, doing);
