@@ -5,6 +5,7 @@
 
 #include "records/compaction.h"
 #include "records/database_creation.h"
+#include "records/held_file.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -205,7 +206,6 @@ private Q_SLOTS:
             f.table.MoveNext();
         }
         QCOMPARE(f.table.Number(0), 2.0);
-        QCOMPARE(Walk(f.table), QString("1 2 3 4"));
         {
             Transaction transaction(f.database, "nothing");
             f.table.MoveFirst();
@@ -214,6 +214,7 @@ private Q_SLOTS:
             f.table.Delete();
         }
         QCOMPARE(f.table.Number(0), 4.0);
+        QCOMPARE(Walk(f.table), QString("1 2 3 4"));
         Transaction transaction(f.database, "all");
         Add(f.table, 5, "five");
         transaction.Commit();
@@ -250,6 +251,34 @@ private Q_SLOTS:
         QCOMPARE(ReasonOf([&] { const Transaction mine(f.database, "mine"); }),
                  QString("another program is using the file"));
         QVERIFY(clock.elapsed() < 6000);
+    }
+
+    void FileThatAnotherToolChangesIsNotReplaced_data()
+    {
+        QTest::addColumn<QString>("begin");
+        QTest::addColumn<QString>("end");
+        const QString five = "INSERT INTO numbers VALUES (5, hex(zeroblob(30000)));";
+        QTest::newRow("change not committed") << "BEGIN;" + five << "COMMIT";
+        QTest::newRow("change in a log") << "PRAGMA journal_mode = WAL;" + five << "PRAGMA wal_checkpoint";
+    }
+
+    void FileThatAnotherToolChangesIsNotReplaced()
+    {
+        QFETCH(QString, begin);
+        QFETCH(QString, end);
+        Fixture f;
+        f.database.Close();
+        sqlite3* tool = nullptr;
+        sqlite3_open(f.path.c_str(), &tool);
+        Execute(tool, begin.toStdString(), "");
+        QVERIFY(ReasonOf([&] { HeldFile(f.path, {}, "doing").Compact(); }) != "");
+        Execute(tool, end.toStdString(), "");
+        sqlite3_close(tool);
+        HeldFile(f.path, {}, "doing").Compact();
+        f.database.Open(f.path);
+        f.table.Open(f.database, Numbers);
+        QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
+        QVERIFY(!QFile::exists(QString::fromStdString(f.path + "-wal")));
     }
 
     void OpenProvesKeyKindAndColumns()
