@@ -38,7 +38,7 @@ std::vector<std::filesystem::path> UnfinishedFiles(const std::filesystem::path& 
 
 bool AnyLeft(const std::filesystem::path& live)
 {
-    bool any = std::filesystem::exists(KeptAside(live));
+    bool any = std::filesystem::is_regular_file(KeptAside(live));
     for (const auto& file : UnfinishedFiles(live))
         any = any || std::filesystem::exists(file);
     return any;
@@ -55,11 +55,16 @@ void PutBackKeptFile(const std::filesystem::path& live)
         if (!lock.TryAlone())
             return;
     }
-    if (std::filesystem::exists(KeptAside(live)))
+    if (std::filesystem::is_regular_file(KeptAside(live)))
         PutBack(live);
     for (const auto& file : UnfinishedFiles(live)) {
-        DeleteFileIfThere(file);
-        DeleteJournals(file);
+        try {
+            DeleteFileIfThere(file);
+            DeleteJournals(file);
+        } catch (const Failure&) {
+            // What cannot be cleared away is no reason not to start; it is told when it stands in the way.
+            continue;
+        }
     }
 }
 

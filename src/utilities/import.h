@@ -28,5 +28,5 @@ private:
 
 /// Puts back the live files that unfinished imports kept aside, and clears away what else an interrupted run left in
 /// the program folder. What belongs to another running copy of the program is left alone. Both databases are closed.
-/// Throws Failure.
+/// Throws Failure where a kept file cannot be put back.
 void PutBackKeptFiles();
