@@ -37,8 +37,7 @@ QString Walk(RecordSet& set)
 class Fixture
 {
 public:
-    explicit Fixture(const std::string& connect = {})
-        : path(folder.filePath("numbers.db").toStdString()), connectString(connect)
+    explicit Fixture(const std::string& connect = {}) : path(folder.filePath("numbers.db").toStdString())
     {
         CreateDatabase(path, connect, {Numbers}, {{NumbersDownwards, "numbers"}});
         database.Open(path, connect);
@@ -51,7 +50,6 @@ public:
 
     QTemporaryDir folder;
     std::string path;
-    std::string connectString;
     Database database;
     RecordSet table;
     RecordSet list;
@@ -75,6 +73,28 @@ QString ReasonOf(const std::function<void()>& action)
     return FailureOf(action).reason;
 }
 
+/// Where a set stands after some steps: to the first, last, next or previous row, by some rows, or deleting one.
+QString After(RecordSet& set, const QString& steps)
+{
+    for (const QString& step : steps.split(u' ')) {
+        if (step == "F")
+            set.MoveFirst();
+        else if (step == "L")
+            set.MoveLast();
+        else if (step == "N")
+            set.MoveNext();
+        else if (step == "P")
+            set.MovePrevious();
+        else if (step == "D")
+            set.Delete();
+        else
+            set.Move(step.toInt());
+    }
+    if (set.Bof() || set.Eof())
+        return set.IsEmpty() ? "empty" : set.Bof() ? "bof" : "eof";
+    return ReasonOf([&] { (void)set.Field(0); }).isEmpty() ? QString::number(set.Number(0)) : "gap";
+}
+
 } // namespace
 
 class RecordSetTest : public QObject
@@ -82,55 +102,26 @@ class RecordSetTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void PositionsBehaveAtBothEnds()
+    void PositionsBehaveAtBothEndsAndOverDeletedRows()
     {
-        Fixture f;
-        f.table.MoveFirst();
-        f.table.Move(-2);
-        QVERIFY(f.table.Bof() && !f.table.Eof());
-        f.table.MoveNext();
-        QCOMPARE(f.table.Number(0), 1.0);
-        f.table.Move(3);
-        QCOMPARE(f.table.Number(0), 4.0);
-        f.table.Move(2);
-        QVERIFY(f.table.Eof() && !f.table.Bof());
-        f.table.MovePrevious();
-        QCOMPARE(f.table.Text(1), std::string_view("four"));
-        QCOMPARE(ReasonOf([&] {
-                     f.table.MoveNext();
-                     (void)f.table.Field(0);
-                 }),
-                 QString("there is no current record"));
+        const std::pair<const char*, const char*> rows[] = {
+            {"F -2", "bof"},  {"F -2 N", "1"},    {"F 3", "4"},        {"F 5", "eof"},
+            {"F 5 P", "4"},   {"L P", "3"},       {"F N D", "gap"},    {"F N D N", "3"},
+            {"F N D P", "1"}, {"F N D P 2", "4"}, {"F N D L -2", "1"}, {"F D N D N D N D F", "empty"}};
+        for (const auto& [steps, expected] : rows) {
+            Fixture f;
+            QCOMPARE(QString(steps) + ": " + After(f.table, steps), QString(steps) + ": " + expected);
+        }
     }
 
-    void EmptySetIsAtBothEnds()
+    void EmptySetIsNumberedFromOne()
     {
         Fixture f;
-        for (f.table.MoveFirst(); !f.table.Eof(); f.table.MoveNext())
-            f.table.Delete();
-        f.table.MoveFirst();
-        QVERIFY(f.table.IsEmpty());
+        After(f.table, "F D N D N D N D F");
         QCOMPARE(f.table.NextNumber(), std::int64_t{1});
         Add(f.table, 7, "seven");
         QVERIFY(!f.table.IsEmpty());
         QCOMPARE(f.table.NextNumber(), std::int64_t{8});
-    }
-
-    void DeletedRowLeavesAGapUntilTheNextMove()
-    {
-        Fixture f;
-        f.table.MoveFirst();
-        f.table.MoveNext();
-        f.table.Delete();
-        QVERIFY(!f.table.Eof() && !f.table.Bof());
-        QCOMPARE(ReasonOf([&] { (void)f.table.Field(0); }), QString("there is no current record"));
-        f.table.MoveNext();
-        QCOMPARE(f.table.Number(0), 3.0);
-        f.table.MovePrevious();
-        QCOMPARE(f.table.Number(0), 1.0);
-        f.table.Move(2);
-        QCOMPARE(f.table.Number(0), 4.0);
-        QCOMPARE(Walk(f.table), QString("1 3 4"));
     }
 
     void ListShowsOwnChangesAfterARequeryOnly()
@@ -152,10 +143,8 @@ private Q_SLOTS:
         f.table.Update();
         QCOMPARE(f.table.Number(0), 4.0);
         OtherCopy other(f.path);
-        RecordSet& reread = other.table;
-        reread.MoveLast();
-        QCOMPARE(reread.Number(0), 4.0);
-        QCOMPARE(reread.Text(1), std::string_view("vier"));
+        QCOMPARE(After(other.table, "L"), QString("4"));
+        QCOMPARE(other.table.Text(1), std::string_view("vier"));
     }
 
     void ChangeByAnotherCopyIsSeenAtTheNextFirstOrLastRow()
@@ -196,25 +185,17 @@ private Q_SLOTS:
     void TransactionIsAllOrNothing()
     {
         Fixture f;
-        f.table.MoveFirst();
-        f.table.MoveNext();
-        {
-            Transaction transaction(f.database, "nothing");
-            Add(f.table, 5, "five");
-            f.table.MovePrevious();
-            f.table.Delete();
-            f.table.MoveNext();
+        After(f.table, "F N");
+        for (const auto& [steps, row] : {std::pair("P D N", 2.0), std::pair("F D L P D", 4.0)}) {
+            {
+                const Transaction transaction(f.database, "nothing");
+                Add(f.table, 9, "nine");
+                After(f.table, steps);
+            }
+            QCOMPARE(f.table.Number(0), row);
+            QCOMPARE(Walk(f.table), QString("1 2 3 4"));
+            After(f.table, "F N");
         }
-        QCOMPARE(f.table.Number(0), 2.0);
-        {
-            Transaction transaction(f.database, "nothing");
-            f.table.MoveFirst();
-            f.table.Delete();
-            f.table.MoveLast();
-            f.table.Delete();
-        }
-        QCOMPARE(f.table.Number(0), 4.0);
-        QCOMPARE(Walk(f.table), QString("1 2 3 4"));
         Transaction transaction(f.database, "all");
         Add(f.table, 5, "five");
         transaction.Commit();
@@ -253,32 +234,25 @@ private Q_SLOTS:
         QVERIFY(clock.elapsed() < 6000);
     }
 
-    void FileThatAnotherToolChangesIsNotReplaced_data()
-    {
-        QTest::addColumn<QString>("begin");
-        QTest::addColumn<QString>("end");
-        const QString five = "INSERT INTO numbers VALUES (5, hex(zeroblob(30000)));";
-        QTest::newRow("change not committed") << "BEGIN;" + five << "COMMIT";
-        QTest::newRow("change in a log") << "PRAGMA journal_mode = WAL;" + five << "PRAGMA wal_checkpoint";
-    }
-
     void FileThatAnotherToolChangesIsNotReplaced()
     {
-        QFETCH(QString, begin);
-        QFETCH(QString, end);
-        Fixture f;
-        f.database.Close();
-        sqlite3* tool = nullptr;
-        sqlite3_open(f.path.c_str(), &tool);
-        Execute(tool, begin.toStdString(), "");
-        QVERIFY(ReasonOf([&] { HeldFile(f.path, {}, "doing").Compact(); }) != "");
-        Execute(tool, end.toStdString(), "");
-        sqlite3_close(tool);
-        HeldFile(f.path, {}, "doing").Compact();
-        f.database.Open(f.path);
-        f.table.Open(f.database, Numbers);
-        QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
-        QVERIFY(!QFile::exists(QString::fromStdString(f.path + "-wal")));
+        const std::string five = "INSERT INTO numbers VALUES (5, hex(zeroblob(30000)));";
+        for (const auto& [begin, end] : {std::pair("BEGIN;" + five, "COMMIT"),
+                                         std::pair("PRAGMA journal_mode = WAL;" + five, "PRAGMA wal_checkpoint")}) {
+            Fixture f;
+            f.database.Close();
+            sqlite3* tool = nullptr;
+            sqlite3_open(f.path.c_str(), &tool);
+            Execute(tool, begin, "");
+            QVERIFY(ReasonOf([&] { HeldFile(f.path, {}, "doing").Compact(); }) != "");
+            Execute(tool, end, "");
+            sqlite3_close(tool);
+            HeldFile(f.path, {}, "doing").Compact();
+            f.database.Open(f.path);
+            f.table.Open(f.database, Numbers);
+            QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
+            QVERIFY(!QFile::exists(QString::fromStdString(f.path + "-wal")));
+        }
     }
 
     void OpenProvesKeyKindAndColumns()
@@ -290,21 +264,19 @@ private Q_SLOTS:
         QCOMPARE(ReasonOf([&] { database.Open(f.path + "x", Connect); }), QString("the file is not there"));
         database.Open(f.path, Connect);
         RecordSet set;
-        const QString missing = "it is missing in the file";
-        const QString other = "its columns are not as this program made them";
-        const auto layoutOf = [](const TableLayout& base, const std::string& name, std::vector<ColumnLayout> columns) {
-            TableLayout layout = base;
+        const auto reasonFor = [&](TableLayout layout, const char* name, std::vector<ColumnLayout> columns) {
             layout.name = name;
             layout.columns = std::move(columns);
-            return layout;
+            return ReasonOf([&] { set.Open(database, layout); });
         };
-        const auto reasonFor = [&](const TableLayout& layout) { return ReasonOf([&] { set.Open(database, layout); }); };
-        QCOMPARE(reasonFor(layoutOf(Numbers, "letters", Numbers.columns)), missing);
-        QCOMPARE(reasonFor(layoutOf(Numbers, "numberslist", Numbers.columns)), missing);
-        QCOMPARE(reasonFor(layoutOf(NumbersDownwards, "numbers", Numbers.columns)), missing);
-        QCOMPARE(reasonFor(layoutOf(Numbers, "numbers", {{"Word", "TEXT"}, {"Number", "INTEGER"}})), other);
-        QCOMPARE(reasonFor(layoutOf(Numbers, "numbers", {{"Number", "INTEGER"}})), other);
-        QCOMPARE(reasonFor(layoutOf(Numbers, "numbers", {{"Number", ""}, {"Word", ""}, {"More", ""}})), other);
+        const QString missing = "it is missing in the file";
+        const QString other = "its columns are not as this program made them";
+        QCOMPARE(reasonFor(Numbers, "letters", Numbers.columns), missing);
+        QCOMPARE(reasonFor(Numbers, "numberslist", Numbers.columns), missing);
+        QCOMPARE(reasonFor(NumbersDownwards, "numbers", Numbers.columns), missing);
+        QCOMPARE(reasonFor(Numbers, "numbers", {{"Word", "TEXT"}, {"Number", "INTEGER"}}), other);
+        QCOMPARE(reasonFor(Numbers, "numbers", {{"Number", "INTEGER"}}), other);
+        QCOMPARE(reasonFor(Numbers, "numbers", {{"Number", ""}, {"Word", ""}, {"More", ""}}), other);
         set.Open(database, Numbers);
         QCOMPARE(set.Count(), 4);
     }
