@@ -15,6 +15,13 @@ QString DetailOf(const std::function<void()>& action)
     return FailureOf(action).detail;
 }
 
+using Engine = std::unique_ptr<sqlite3, int (*)(sqlite3*)>;
+
+Engine OpenUsers()
+{
+    return {OpenGuarded(UserDataPath, {}, {}, "opening"), sqlite3_close_v2};
+}
+
 /// The program's two files, one of which somebody has worked over.
 class ForeignFiles
 {
@@ -86,31 +93,20 @@ private Q_SLOTS:
         QCOMPARE(CountRows(compacted, {}, "counting").at("entries"), 1);
     }
 
-    void TableMustBeATable_data()
-    {
-        QTest::addColumn<std::string>("sql");
-        const auto row = [](const char* name, const std::string& sql) {
-            QTest::newRow(name) << "DROP TABLE users;" + sql;
-        };
-        const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
-        row("view", "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit");
-        row("view that says it is a table", "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit;" +
-                                                schema + "type = 'table', rootpage = 2 WHERE name = 'users'");
-        row("virtual table", "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit)");
-        row("virtual table that says it has a page",
-            "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit);" + schema +
-                "rootpage = 2 WHERE name = 'users'");
-        row("computed column", "CREATE TABLE users(UserId, UserName, SpendLimit AS (UserId * 2))");
-        row("further computed column", "CREATE TABLE users(UserId, UserName, SpendLimit, More AS (hex(UserName)))");
-        row("no row numbers", "CREATE TABLE users(UserId PRIMARY KEY, UserName, SpendLimit) WITHOUT ROWID");
-    }
-
     void TableMustBeATable()
     {
-        QFETCH(std::string, sql);
-        const ForeignFiles files(sql);
-        const QString detail = DetailOf(OpenDatabaseFiles);
-        QVERIFY2(!detail.isEmpty(), "the file was opened");
+        const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
+        const std::string view = "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit;";
+        const std::string search = "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit);";
+        for (const std::string& sql :
+             {view, view + schema + "type = 'table', rootpage = 2 WHERE name = 'users'", search,
+              search + schema + "rootpage = 2 WHERE name = 'users'",
+              std::string("CREATE TABLE users(UserId, UserName, SpendLimit AS (UserId * 2))"),
+              std::string("CREATE TABLE users(UserId, UserName, SpendLimit, More AS (hex(UserName)))"),
+              std::string("CREATE TABLE users(UserId PRIMARY KEY, UserName, SpendLimit) WITHOUT ROWID")}) {
+            const ForeignFiles files("DROP TABLE users;" + sql);
+            QVERIFY2(!DetailOf(OpenDatabaseFiles).isEmpty(), sql.c_str());
+        }
     }
 
     void ListIsReadFromItsTable()
@@ -142,42 +138,34 @@ private Q_SLOTS:
         QCOMPARE(CountChart(FindChart(6)).Bars(BallType::AllBalls)[3].value, 2);
     }
 
-    void EngineAdmitsOnlyWhatTheProgramDoes_data()
-    {
-        QTest::addColumn<bool>("compacting");
-        QTest::addColumn<std::string>("sql");
-        for (const char* sql : {"CREATE TABLE x(a)", "DROP TABLE users", "CREATE TEMP TABLE x(a)",
-                                "PRAGMA writable_schema = 1", "PRAGMA journal_mode = OFF", "PRAGMA trusted_schema = 1",
-                                "SELECT load_extension('x')", "SELECT randomblob(5)",
-                                "WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n FROM more) SELECT n FROM more",
-                                "SELECT * FROM v", "SELECT * FROM search"}) {
-            QTest::addRow("open: %s", sql) << false << std::string(sql);
-            QTest::addRow("compacting: %s", sql) << true << std::string(sql);
-        }
-        for (const char* sql :
-             {"ATTACH ':memory:' AS other", "SELECT sqlcipher_export('main')", "UPDATE sqlite_master SET sql = ''"})
-            QTest::addRow("open: %s", sql) << false << std::string(sql);
-    }
-
     void EngineAdmitsOnlyWhatTheProgramDoes()
     {
-        QFETCH(bool, compacting);
-        QFETCH(std::string, sql);
         const ForeignFiles files("CREATE VIEW v AS SELECT 1; CREATE VIRTUAL TABLE search USING fts4(a)");
-        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(OpenGuarded(UserDataPath, {}, {}, "opening"),
-                                                                 sqlite3_close_v2);
-        if (compacting)
-            AllowExport(engine.get());
-        QCOMPARE(DetailOf([&] { Execute(engine.get(), "SELECT count(*) FROM users", "counting"); }), QString());
-        QVERIFY(!DetailOf([&] { Execute(engine.get(), sql, "trying"); }).isEmpty());
+        const Engine engine = OpenUsers();
+        const auto refused = [&](const char* sql) {
+            return !DetailOf([&] { Execute(engine.get(), sql, "trying"); }).isEmpty();
+        };
+        for (const char* sql :
+             {"ATTACH ':memory:' AS other", "SELECT sqlcipher_export('main')", "UPDATE sqlite_master SET sql = ''"})
+            QVERIFY2(refused(sql), sql);
+        for (const bool compacting : {false, true}) {
+            if (compacting)
+                AllowExport(engine.get());
+            QVERIFY(!refused("SELECT count(*) FROM users"));
+            for (const char* sql :
+                 {"CREATE TABLE x(a)", "DROP TABLE users", "CREATE TEMP TABLE x(a)", "PRAGMA writable_schema = 1",
+                  "PRAGMA journal_mode = OFF", "PRAGMA trusted_schema = 1", "SELECT load_extension('x')",
+                  "SELECT randomblob(5)", "SELECT * FROM v", "SELECT * FROM search",
+                  "WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n FROM more) SELECT n FROM more"})
+                QVERIFY2(refused(sql), sql);
+        }
     }
 
     void StatementWithoutEndIsStopped()
     {
         const ForeignFiles files("CREATE TABLE n(a); WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM "
                                  "more LIMIT 3000) INSERT INTO n SELECT n FROM more");
-        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(OpenGuarded(UserDataPath, {}, {}, "opening"),
-                                                                 sqlite3_close_v2);
+        const Engine engine = OpenUsers();
         QElapsedTimer clock;
         clock.start();
         QCOMPARE(DetailOf([&] { Execute(engine.get(), "SELECT count(*) FROM n, n AS o, n AS p", "counting"); }),
