@@ -156,21 +156,12 @@ class ChartsTest : public QObject
 private Q_SLOTS:
     void EveryBarIsWhatAPlainCountFinds()
     {
-        struct History
-        {
-            TestFolder::Content content;
-            int draws;
-            bool odd;
-        };
         unsigned seed = 0;
-        // The real history; few draws, so that many balls never came; many; and fields that hold no ball.
-        for (const History& history :
-             {History{TestFolder::Content::Starter, 0, false}, History{TestFolder::Content::Empty, 1, false},
-              History{TestFolder::Content::Empty, 6, false}, History{TestFolder::Content::Empty, 600, false},
-              History{TestFolder::Content::Empty, 200, true}, History{TestFolder::Content::Empty, 12, true}}) {
-            const TestFolder folder(history.content);
+        // The real history; few draws, so that many balls never came; many; and, below 0, fields that hold no ball.
+        for (const int draws : {0, 1, 6, 600, -200, -12}) {
+            const TestFolder folder(draws == 0 ? TestFolder::Content::Starter : TestFolder::Content::Empty);
             OpenDatabaseFiles();
-            StoreRandomHistory(seed++, history.draws, history.odd);
+            StoreRandomHistory(seed++, qAbs(draws), draws < 0);
             for (const Expected& expected : ExpectedCharts) {
                 const Chart& chart = FindChart(expected.chart);
                 const ChartCount count = CountChart(chart);
