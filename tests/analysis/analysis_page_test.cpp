@@ -127,7 +127,7 @@ private Q_SLOTS:
         }
     }
 
-    void TitleAndDescriptionOpenTheSelectedScreen()
+    void KeysTitleAndDescriptionOpenTheSelectedScreen()
     {
         Menu menu(21, TestFolder::Content::Starter);
         for (const char* label : {"F21title", "F21label"})
@@ -140,6 +140,14 @@ private Q_SLOTS:
         QVERIFY(menu.modals.AllCame());
         for (const char* label : {"F21label", "F21title"})
             QVERIFY(menu.ChartOf([&] { menu.Click(label); }).contains("lottery machine"));
+        menu.Find("F21screen_1")->setFocus();
+        menu.PressFocused(Qt::Key_Tab);
+        QCOMPARE(menu.FocusedName() + menu.Title(), QString("F21screen_2Colour Frequency"));
+        // The pointer strays to another screen; the keys open the one that has the focus.
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            menu.PointAt(6);
+            QVERIFY(menu.ChartOf([&] { menu.PressFocused(key); }).contains("different colour"));
+        }
         menu.Click("Suboption2");
         menu.Open();
         QCOMPARE(menu.Title(), QString("Main Draw Analysis"));
@@ -163,20 +171,6 @@ private Q_SLOTS:
         menu.Window().resize(1300, 900);
         QApplication::processEvents();
         QCOMPARE(menu.Find("F22shape")->geometry(), menu.Find("F22screen_3")->geometry().adjusted(-10, -10, 10, 10));
-    }
-
-    void TabDescribesAndEnterOrSpaceOpens()
-    {
-        Menu menu(21, TestFolder::Content::Starter);
-        menu.Find("F21screen_1")->setFocus();
-        menu.PressFocused(Qt::Key_Tab);
-        QCOMPARE(menu.FocusedName(), QString("F21screen_2"));
-        QCOMPARE(menu.Title(), QString("Colour Frequency"));
-        // The pointer strays to another screen; the keys open the one that has the focus.
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-            menu.PointAt(6);
-            QVERIFY(menu.ChartOf([&] { menu.PressFocused(key); }).contains("different colour"));
-        }
     }
 
     void WithoutDrawsEveryChartSaysSoOnce()

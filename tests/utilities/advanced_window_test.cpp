@@ -250,72 +250,59 @@ private Q_SLOTS:
         const QByteArray people = Bytes(TAVENOR_STARTER "/userdata.tv3");
         QByteArray damaged = draws;
         damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
-        struct Row
-        {
-            const char* name;
-            QString kind;
-            QByteArray bytes;
-            const char* sql = "";
-            std::string connect = {};
-        };
-        for (const Row& row :
-             {Row{"garbage as draws", "draw", QByteArray(100000, 'g')},
-              Row{"garbage as users", "user", QByteArray(100000, 'g')}, Row{"nothing as draws", "draw", {}},
-              Row{"nothing as users", "user", {}}, Row{"a heading only", "user", QByteArray("SQLite format 3\0", 16)},
-              Row{"cut off", "draw", draws.left(draws.size() / 2)}, Row{"damaged in the middle", "draw", damaged},
-              Row{"users in the place of draws", "draw", people},
-              Row{"another password", "draw", {}, "CREATE TABLE ukmain(a)", ";pwd=other"},
-              Row{"users with a password", "user", {}, "CREATE TABLE users(a)", ";pwd=other"},
-              Row{"no links", "draw", draws, "DROP TABLE links", DrawConnect},
-              Row{"no list", "draw", draws, "DROP VIEW ukmainlist", DrawConnect},
-              Row{"columns in another order", "user", people,
-                  "DROP TABLE users; CREATE TABLE users(UserName, UserId, SpendLimit)"}}) {
+        const auto costs = [](const char* name, const QString& kind, const QByteArray& bytes, const char* sql = "",
+                              const std::string& connect = {}) {
             Utilities utilities;
             const QString bad = utilities.Own("bad.tv3");
-            Write(bad, row.bytes);
-            RunSql(bad.toStdString(), row.connect, row.sql);
-            utilities.Do("import" + row.kind, bad, {QMessageBox::Ok});
+            Write(bad, bytes);
+            RunSql(bad.toStdString(), connect, sql);
+            utilities.Do("import" + kind, bad, {QMessageBox::Ok});
             const QList<SeenBox> seen = utilities.window.modals.TakeSeen();
-            QVERIFY2(seen.size() == 1 && seen[0].icon == QMessageBox::Critical && utilities.window.ended, row.name);
+            QVERIFY2(seen.size() == 1 && seen[0].icon == QMessageBox::Critical && utilities.window.ended, name);
             QVERIFY(seen[0].text.startsWith("There is a problem with the database files."));
-            CloseDatabaseFiles();
-            // What the engine might have left beside the bad file.
-            Write(utilities.Live(row.kind) + "-journal", "left");
-            OpenDatabasesAtStart();
-            QVERIFY2(Utilities::Rows() == utilities.rows, row.name);
+            Utilities::StartAgain();
+            QVERIFY2(Utilities::Rows() == utilities.rows, name);
             QCOMPARE(utilities.window.files.Files(), BothFiles);
-        }
+        };
+        costs("garbage as draws", "draw", QByteArray(100000, 'g'));
+        costs("garbage as users", "user", QByteArray(100000, 'g'));
+        costs("nothing as draws", "draw", {});
+        costs("nothing as users", "user", {});
+        costs("a heading only", "user", QByteArray("SQLite format 3\0", 16));
+        costs("cut off", "draw", draws.left(draws.size() / 2));
+        costs("damaged in the middle", "draw", damaged);
+        costs("users in the place of draws", "draw", people);
+        costs("another password", "draw", {}, "CREATE TABLE ukmain(a)", ";pwd=other");
+        costs("users with a password", "user", {}, "CREATE TABLE users(a)", ";pwd=other");
+        costs("no links", "draw", draws, "DROP TABLE links", DrawConnect);
+        costs("no list", "draw", draws, "DROP VIEW ukmainlist", DrawConnect);
+        costs("columns in another order", "user", people,
+              "DROP TABLE users; CREATE TABLE users(UserName, UserId, SpendLimit)");
     }
 
     void FailingStepIsToldAndLeavesAllAsItWas()
     {
-        struct Row
-        {
-            QString button;
-            int importedBytes;
-            rlim_t room;
-            QString message;
-        };
-        for (const Row& row :
-             {Row{"exportdraw", 0, 40000, DrawNotStored + "\r\nThe file drawdata.tp1 could not be written"},
-              Row{"importdraw", 100, 40000, DrawNotAltered + "\r\nThe file drawdata.tp0 could not be written"},
-              Row{"importuser", 200000, 150000, UserNotAltered + "\r\nThe file userdata.tv3 could not be written"}}) {
+        const auto fails = [](const QString& button, int importedBytes, rlim_t room, const QString& message) {
             Utilities utilities;
             const QString file = utilities.Own("file.tv3");
-            if (row.importedBytes > 0)
-                Write(file, QByteArray(row.importedBytes, 'g'));
+            if (importedBytes > 0)
+                Write(file, QByteArray(importedBytes, 'g'));
             {
-                const FullDisk full(row.room);
-                utilities.Do(row.button, file, {QMessageBox::Ok});
+                const FullDisk full(room);
+                utilities.Do(button, file, {QMessageBox::Ok});
             }
             const QString told = utilities.window.modals.TakeTexts().value(0);
-            QVERIFY2(told.startsWith(row.message + ", because the disk is full.\r\n("), qPrintable(told));
+            QVERIFY2(told.startsWith(message + " could not be written, because the disk is full.\r\n("),
+                     qPrintable(told));
             QCOMPARE(utilities.window.files.Files(), BothFiles);
-            QCOMPARE(QFile::exists(file), row.importedBytes > 0);
+            QCOMPARE(QFile::exists(file), importedBytes > 0);
             QCOMPARE(users.Count(), 1);
             Utilities::StartAgain();
             QCOMPARE(Utilities::Rows(), utilities.rows);
-        }
+        };
+        fails("exportdraw", 0, 40000, DrawNotStored + "\r\nThe file drawdata.tp1");
+        fails("importdraw", 100, 40000, DrawNotAltered + "\r\nThe file drawdata.tp0");
+        fails("importuser", 200000, 150000, UserNotAltered + "\r\nThe file userdata.tv3");
     }
 
     void AnotherRunningCopyIsRespected()
