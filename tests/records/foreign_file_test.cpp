@@ -44,6 +44,9 @@ const char* const WithKeys = "DROP TABLE entries; CREATE UNIQUE INDEX number ON 
                              "CREATE TABLE entries(EntryId INTEGER, UserId INTEGER REFERENCES users(UserId) ON DELETE "
                              "CASCADE, DrawType, Ball1, Ball2, Ball3, Ball4, Ball5, Ball6, Monday, Tuesday, Wednesday, "
                              "Thursday, Friday, Saturday, Sunday); INSERT INTO entries(EntryId, UserId) VALUES (1, 1)";
+const char* const WithChecks =
+    "CREATE TABLE c(a INTEGER PRIMARY KEY AUTOINCREMENT, b TEXT DEFAULT (upper('x')) COLLATE "
+    "NOCASE CHECK (length(b) < 9)); INSERT INTO c(b) VALUES ('y')";
 const char* const EndlessList =
     "DROP VIEW ukmainlist; CREATE VIEW ukmainlist(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
     "Ball4, Ball5, Ball6, Bonus, Machine, BallSet) AS WITH RECURSIVE more(n) AS (SELECT 1 "
@@ -63,9 +66,7 @@ private Q_SLOTS:
              {"CREATE TRIGGER t AFTER INSERT ON users BEGIN DELETE FROM entries; END",
               "CREATE TRIGGER t BEFORE DELETE ON users BEGIN DELETE FROM entries; END", WithKeys,
               "CREATE VIRTUAL TABLE search USING fts4(a)", "CREATE INDEX i ON users(lower(trim(UserName)))",
-              "CREATE INDEX i ON entries(UserId) WHERE abs(UserId) > 5",
-              "CREATE TABLE c(a INTEGER PRIMARY KEY AUTOINCREMENT, b TEXT DEFAULT (upper('x')) COLLATE NOCASE "
-              "CHECK (length(b) < 9)); INSERT INTO c(b) VALUES ('y')",
+              "CREATE INDEX i ON entries(UserId) WHERE abs(UserId) > 5", WithChecks,
               "CREATE INDEX i ON users(UserId); ANALYZE", "PRAGMA journal_mode = WAL",
               "CREATE TABLE c(a, b AS (a + 1)); INSERT INTO c VALUES (1)", "CREATE VIEW v AS SELECT * FROM nowhere"}) {
             const ForeignFiles files(sql);

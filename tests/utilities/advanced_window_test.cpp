@@ -208,6 +208,10 @@ private Q_SLOTS:
         refused("exportdraw", utilities.Own("other.tv3"), DrawNotStored + "\r\n");
         for (const QString own : {"drawdata.tp0", "userdata.tp2", "userdata.tv3.new", "userdata.tv3-journal"})
             refused("exportdraw", utilities.window.files.Path(own), DrawNotStored + "\r\n");
+        QFile::copy(TAVENOR_STARTER "/userdata.tv3", utilities.Own("unfinished.tv3"));
+        Write(utilities.Own("unfinished.tv3-journal"), "rows");
+        refused("importuser", utilities.Own("unfinished.tv3"),
+                UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because the chosen file");
         QCOMPARE((QList<QByteArray>{Bytes(utilities.Live("draw")), Bytes(utilities.Live("user"))}), bytes);
     }
 
