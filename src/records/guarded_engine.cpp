@@ -55,8 +55,10 @@ int AdmitRecords(void* /*unused*/, int action, const char* first, const char* se
     case SQLITE_FUNCTION:
         return IsOneOf(second, {"count"}) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_PRAGMA:
-        return IsOneOf(first, {"cell_size_check", "cipher_log_level", "data_version", "table_xinfo"}) ? SQLITE_OK
-                                                                                                      : SQLITE_DENY;
+        return IsOneOf(first, {"cell_size_check", "cipher_log_level", "data_version", "table_xinfo"}) ||
+                       (IsOneOf(first, {"journal_mode"}) && IsOneOf(second, {"delete"}))
+                   ? SQLITE_OK
+                   : SQLITE_DENY;
     default:
         return SQLITE_DENY;
     }
@@ -108,7 +110,7 @@ void ApplyKey(sqlite3* engine, const std::string& password, std::string_view fir
     if (firstBytes.size() < SaltBytes || firstBytes.starts_with(PlainFileStart))
         throw Failure(doing, "the file is damaged or is not one of this program's files",
                       "not protected by a password");
-    const std::string key = DerivedKeyText(password, firstBytes.substr(0, SaltBytes));
+    const std::string& key = DerivedKeyText(password, firstBytes.substr(0, SaltBytes));
     const int code = sqlite3_key(engine, key.data(), static_cast<int>(key.size()));
     if (code != SQLITE_OK)
         ThrowEngineFailure(engine, code, doing);
@@ -137,6 +139,9 @@ sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& conne
         // The first key of a run wakes the engine's own log up, so it is silenced after it.
         Execute(engine, "PRAGMA cipher_log_level = NONE; PRAGMA cell_size_check = 1", doing);
         Execute(engine, "SELECT count(*) FROM sqlite_master", doing);
+        // Another tool may have had the file keep a log beside it. Its locks last as long as the file is open, and the
+        // closing of any other descriptor of the file would drop them. Where the tool still has it open, the log stays.
+        sqlite3_exec(engine, "PRAGMA journal_mode = delete", nullptr, nullptr, nullptr);
     } catch (...) {
         sqlite3_close_v2(engine);
         throw;

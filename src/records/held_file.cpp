@@ -1,5 +1,6 @@
 #include "records/held_file.h"
 
+#include "platform/failure.h"
 #include "platform/files.h"
 #include "records/compaction.h"
 #include "records/engine.h"
@@ -29,7 +30,17 @@ HeldFile::HeldFile(std::filesystem::path heldFile, std::string connectString, st
 
 void HeldFile::Settle() const
 {
-    sqlite3_close_v2(OpenGuarded(file, connect, lock->FirstBytes(SaltBytes), doing));
+    {
+        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(
+            OpenGuarded(file, connect, lock->FirstBytes(SaltBytes), doing), sqlite3_close_v2);
+        // Another tool, which knows nothing of the program's own mark, may be in the middle of a change.
+        Execute(engine.get(), "BEGIN IMMEDIATE; COMMIT", doing);
+    }
+    auto log = FileBehind(file);
+    log += "-wal";
+    std::error_code missing;
+    if (std::filesystem::exists(log, missing))
+        throw Failure(doing, "changes that another tool made are not in the file yet", log.filename().string());
     DeleteJournals(file);
 }
 

@@ -20,7 +20,7 @@ public:
     const std::string& Connect() const { return connect; }
 
     /// Has the engine take back what a killed process left half done, so that the file is whole without the engine's
-    /// journal beside it. Only while it is held alone. Throws Failure.
+    /// journal beside it. Only while it is held alone. Throws Failure, also where another tool is about to change it.
     void Settle() const;
 
     /// Replaces the file, which must be settled, by a copy of another one; its access rights stay. The new file is held

@@ -29,7 +29,7 @@ void AppendHexadecimal(std::string& text, const unsigned char* bytes, std::size_
 
 } // namespace
 
-std::string DerivedKeyText(std::string_view password, std::string_view salt)
+const std::string& DerivedKeyText(std::string_view password, std::string_view salt)
 {
     const std::string name = std::string(salt) + std::string(password);
     if (const auto kept = KeptKeys().find(name); kept != KeptKeys().end())
@@ -39,14 +39,14 @@ std::string DerivedKeyText(std::string_view password, std::string_view salt)
     if (PKCS5_PBKDF2_HMAC(password.data(), static_cast<int>(password.size()), saltBytes, static_cast<int>(salt.size()),
                           Iterations, EVP_sha512(), static_cast<int>(key.size()), key.data()) != 1)
         throw std::runtime_error("The key of the draw records could not be derived.");
-    std::string keyText;
+    std::string& keyText = KeptKeys()[name];
+    // A string that grows would leave its beginnings behind in memory.
     keyText.reserve(2 * (KeyBytes + salt.size()) + 3);
     keyText += "x'";
     AppendHexadecimal(keyText, key.data(), key.size());
     AppendHexadecimal(keyText, saltBytes, salt.size());
     keyText += '\'';
     OPENSSL_cleanse(key.data(), key.size());
-    KeptKeys().emplace(name, keyText);
     return keyText;
 }
 

@@ -18,6 +18,19 @@ std::string ColumnNames(const TableLayout& layout)
     return names;
 }
 
+/// A field of a column of texts. A number, which a file of unknown origin may hold there, is written out; `room` keeps
+/// its digits.
+Value AsText(const Value& field, std::string& room)
+{
+    if (const auto* whole = std::get_if<std::int64_t>(&field))
+        room = std::to_string(*whole);
+    else if (const auto* real = std::get_if<double>(&field))
+        room = PlainNumber(*real).toStdString();
+    else
+        return field;
+    return std::string_view(room);
+}
+
 } // namespace
 
 RecordSet::RecordSet() = default;
@@ -102,12 +115,18 @@ StoredRows RecordSet::ReadRows() const
 {
     const int columns = layout.ColumnCount();
     StoredRows read(columns);
+    std::vector<bool> isText;
+    for (const ColumnLayout& column : layout.columns)
+        isText.push_back(column.type == "TEXT");
+    std::string number;
     Statement query(database->engine, ReadStatement(), Doing("read"));
     try {
         while (query.Step()) {
             read.BeginRow(query.WholeNumber(0));
-            for (int column = 1; column <= columns; ++column)
-                read.AddField(query.Column(column));
+            for (int column = 0; column < columns; ++column) {
+                const Value field = query.Column(column + 1);
+                read.AddField(isText[static_cast<std::size_t>(column)] ? AsText(field, number) : field);
+            }
         }
     } catch (const std::length_error& failure) {
         throw Failure(Doing("read"), "its texts are too long", failure.what());
@@ -348,8 +367,9 @@ void RecordSet::TakeBackChanges()
         return;
     changed = false;
     editing = Editing::No;
-    const std::int64_t rowId = OnRecord() ? rows.RowId(current) : 0;
     const int place = current;
+    const bool onRow = loaded && place >= 0 && place < rows.Places();
+    const std::int64_t rowId = onRow ? rows.RowId(place) : 0;
     loaded = false;
     try {
         Load();
@@ -357,6 +377,6 @@ void RecordSet::TakeBackChanges()
         // The rows are read anew, and the failure told, when they are next asked for.
         return;
     }
-    const int found = rows.PlaceOf(rowId);
+    const int found = onRow ? rows.PlaceOf(rowId) : -1;
     current = found >= 0 ? found : std::clamp(place, -1, rows.Places());
 }

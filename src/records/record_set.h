@@ -48,7 +48,7 @@ public:
     Value Field(int position) const;
     /// The same field as a number: a text by its leading number, nothing as 0.
     double Number(int position) const;
-    /// The same field as a text, where it holds one; empty otherwise.
+    /// The same field as a text; in a column of texts a number of a foreign file has become one. Empty otherwise.
     std::string_view Text(int position) const;
     /// Whether the field at a position holds a flag that is set.
     bool Flag(int position) const { return Number(position) != 0; }

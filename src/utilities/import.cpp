@@ -5,6 +5,7 @@
 #include "shell/open_databases.h"
 #include "utilities/database_file.h"
 
+#include <fstream>
 #include <vector>
 
 namespace {
@@ -17,6 +18,19 @@ std::filesystem::path KeptAside(const std::filesystem::path& live)
 std::string NotReplaced(const std::filesystem::path& live)
 {
     return "The file " + live.filename().string() + " could not be replaced";
+}
+
+/// A file that is being changed, or whose last change was cut short, is whole only together with the engine's journal
+/// beside it, which is not imported.
+void RefuseUnfinished(const std::filesystem::path& chosen, const std::string& doing)
+{
+    for (const char* ending : {"-journal", "-wal"}) {
+        auto journal = FileBehind(chosen);
+        journal += ending;
+        // The engine begins a journal that does not count any more with a zero.
+        if (std::ifstream(journal, std::ios::binary).get() > 0)
+            throw Failure(doing, "the chosen file is being changed, or a change of it was cut short", journal.string());
+    }
 }
 
 void PutBack(const std::filesystem::path& live)
@@ -38,7 +52,7 @@ std::vector<std::filesystem::path> UnfinishedFiles(const std::filesystem::path& 
 
 bool AnyLeft(const std::filesystem::path& live)
 {
-    bool any = std::filesystem::exists(KeptAside(live));
+    bool any = std::filesystem::is_regular_file(KeptAside(live));
     for (const auto& file : UnfinishedFiles(live))
         any = any || std::filesystem::exists(file);
     return any;
@@ -55,11 +69,16 @@ void PutBackKeptFile(const std::filesystem::path& live)
         if (!lock.TryAlone())
             return;
     }
-    if (std::filesystem::exists(KeptAside(live)))
+    if (std::filesystem::is_regular_file(KeptAside(live)))
         PutBack(live);
     for (const auto& file : UnfinishedFiles(live)) {
-        DeleteFileIfThere(file);
-        DeleteJournals(file);
+        try {
+            DeleteFileIfThere(file);
+            DeleteJournals(file);
+        } catch (const Failure&) {
+            // What cannot be cleared away is no reason not to start; it is told when it stands in the way.
+            continue;
+        }
     }
 }
 
@@ -71,6 +90,7 @@ Import::Import(const DatabaseFile& file, const std::filesystem::path& chosen)
     if (!live.Alone())
         throw Failure(NotReplaced(file.live), "another copy of the program is using it, or it may not be changed",
                       file.live.string());
+    RefuseUnfinished(chosen, NotReplaced(file.live));
     live.Settle();
     CopyFileOver(live.Path(), KeptAside(live.Path()));
     try {

@@ -14,8 +14,8 @@ class Import
 {
 public:
     /// Keeps the live file aside and replaces it by a copy of the chosen one, whose content is not looked at. Throws
-    /// Failure when another copy of the program has the file open, or the disk refuses; the live file is then as it was
-    /// and nothing lies aside.
+    /// Failure when another copy of the program has the file open, the chosen one is in the middle of a change, or the
+    /// disk refuses; the live file is then as it was and nothing lies aside.
     Import(const DatabaseFile& file, const std::filesystem::path& chosen);
 
     /// To be called when both databases are open on the new file and proved readable: lets go of the old one. Throws
@@ -28,5 +28,5 @@ private:
 
 /// Puts back the live files that unfinished imports kept aside, and clears away what else an interrupted run left in
 /// the program folder. What belongs to another running copy of the program is left alone. Both databases are closed.
-/// Throws Failure.
+/// Throws Failure where a kept file cannot be put back.
 void PutBackKeptFiles();

@@ -2,8 +2,8 @@
 
 #include "platform/card.h"
 #include "platform/guard.h"
-#include "platform/numbers.h"
 #include "platform/open_address.h"
+#include "platform/texts.h"
 #include "shell/open_databases.h"
 #include "utilities/link_label.h"
 
@@ -18,17 +18,6 @@ constexpr int FirstDescription = 3;
 
 const QString NotSpecified = QStringLiteral("Not Specified.");
 const QString PlaceForASite = QStringLiteral("Your web site HERE.");
-
-/// A field as text, whatever the file holds there; nothing where the table is empty.
-QString FieldText(int position)
-{
-    if (links.IsEmpty())
-        return {};
-    const Value field = links.Field(position);
-    if (const auto* text = std::get_if<std::string_view>(&field))
-        return QString::fromUtf8(text->data(), static_cast<qsizetype>(text->size()));
-    return std::holds_alternative<std::monostate>(field) ? QString() : PlainNumber(links.Number(position));
-}
 
 } // namespace
 
@@ -94,7 +83,7 @@ void LinksPage::ShowLink()
                                                  QStringLiteral("Description:")};
     const bool empty = links.IsEmpty();
     for (int index = 0; index < static_cast<int>(F25link.size()); ++index) {
-        QString text = FieldText(index);
+        QString text = empty ? QString() : FromUtf8(links.Text(index));
         const bool address = index == WebAddress || index == MailAddress;
         if (address && text.isEmpty() && !empty)
             text = NotSpecified;

@@ -3,33 +3,93 @@
 
 namespace {
 
-const QString Unpointed =
-    "Move the pointer over the different screenshots to see a description of it, then click to go "
-    "to it.";
 const QString CountOption =
     "\r\nYou have the option to count main balls only, bonus balls only or both main AND bonus balls.";
+const QString TypedBall = "After entering any ball number, you will be shown how often that ball has appeared and when "
+                          "it appeared, as a main "
+                          "ball or ";
 
-void Open(TestWindow& window, int page)
+/// What a screen says when it is pointed at, behind "This shows you how many ", and its chart behind "This is a bar
+/// chart, showing how many "; without a chart the whole description.
+struct Screen
 {
-    window.Click("Button5");
-    window.Click(page == 21 ? "Suboption1" : "Suboption2");
-}
+    const char* title;
+    QString shows;
+    QString chart = {};
+};
 
-void PointAt(TestWindow& window, const QString& screen, QPoint place = {})
-{
-    QTest::mouseMove(window.Find(screen), place);
-    QApplication::processEvents();
-}
+const QList<Screen> MainScreens{
+    {"Ball Frequency", "times each lottery ball has been drawn from the main lottery draw." + CountOption,
+     "times each lottery ball has been drawn in the main lottery draw."},
+    {"Colour Frequency",
+     "times each lottery ball colour (and it's associated number range) has been drawn from the main lottery draw." +
+         CountOption,
+     "times each different colour of lottery ball has been drawn in the main lottery draw."},
+    {"Odd/Even Numbers",
+     "times each drawn lottery ball from the main lottery draw has been either an odd or even number." + CountOption,
+     "times the lottery balls have been either odd, or even, in the main lottery draw."},
+    {"How Long Since ?",
+     "draws have taken place since each lottery ball was last drawn in the main lottery draw.\r\nYou have the option "
+     "to stop the count at the first main ball, bonus ball or either found.",
+     "draws have taken place since each ball has been drawn."},
+    {"Lottery Machine", "times each lottery machine has been used for the main lottery draw.",
+     "times each lottery machine has been used for the main draw."},
+    {"Ball Sets", "times each set of balls has been used for the main lottery draw.",
+     "times each set of balls has been used for the main draw."},
+    {"Individual Ball Data", TypedBall + "bonus ball."}};
+const QList<Screen> ThunderballScreens{
+    {"Main Ball Frequency", "times each lottery ball has been drawn as a main ball in the thunderball lottery draw.",
+     "times each main lottery ball has been drawn in the thunderball draw."},
+    {"How Long Since ?",
+     "draws have taken place since each lottery ball was last drawn as a main ball in the thunderball lottery draw.",
+     "draws have taken place since each ball has been drawn as a main ball in the thunderball draw."},
+    {"Thunderball Frequency",
+     "times each lottery ball has been drawn as the thunderball in the thunderball lottery draw.",
+     "times each lottery ball has been drawn as the thunderball, in the thunderball draw."},
+    {"How Long Since ?",
+     "draws have taken place since each lottery ball was last drawn as the thunderball in the thunderball lottery "
+     "draw.",
+     "draws have taken place since each ball has been drawn as a thunderball in the thunderball draw."},
+    {"Individual Ball Data", TypedBall + "thunderball."}};
 
-/// Foresees the chart window, closes it, and fills in what it described.
-void WillShowChart(TestWindow& window, QString& described)
+/// One of the two analysis menus in the main window.
+class Menu : public TestWindow
 {
-    window.modals.WillDo([&described](QDialog& dialog) {
-        described = dialog.windowTitle() + ": " + dialog.findChild<QLabel*>("title")->text() + ": " +
-                    dialog.findChild<QLabel*>("description")->text();
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-}
+public:
+    explicit Menu(int menuPage, TestFolder::Content content = TestFolder::Content::Empty)
+        : TestWindow(content), page(menuPage)
+    {
+        Open();
+    }
+
+    void Open()
+    {
+        Click("Button5");
+        Click(page == 21 ? "Suboption1" : "Suboption2");
+    }
+    QString Name(const QString& part) const { return QString("F%1%2").arg(page).arg(part); }
+    QString ScreenName(int screen) const { return Name(QString("screen_%1").arg(screen)); }
+    QString Title() const { return TextOf(Name("title")); }
+    void PointAt(int screen, QPoint place = {})
+    {
+        QTest::mouseMove(Find(ScreenName(screen)), place);
+        QApplication::processEvents();
+    }
+    /// What the chart window says that an action opens.
+    QString ChartOf(const std::function<void()>& action)
+    {
+        QString described;
+        modals.WillDo([&described](QDialog& dialog) {
+            described = dialog.windowTitle() + ": " + dialog.findChild<QLabel*>("title")->text() + ": " +
+                        dialog.findChild<QLabel*>("description")->text();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        action();
+        return modals.AllCame() ? described : "no chart";
+    }
+
+    int page;
+};
 
 } // namespace
 
@@ -38,173 +98,96 @@ class AnalysisPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ScreensDescribeAndOpen_data()
-    {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("screen");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("opens");
-        const auto row = [](int page, int screen, const char* title, const QString& description, const QString& opens) {
-            QTest::addRow("%d, %d", page, screen) << page << screen << QString(title) << description << opens;
-        };
-        const auto chart = [row](int page, int screen, const char* title, const QString& shows, const QString& opens) {
-            row(page, screen, title, "This shows you how many " + shows,
-                "This is a bar chart, showing how many " + opens);
-        };
-        chart(21, 1, "Ball Frequency",
-              "times each lottery ball has been drawn from the main lottery draw." + CountOption,
-              "times each lottery ball has been drawn in the main lottery draw.");
-        chart(21, 2, "Colour Frequency",
-              "times each lottery ball colour (and it's associated number range) has been drawn from the main lottery "
-              "draw." +
-                  CountOption,
-              "times each different colour of lottery ball has been drawn in the main lottery draw.");
-        chart(21, 3, "Odd/Even Numbers",
-              "times each drawn lottery ball from the main lottery draw has been either an odd or even number." +
-                  CountOption,
-              "times the lottery balls have been either odd, or even, in the main lottery draw.");
-        chart(21, 4, "How Long Since ?",
-              "draws have taken place since each lottery ball was last drawn in the main lottery draw.\r\nYou have the "
-              "option to stop the count at the first main ball, bonus ball or either found.",
-              "draws have taken place since each ball has been drawn.");
-        chart(21, 5, "Lottery Machine", "times each lottery machine has been used for the main lottery draw.",
-              "times each lottery machine has been used for the main draw.");
-        chart(21, 6, "Ball Sets", "times each set of balls has been used for the main lottery draw.",
-              "times each set of balls has been used for the main draw.");
-        chart(22, 1, "Main Ball Frequency",
-              "times each lottery ball has been drawn as a main ball in the thunderball lottery draw.",
-              "times each main lottery ball has been drawn in the thunderball draw.");
-        chart(22, 2, "How Long Since ?",
-              "draws have taken place since each lottery ball was last drawn as a main ball in the thunderball lottery "
-              "draw.",
-              "draws have taken place since each ball has been drawn as a main ball in the thunderball draw.");
-        chart(22, 3, "Thunderball Frequency",
-              "times each lottery ball has been drawn as the thunderball in the thunderball lottery draw.",
-              "times each lottery ball has been drawn as the thunderball, in the thunderball draw.");
-        chart(22, 4, "How Long Since ?",
-              "draws have taken place since each lottery ball was last drawn as the thunderball in the thunderball "
-              "lottery draw.",
-              "draws have taken place since each ball has been drawn as a thunderball in the thunderball draw.");
-        const QString typed =
-            "After entering any ball number, you will be shown how often that ball has appeared and when it appeared, "
-            "as a main ball or ";
-        row(21, 7, "Individual Ball Data", typed + "bonus ball.", "Frame_23");
-        row(22, 5, "Individual Ball Data", typed + "thunderball.", "Frame_24");
-    }
-
     void ScreensDescribeAndOpen()
     {
-        QFETCH(int, page);
-        QFETCH(int, screen);
-        QFETCH(QString, title);
-        QFETCH(QString, description);
-        QFETCH(QString, opens);
-        TestWindow window;
-        StoreDraws(MainGame, {"2026-11-21,3,15,22,31,40,49,9,MERLIN,4"});
-        StoreDraws(ThunderballGame, {"2026-11-21,1,2,3,4,5,6"});
-        Open(window, page);
-        const QString prefix = QString("F%1").arg(page);
-        const QString control = prefix + QString("screen_%1").arg(screen);
-        QVERIFY(!window.IsShown(prefix + "shape"));
-        PointAt(window, control);
-        QCOMPARE(window.TextOf(prefix + "title"), title);
-        QCOMPARE(window.TextOf(prefix + "label"), description);
-        QVERIFY(window.IsShown(prefix + "shape"));
-        QCOMPARE(window.Find(prefix + "shape")->pos(), window.Find(control)->pos() - QPoint(10, 10));
-        QString described;
-        if (!opens.startsWith("Frame"))
-            WillShowChart(window, described);
-        window.Click(control);
-        if (opens.startsWith("Frame"))
-            QVERIFY(window.IsShown(opens));
-        else
-            QCOMPARE(described, (page == 21 ? "Tavenor 3: Main Draw: " : "Tavenor 3: Thunderball Draw: ") + opens);
-        QVERIFY(window.modals.AllCame());
-        QVERIFY(!window.IsShown(prefix + "loading"));
+        for (const int page : {21, 22}) {
+            Menu menu(page);
+            StoreDraws(MainGame, {"2026-11-21,3,15,22,31,40,49,9,MERLIN,4"});
+            StoreDraws(ThunderballGame, {"2026-11-21,1,2,3,4,5,6"});
+            int number = 0;
+            for (const Screen& screen : page == 21 ? MainScreens : ThunderballScreens) {
+                QCOMPARE(menu.IsShown(menu.Name("shape")), number > 0);
+                const QString control = menu.ScreenName(++number);
+                menu.PointAt(number);
+                QCOMPARE(menu.Title(), QString(screen.title));
+                QCOMPARE(menu.TextOf(menu.Name("label")),
+                         (screen.chart.isEmpty() ? QString() : "This shows you how many ") + screen.shows);
+                QCOMPARE(menu.Find(menu.Name("shape"))->pos(), menu.Find(control)->pos() - QPoint(10, 10));
+                if (screen.chart.isEmpty()) {
+                    menu.Click(control);
+                    QVERIFY(menu.IsShown(QString("Frame_%1").arg(page + 2)));
+                    continue;
+                }
+                QCOMPARE(menu.ChartOf([&] { menu.Click(control); }),
+                         QString("Tavenor 3: %1 Draw: This is a bar chart, showing how many ")
+                                 .arg(page == 21 ? "Main" : "Thunderball") +
+                             screen.chart);
+                QVERIFY(!menu.IsShown(menu.Name("loading")));
+            }
+        }
     }
 
-    void TitleAndDescriptionOpenTheSelectedScreen()
+    void KeysTitleAndDescriptionOpenTheSelectedScreen()
     {
-        TestWindow window(TestFolder::Content::Starter);
-        Open(window, 21);
+        Menu menu(21, TestFolder::Content::Starter);
         for (const char* label : {"F21title", "F21label"})
-            window.Click(label);
-        QVERIFY(window.modals.AllCame());
-        PointAt(window, "F21screen_5");
+            menu.Click(label);
+        QVERIFY(menu.modals.AllCame());
+        menu.PointAt(5);
         // A button let go beside the label that it was pressed on is no click.
-        QTest::mousePress(window.Find("F21title"), Qt::LeftButton);
-        QTest::mouseRelease(window.Find("F21title"), Qt::LeftButton, {}, QPoint(5, -20));
-        QVERIFY(window.modals.AllCame());
-        for (const char* label : {"F21label", "F21title"}) {
-            QString described;
-            WillShowChart(window, described);
-            window.Click(label);
-            QVERIFY(described.contains("lottery machine"));
+        QTest::mousePress(menu.Find("F21title"), Qt::LeftButton);
+        QTest::mouseRelease(menu.Find("F21title"), Qt::LeftButton, {}, QPoint(5, -20));
+        QVERIFY(menu.modals.AllCame());
+        for (const char* label : {"F21label", "F21title"})
+            QVERIFY(menu.ChartOf([&] { menu.Click(label); }).contains("lottery machine"));
+        menu.Find("F21screen_1")->setFocus();
+        menu.PressFocused(Qt::Key_Tab);
+        QCOMPARE(menu.FocusedName() + menu.Title(), QString("F21screen_2Colour Frequency"));
+        // The pointer strays to another screen; the keys open the one that has the focus.
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            menu.PointAt(6);
+            QVERIFY(menu.ChartOf([&] { menu.PressFocused(key); }).contains("different colour"));
         }
-        QVERIFY(window.modals.AllCame());
-        Open(window, 22);
-        Open(window, 21);
-        QCOMPARE(window.TextOf("F21title"), QString("Main Draw Analysis"));
-        QCOMPARE(window.TextOf("F21label"), Unpointed);
-        QVERIFY(!window.IsShown("F21shape"));
-        window.Click("F21label");
-        QVERIFY(window.modals.AllCame());
+        menu.Click("Suboption2");
+        menu.Open();
+        QCOMPARE(menu.Title(), QString("Main Draw Analysis"));
+        QCOMPARE(menu.TextOf("F21label"), QString("Move the pointer over the different screenshots to see a "
+                                                  "description of it, then click to go to it."));
+        QVERIFY(!menu.IsShown("F21shape"));
+        menu.Click("F21label");
+        QVERIFY(menu.modals.AllCame());
     }
 
     void OnlyAnotherScreenRedraws()
     {
-        TestWindow window;
-        Open(window, 22);
-        QCOMPARE(window.TextOf("F22title"), QString("Thunderball Draw Analysis"));
-        PointAt(window, "F22screen_1");
-        window.Find<QLabel>("F22title")->setText("as it was");
-        PointAt(window, "F22screen_1", QPoint(20, 20));
-        QCOMPARE(window.TextOf("F22title"), QString("as it was"));
-        PointAt(window, "F22screen_3");
-        QCOMPARE(window.TextOf("F22title"), QString("Thunderball Frequency"));
-        window.Window().resize(1300, 900);
+        Menu menu(22);
+        QCOMPARE(menu.Title(), QString("Thunderball Draw Analysis"));
+        menu.PointAt(1);
+        menu.Find<QLabel>("F22title")->setText("as it was");
+        menu.PointAt(1, QPoint(20, 20));
+        QCOMPARE(menu.Title(), QString("as it was"));
+        menu.PointAt(3);
+        QCOMPARE(menu.Title(), QString("Thunderball Frequency"));
+        menu.Window().resize(1300, 900);
         QApplication::processEvents();
-        QCOMPARE(window.Find("F22shape")->geometry(),
-                 window.Find("F22screen_3")->geometry().adjusted(-10, -10, 10, 10));
-    }
-
-    void TabDescribesAndEnterOrSpaceOpens()
-    {
-        TestWindow window(TestFolder::Content::Starter);
-        Open(window, 21);
-        window.Find("F21screen_1")->setFocus();
-        window.PressFocused(Qt::Key_Tab);
-        QCOMPARE(window.FocusedName(), QString("F21screen_2"));
-        QCOMPARE(window.TextOf("F21title"), QString("Colour Frequency"));
-        // The pointer strays to another screen; the keys open the one that has the focus.
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-            PointAt(window, "F21screen_6");
-            QString described;
-            WillShowChart(window, described);
-            window.PressFocused(key);
-            QVERIFY(described.contains("different colour"));
-        }
-        QVERIFY(window.modals.AllCame());
+        QCOMPARE(menu.Find("F22shape")->geometry(), menu.Find("F22screen_3")->geometry().adjusted(-10, -10, 10, 10));
     }
 
     void WithoutDrawsEveryChartSaysSoOnce()
     {
         for (const int page : {21, 22}) {
-            TestWindow window;
+            Menu menu(page);
             // The other game's draws make no difference.
             StoreDraws(page == 21 ? ThunderballGame : MainGame, {"2026-11-21,1,2,3,4,5,6,7"});
-            Open(window, page);
             const int charts = page == 21 ? 6 : 4;
             for (int screen = 1; screen <= charts; ++screen) {
-                window.modals.WillPress(QMessageBox::Ok);
-                window.Click(QString("F%1screen_%2").arg(page).arg(screen));
-                QCOMPARE(window.modals.TakeTexts(), QStringList{"There are no draws in the database."});
-                QVERIFY(!window.IsShown(QString("F%1loading").arg(page)));
+                menu.modals.WillPress(QMessageBox::Ok);
+                menu.Click(menu.ScreenName(screen));
+                QCOMPARE(menu.modals.TakeTexts(), QStringList{"There are no draws in the database."});
+                QVERIFY(!menu.IsShown(menu.Name("loading")));
             }
-            window.Click(QString("F%1screen_%2").arg(page).arg(charts + 1));
-            QVERIFY(window.IsShown(QString("Frame_%1").arg(page + 2)));
-            QVERIFY(window.modals.AllCame());
+            menu.Click(menu.ScreenName(charts + 1));
+            QVERIFY(menu.IsShown(QString("Frame_%1").arg(page + 2)) && menu.modals.AllCame());
         }
     }
 };

@@ -2,6 +2,7 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
+#include "analysis/draw_history.h"
 #include "records/compaction.h"
 #include "users/user_records.h"
 
@@ -12,6 +13,13 @@ namespace {
 QString DetailOf(const std::function<void()>& action)
 {
     return FailureOf(action).detail;
+}
+
+using Engine = std::unique_ptr<sqlite3, int (*)(sqlite3*)>;
+
+Engine OpenUsers()
+{
+    return {OpenGuarded(UserDataPath, {}, {}, "opening"), sqlite3_close_v2};
 }
 
 /// The program's two files, one of which somebody has worked over.
@@ -36,11 +44,14 @@ const char* const WithKeys = "DROP TABLE entries; CREATE UNIQUE INDEX number ON 
                              "CREATE TABLE entries(EntryId INTEGER, UserId INTEGER REFERENCES users(UserId) ON DELETE "
                              "CASCADE, DrawType, Ball1, Ball2, Ball3, Ball4, Ball5, Ball6, Monday, Tuesday, Wednesday, "
                              "Thursday, Friday, Saturday, Sunday); INSERT INTO entries(EntryId, UserId) VALUES (1, 1)";
-const char* const EndlessList = "DROP VIEW ukmainlist; CREATE VIEW ukmainlist AS WITH RECURSIVE more(n) AS (SELECT 1 "
-                                "UNION ALL SELECT n + 1 FROM more) SELECT n AS DrawId, n AS \"Date\", n AS Day, n AS "
-                                "Ball1, n AS Ball2, n AS Ball3, n AS Ball4, n AS Ball5, n AS Ball6, n AS Bonus, n AS "
-                                "Machine, n AS BallSet FROM more;"
-                                "INSERT INTO ukmain(DrawId, \"Date\") VALUES (1, '2020-01-04'), (2, '2020-01-11')";
+const char* const WithChecks =
+    "CREATE TABLE c(a INTEGER PRIMARY KEY AUTOINCREMENT, b TEXT DEFAULT (upper('x')) COLLATE "
+    "NOCASE CHECK (length(b) < 9)); INSERT INTO c(b) VALUES ('y')";
+const char* const EndlessList =
+    "DROP VIEW ukmainlist; CREATE VIEW ukmainlist(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
+    "Ball4, Ball5, Ball6, Bonus, Machine, BallSet) AS WITH RECURSIVE more(n) AS (SELECT 1 "
+    "UNION ALL SELECT n + 1 FROM more) SELECT n, n, n, n, n, n, n, n, n, n, n, n FROM more;"
+    "INSERT INTO ukmain(DrawId, \"Date\") VALUES (1, '2020-01-04'), (2, '2020-01-11')";
 
 } // namespace
 
@@ -49,65 +60,45 @@ class ForeignFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void NothingOfTheFileRunsWhenRowsChange_data()
-    {
-        QTest::addColumn<std::string>("sql");
-        const auto row = [](const char* name, const std::string& sql) { QTest::newRow(name) << sql; };
-        row("trigger on adding", "CREATE TRIGGER t AFTER INSERT ON users BEGIN DELETE FROM entries; END");
-        row("trigger on deleting", "CREATE TRIGGER t BEFORE DELETE ON users BEGIN DELETE FROM entries; END");
-        row("foreign key", WithKeys);
-        row("virtual table", "CREATE VIRTUAL TABLE search USING fts4(a)");
-        row("index on an expression", "CREATE INDEX i ON users(lower(trim(UserName)))");
-        row("index on some rows", "CREATE INDEX i ON entries(UserId) WHERE abs(UserId) > 5");
-        row("checks and defaults", "CREATE TABLE c(a INTEGER PRIMARY KEY AUTOINCREMENT, b TEXT DEFAULT (upper('x')) "
-                                   "COLLATE NOCASE CHECK (length(b) < 9)); INSERT INTO c(b) VALUES ('y')");
-        row("statistics of the tables", "CREATE INDEX i ON users(UserId); ANALYZE");
-        row("another table's computed column", "CREATE TABLE c(a, b AS (a + 1)); INSERT INTO c VALUES (1)");
-        row("view of nothing", "CREATE VIEW v AS SELECT * FROM nowhere");
-    }
-
     void NothingOfTheFileRunsWhenRowsChange()
     {
-        QFETCH(std::string, sql);
-        const ForeignFiles files(sql);
-        OpenDatabaseFiles();
-        AddUser(users, "Bob", 1);
-        users.MoveFirst();
-        ChangeUser(users, "Anna", 2);
-        users.Delete();
-        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"2,Bob,1"});
-        QCOMPARE(TestFolder::StoredRows("entries").size(), 1);
-        CloseDatabaseFiles();
-        const auto compacted = files.folder.Path("compacted").toStdString();
-        QCOMPARE(DetailOf([&] { CompactDatabase(UserDataPath, compacted, {}); }), QString());
-        QCOMPARE(CountRows(compacted, {}, "counting").at("entries"), 1);
-    }
-
-    void TableMustBeATable_data()
-    {
-        QTest::addColumn<std::string>("sql");
-        const auto row = [](const char* name, const std::string& sql) {
-            QTest::newRow(name) << "DROP TABLE users;" + sql;
-        };
-        const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
-        row("view", "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit");
-        row("view that says it is a table", "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit;" +
-                                                schema + "type = 'table', rootpage = 2 WHERE name = 'users'");
-        row("virtual table", "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit)");
-        row("virtual table that says it has a page",
-            "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit);" + schema +
-                "rootpage = 2 WHERE name = 'users'");
-        row("computed column", "CREATE TABLE users(UserId, UserName, SpendLimit AS (UserId * 2))");
-        row("further computed column", "CREATE TABLE users(UserId, UserName, SpendLimit, More AS (hex(UserName)))");
-        row("no row numbers", "CREATE TABLE users(UserId PRIMARY KEY, UserName, SpendLimit) WITHOUT ROWID");
+        for (const char* sql :
+             {"CREATE TRIGGER t AFTER INSERT ON users BEGIN DELETE FROM entries; END",
+              "CREATE TRIGGER t BEFORE DELETE ON users BEGIN DELETE FROM entries; END", WithKeys,
+              "CREATE VIRTUAL TABLE search USING fts4(a)", "CREATE INDEX i ON users(lower(trim(UserName)))",
+              "CREATE INDEX i ON entries(UserId) WHERE abs(UserId) > 5", WithChecks,
+              "CREATE INDEX i ON users(UserId); ANALYZE", "PRAGMA journal_mode = WAL",
+              "CREATE TABLE c(a, b AS (a + 1)); INSERT INTO c VALUES (1)", "CREATE VIEW v AS SELECT * FROM nowhere"}) {
+            const ForeignFiles files(sql);
+            OpenDatabaseFiles();
+            AddUser(users, "Bob", 1);
+            users.MoveFirst();
+            ChangeUser(users, "Anna", 2);
+            users.Delete();
+            QCOMPARE(files.folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"2,Bob,1"});
+            QCOMPARE(TestFolder::StoredRows("entries").size(), 1);
+            CloseDatabaseFiles();
+            const auto compacted = files.folder.Path("compacted").toStdString();
+            QCOMPARE(sql + DetailOf([&] { CompactDatabase(UserDataPath, compacted, {}); }), QString(sql));
+            QCOMPARE(CountRows(compacted, {}, "counting").at("entries"), 1);
+        }
     }
 
     void TableMustBeATable()
     {
-        QFETCH(std::string, sql);
-        const ForeignFiles files(sql);
-        const QString detail = DetailOf(OpenDatabaseFiles);
-        QVERIFY2(!detail.isEmpty(), "the file was opened");
+        const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
+        const std::string view = "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit;";
+        const std::string search = "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit);";
+        for (const std::string& sql :
+             {view, view + schema + "type = 'table', rootpage = 2 WHERE name = 'users'", search,
+              search + schema + "rootpage = 2 WHERE name = 'users'",
+              std::string("CREATE TABLE users(UserId, UserName, SpendLimit AS (UserId * 2))"),
+              std::string("CREATE TABLE users(UserId, UserName, SpendLimit, More AS (hex(UserName)))"),
+              std::string("CREATE TABLE users(UserId PRIMARY KEY, UserName, SpendLimit) WITHOUT ROWID")}) {
+            const ForeignFiles files("DROP TABLE users;" + sql);
+            QVERIFY2(!DetailOf(OpenDatabaseFiles).isEmpty(), sql.c_str());
+        }
     }
 
     void ListIsReadFromItsTable()
@@ -123,42 +114,50 @@ private Q_SLOTS:
         QVERIFY(clock.elapsed() < 2000);
     }
 
-    void EngineAdmitsOnlyWhatTheProgramDoes_data()
+    void NumbersInThePlaceOfTextsAreTexts()
     {
-        QTest::addColumn<bool>("compacting");
-        QTest::addColumn<std::string>("sql");
-        for (const char* sql : {"CREATE TABLE x(a)", "DROP TABLE users", "CREATE TEMP TABLE x(a)",
-                                "PRAGMA writable_schema = 1", "PRAGMA journal_mode = OFF", "PRAGMA trusted_schema = 1",
-                                "SELECT load_extension('x')", "SELECT randomblob(5)",
-                                "WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n FROM more) SELECT n FROM more",
-                                "SELECT * FROM v", "SELECT * FROM search"}) {
-            QTest::addRow("open: %s", sql) << false << std::string(sql);
-            QTest::addRow("compacting: %s", sql) << true << std::string(sql);
-        }
-        for (const char* sql :
-             {"ATTACH ':memory:' AS other", "SELECT sqlcipher_export('main')", "UPDATE sqlite_master SET sql = ''"})
-            QTest::addRow("open: %s", sql) << false << std::string(sql);
+        const ForeignFiles files("DROP TABLE users; CREATE TABLE users(UserId, UserName, SpendLimit);"
+                                 "INSERT INTO users VALUES (1, 42, 5)",
+                                 "DROP TABLE ukmain; CREATE TABLE ukmain(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
+                                 "Ball4, Ball5, Ball6, Bonus, Machine, BallSet); INSERT INTO ukmain VALUES "
+                                 "(1, '2020-01-04', 'Sat', 1, 2, 3, 4, 5, 6, 7, 'MERLIN', 4.0), "
+                                 "(2, '2020-01-11', 'Sat', 1, 2, 3, 4, 5, 6, 7, 12, 4)");
+        OpenDatabaseFiles();
+        users.MoveFirst();
+        QCOMPARE(ReadUser(users).name, QString("42"));
+        ukmainlist.MoveFirst();
+        QCOMPARE(ukmainlist.Text(10), std::string_view("12"));
+        QCOMPARE(CountChart(FindChart(6)).Bars(BallType::AllBalls)[3].value, 2);
     }
 
     void EngineAdmitsOnlyWhatTheProgramDoes()
     {
-        QFETCH(bool, compacting);
-        QFETCH(std::string, sql);
         const ForeignFiles files("CREATE VIEW v AS SELECT 1; CREATE VIRTUAL TABLE search USING fts4(a)");
-        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(OpenGuarded(UserDataPath, {}, {}, "opening"),
-                                                                 sqlite3_close_v2);
-        if (compacting)
-            AllowExport(engine.get());
-        QCOMPARE(DetailOf([&] { Execute(engine.get(), "SELECT count(*) FROM users", "counting"); }), QString());
-        QVERIFY(!DetailOf([&] { Execute(engine.get(), sql, "trying"); }).isEmpty());
+        const Engine engine = OpenUsers();
+        const auto refused = [&](const char* sql) {
+            return !DetailOf([&] { Execute(engine.get(), sql, "trying"); }).isEmpty();
+        };
+        for (const char* sql :
+             {"ATTACH ':memory:' AS other", "SELECT sqlcipher_export('main')", "UPDATE sqlite_master SET sql = ''"})
+            QVERIFY2(refused(sql), sql);
+        for (const bool compacting : {false, true}) {
+            if (compacting)
+                AllowExport(engine.get());
+            QVERIFY(!refused("SELECT count(*) FROM users"));
+            for (const char* sql :
+                 {"CREATE TABLE x(a)", "DROP TABLE users", "CREATE TEMP TABLE x(a)", "PRAGMA writable_schema = 1",
+                  "PRAGMA journal_mode = OFF", "PRAGMA trusted_schema = 1", "SELECT load_extension('x')",
+                  "SELECT randomblob(5)", "SELECT * FROM v", "SELECT * FROM search",
+                  "WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n FROM more) SELECT n FROM more"})
+                QVERIFY2(refused(sql), sql);
+        }
     }
 
     void StatementWithoutEndIsStopped()
     {
         const ForeignFiles files("CREATE TABLE n(a); WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM "
                                  "more LIMIT 3000) INSERT INTO n SELECT n FROM more");
-        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(OpenGuarded(UserDataPath, {}, {}, "opening"),
-                                                                 sqlite3_close_v2);
+        const Engine engine = OpenUsers();
         QElapsedTimer clock;
         clock.start();
         QCOMPARE(DetailOf([&] { Execute(engine.get(), "SELECT count(*) FROM n, n AS o, n AS p", "counting"); }),

@@ -5,22 +5,25 @@
 
 namespace {
 
-const QByteArray MainHeading = "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Ball6,Bonus,Machine,BallSet\n";
-const QByteArray ThunderballHeading = "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Thunderball\n";
-const QByteArray LinksHeading = "SiteName,WebAddress,MailAddress,Description1,Description2\n";
-
 /// Runs the tool on three lists in a folder of its own.
-class Run
+struct Run
 {
-public:
     Run(const QByteArray& mainRows, const QByteArray& thunderballRows)
     {
-        const QStringList lists{Write("main.csv", MainHeading + mainRows),
-                                Write("thunderball.csv", ThunderballHeading + thunderballRows),
-                                Write("links.csv", LinksHeading + "A site,www.site.example,,One,Two\n")};
+        QStringList arguments;
+        const auto write = [&](const QString& name, const QByteArray& content) {
+            QFile file(folder.filePath(name));
+            if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+                qFatal("A list could not be written");
+            arguments.append(file.fileName());
+        };
+        write("main.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Ball6,Bonus,Machine,BallSet\n" + mainRows);
+        write("thunderball.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Thunderball\n" + thunderballRows);
+        write("links.csv",
+              "SiteName,WebAddress,MailAddress,Description1,Description2\nA site,www.site.example,,One,Two\n");
         SetProgramDir(folder.filePath("out").toStdString());
         QProcess process;
-        process.start(TAVENOR_MAKE_DATABASES, lists + QStringList{folder.filePath("out")});
+        process.start(TAVENOR_MAKE_DATABASES, arguments << folder.filePath("out"));
         process.waitForFinished();
         code = process.exitCode();
         said = QString::fromLocal8Bit(process.readAllStandardError());
@@ -29,15 +32,6 @@ public:
     int code;
     QString said;
     QTemporaryDir folder;
-
-private:
-    QString Write(const QString& name, const QByteArray& content)
-    {
-        QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("A list could not be written");
-        return file.fileName();
-    }
 };
 
 } // namespace
@@ -60,29 +54,23 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("users"), QStringList());
     }
 
-    void ImpossibleRowStopsItWithItsPlace_data()
-    {
-        QTest::addColumn<QByteArray>("row");
-        QTest::addColumn<QString>("reason");
-        const QString balls = "a ball is out of range or stands twice";
-        QTest::newRow("no date") << QByteArray("2015-02-30,1,2,3,4,5,6,7,,") << "2015-02-30 is not a date";
-        QTest::newRow("no ball") << QByteArray("2015-10-07,1,x,3,4,5,6,7,,") << "x is not a ball";
-        QTest::newRow("out of range") << QByteArray("2015-10-07,1,2,3,4,5,50,7,,") << balls;
-        QTest::newRow("twice") << QByteArray("2015-10-07,1,2,3,4,4,6,7,,") << balls;
-        QTest::newRow("bonus a main ball") << QByteArray("2015-10-07,1,2,3,4,5,6,6,,") << balls;
-        QTest::newRow("not ascending") << QByteArray("2015-10-07,2,1,3,4,5,6,7,,")
-                                       << "the main balls are not in ascending order";
-        QTest::newRow("a field missing") << QByteArray("2015-10-07,1,2,3,4,5,6,7,") << "9 fields instead of 10";
-    }
-
     void ImpossibleRowStopsItWithItsPlace()
     {
-        QFETCH(QByteArray, row);
-        QFETCH(QString, reason);
-        const Run run("1994-11-19,3,5,14,22,30,44,10,,\n" + row + "\n", "");
-        QCOMPARE(run.code, 1);
-        QVERIFY2(run.said.trimmed().endsWith("main.csv:3: " + reason), qPrintable(run.said));
-        QVERIFY(!QFile::exists(run.folder.filePath("out/drawdata.tv3")));
+        const QString balls = "a ball is out of range or stands twice";
+        const std::pair<QByteArray, QString> rows[] = {
+            {"2015-02-30,1,2,3,4,5,6,7,,", "2015-02-30 is not a date"},
+            {"2015-10-07,1,x,3,4,5,6,7,,", "x is not a ball"},
+            {"2015-10-07,1,2,3,4,5,50,7,,", balls},
+            {"2015-10-07,1,2,3,4,4,6,7,,", balls},
+            {"2015-10-07,1,2,3,4,5,6,6,,", balls},
+            {"2015-10-07,2,1,3,4,5,6,7,,", "the main balls are not in ascending order"},
+            {"2015-10-07,1,2,3,4,5,6,7,", "9 fields instead of 10"}};
+        for (const auto& [row, reason] : rows) {
+            const Run run("1994-11-19,3,5,14,22,30,44,10,,\n" + row + "\n", "");
+            QCOMPARE(run.code, 1);
+            QVERIFY2(run.said.trimmed().endsWith("main.csv:3: " + reason), qPrintable(run.said));
+            QVERIFY(!QFile::exists(run.folder.filePath("out/drawdata.tv3")));
+        }
     }
 
     void StarterDatabasesHoldTheWholeHistory()

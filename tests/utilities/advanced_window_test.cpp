@@ -2,8 +2,6 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
-#include "draws/draw_tables.h"
-#include "draws/game.h"
 #include "records/file_lock.h"
 #include "shell/start_up.h"
 #include "users/user_records.h"
@@ -15,14 +13,22 @@
 
 namespace {
 
-const QString Critical =
-    "There is a problem with the database files.\r\nIf the problem persists, download with database "
-    "files\r\nfrom https://www.tavenor.example and put them in the Tavenor 3 directory\r\nor contact "
-    "us at support@tavenor.example";
 const QString DrawNotStored = "The draw database has not been stored.";
 const QString DrawNotAltered = "The draw database has not been altered.";
 const QString UserNotStored = "The user entry database has not been stored.";
 const QString UserNotAltered = "The user entry database has not been altered.";
+const QStringList BothFiles{"drawdata.tv3", "userdata.tv3"};
+
+/// What is said of either file.
+struct Kind
+{
+    QString name;
+    QString stored;
+    QString replaced;
+};
+const Kind Kinds[] = {
+    {"draw", "A copy of the draw record database has been stored.", "The draw record database has been replaced."},
+    {"user", "A copy of the user entry database has been stored.", "The user entry database has been replaced."}};
 
 QByteArray Bytes(const QString& path)
 {
@@ -57,11 +63,21 @@ public:
 
     static QStringList Rows() { return TestFolder::StoredRows("ukmain") + TestFolder::StoredRows("users"); }
     QString Own(const QString& file) const { return own.filePath(file); }
+    QString Live(const QString& kind) const { return window.files.Path(kind + "data.tv3"); }
 
     /// Presses a button of frmadvanced, types a path into the file dialog and accepts it.
     void Do(const QString& button, const QString& path, const QList<QMessageBox::StandardButton>& answers)
     {
-        Choose(button, [path](QFileDialog& dialog) { Accept(dialog, path); });
+        Choose(button, [path](QFileDialog& dialog) {
+            QTimer::singleShot(0, &dialog, [&dialog, path] {
+                auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+                name->setText(path);
+                QTest::keyClick(name, Qt::Key_Return);
+                // Still there when the question about overwriting was answered with No.
+                if (dialog.isVisible())
+                    dialog.reject();
+            });
+        });
         for (const auto answer : answers)
             window.modals.WillPress(answer);
         Finish();
@@ -86,18 +102,6 @@ public:
         QVERIFY(window.modals.AllCame());
     }
 
-    static void Accept(QFileDialog& dialog, const QString& path)
-    {
-        QTimer::singleShot(0, &dialog, [&dialog, path] {
-            auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-            name->setText(path);
-            QTest::keyClick(name, Qt::Key_Return);
-            // Still there when the question about overwriting was answered with No.
-            if (dialog.isVisible())
-                dialog.reject();
-        });
-    }
-
     /// Ends the program and starts it again in the same folder.
     static void StartAgain()
     {
@@ -117,84 +121,49 @@ class AdvancedWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void WindowHasItsControls()
+    void WindowAndDialogHaveTheirControls()
     {
         Utilities utilities;
-        QString title;
-        QStringList captions;
+        QStringList seen;
         utilities.window.modals.WillDo([&](QDialog& advanced) {
-            title = advanced.objectName() + u'|' + advanced.windowTitle();
-            for (const char* name : {"Label_0", "Label_1", "Label_2"})
-                captions.append(advanced.findChild<QLabel*>(name)->text());
-            for (const char* name : {"exportdraw", "importdraw", "exportuser", "importuser", "back"})
-                captions.append(advanced.findChild<QPushButton*>(name)->text());
-            QTest::mouseClick(advanced.findChild<QPushButton*>("back"), Qt::LeftButton);
-        });
-        utilities.window.Click("advanced");
-        QCOMPARE(title, QString("frmadvanced|Tavenor 3 --- Advanced Options"));
-        QCOMPARE(captions, (QStringList{"Database Utilities", "Draw Records", "User Entries", "Backup Draw Database",
-                                        "Import Updated Draw Database", "Backup User Entry Database",
-                                        "Import User Entry Database", "BACK"}));
-        QVERIFY(utilities.window.modals.AllCame());
-    }
-
-    void DialogOffersTheNameAndTheFilter_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("draw backup") << "exportdraw"
-                                     << "drawdata.tv3";
-        QTest::newRow("draw import") << "importdraw"
-                                     << "drawdata.tv3";
-        QTest::newRow("user backup") << "exportuser"
-                                     << "userdata.tv3";
-        QTest::newRow("user import") << "importuser"
-                                     << "userdata.tv3";
-    }
-
-    void DialogOffersTheNameAndTheFilter()
-    {
-        QFETCH(QString, button);
-        QFETCH(QString, name);
-        Utilities utilities;
-        const QByteArray draws = Bytes(utilities.window.files.Path("drawdata.tv3"));
-        QStringList said;
-        utilities.Choose(button, [&](QFileDialog& dialog) {
-            said = QStringList{dialog.objectName(), dialog.findChild<QLineEdit*>("fileNameEdit")->text()} +
-                   dialog.nameFilters();
-            dialog.reject();
+            seen = {advanced.objectName(), advanced.windowTitle()};
+            for (const QString label : {"Label_0", "Label_1", "Label_2"})
+                seen.append(advanced.findChild<QLabel*>(label)->text());
+            for (const QString button : {"exportdraw", "importdraw", "exportuser", "importuser", "back"})
+                seen.append(advanced.findChild<QPushButton*>(button)->text());
+            PressIn(advanced, "back");
         });
         utilities.Finish();
-        QCOMPARE(said, (QStringList{"CommonDialog1", name, "Tavenor 3 Files (*.tv3)"}));
-        QCOMPARE(Bytes(utilities.window.files.Path("drawdata.tv3")), draws);
-        QVERIFY(utilities.window.modals.TakeTexts().isEmpty());
-    }
-
-    void BackupEqualsTheCompactedLiveFile_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("draw") << "drawdata"
-                              << "A copy of the draw record database has been stored.";
-        QTest::newRow("user") << "userdata"
-                              << "A copy of the user entry database has been stored.";
+        QCOMPARE(seen.join('|'), QString("frmadvanced|Tavenor 3 --- Advanced Options|Database Utilities|Draw Records|"
+                                         "User Entries|Backup Draw Database|Import Updated Draw Database|"
+                                         "Backup User Entry Database|Import User Entry Database|BACK"));
+        const QByteArray draws = Bytes(utilities.Live("draw"));
+        for (const QString button : {"exportdraw", "importdraw", "exportuser", "importuser"}) {
+            utilities.Choose(button, [&](QFileDialog& dialog) {
+                seen = QStringList{dialog.objectName(), dialog.findChild<QLineEdit*>("fileNameEdit")->text()} +
+                       dialog.nameFilters();
+                dialog.reject();
+            });
+            utilities.Finish();
+            QCOMPARE(seen, (QStringList{"CommonDialog1", button.mid(6) + "data.tv3", "Tavenor 3 Files (*.tv3)"}));
+        }
+        QCOMPARE(Bytes(utilities.Live("draw")), draws);
     }
 
     void BackupEqualsTheCompactedLiveFile()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, message);
-        Utilities utilities;
-        const QString live = utilities.window.files.Path(name + ".tv3");
-        const qint64 before = QFileInfo(live).size();
-        utilities.Do("export" + name.left(4), utilities.Own("copy"), {QMessageBox::Ok});
-        QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{message});
-        QCOMPARE(Bytes(utilities.Own("copy.tv3")), Bytes(live));
-        QVERIFY(QFileInfo(live).size() < before);
-        QCOMPARE(utilities.window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-        QCOMPARE(utilities.rows, Utilities::Rows());
-        QCOMPARE(users.Count(), 1);
-        QVERIFY(ukmain.Count() > 100);
+        for (const Kind& kind : Kinds) {
+            Utilities utilities;
+            const QString live = utilities.Live(kind.name);
+            const qint64 before = QFileInfo(live).size();
+            utilities.Do("export" + kind.name, utilities.Own("copy"), {QMessageBox::Ok});
+            QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{kind.stored});
+            QCOMPARE(Bytes(utilities.Own("copy.tv3")), Bytes(live));
+            QVERIFY(QFileInfo(live).size() < before);
+            QCOMPARE(utilities.window.files.Files(), BothFiles);
+            QCOMPARE(utilities.rows, Utilities::Rows());
+            QVERIFY(users.Count() == 1 && ukmain.Count() > 100);
+        }
     }
 
     void OverwritingIsAskedFor()
@@ -217,216 +186,148 @@ private Q_SLOTS:
         QVERIFY(Bytes(copy) != "old" && !QFile::exists(journal));
     }
 
-    void LiveFilesAreRefused_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("message");
-        const QString overwrite = "You can't overwrite the current database files,\r\n";
-        const QString use = "You can't use the current database files,\r\n";
-        for (const char* name : {"drawdata.tv3", "userdata.tv3"}) {
-            QTest::addRow("draw backup on %s", name) << "exportdraw" << name << overwrite + DrawNotStored;
-            QTest::addRow("user backup on %s", name) << "exportuser" << name << overwrite + UserNotStored;
-            QTest::addRow("draw import of %s", name) << "importdraw" << name << use + DrawNotAltered;
-            QTest::addRow("user import of %s", name) << "importuser" << name << use + UserNotAltered;
-        }
-    }
-
     void LiveFilesAreRefused()
     {
-        QFETCH(QString, button);
-        QFETCH(QString, name);
-        QFETCH(QString, message);
         Utilities utilities;
-        const QByteArray bytes = Bytes(utilities.window.files.Path(name));
-        QList<QMessageBox::StandardButton> answers{QMessageBox::Ok};
-        if (button.startsWith("export"))
-            answers.prepend(QMessageBox::Yes);
-        utilities.Do(button, utilities.window.files.Path(name), answers);
-        QCOMPARE(utilities.window.modals.TakeTexts().last(), message);
-        QCOMPARE(Bytes(utilities.window.files.Path(name)), bytes);
-    }
-
-    void OwnFileUnderAnotherNameIsNoTarget()
-    {
-        Utilities utilities;
-        const auto refused = [&](const QString& path, const QList<QMessageBox::StandardButton>& answers) {
-            utilities.Do("exportdraw", path, answers);
-            QVERIFY(utilities.window.modals.TakeTexts().value(answers.size() - 1).startsWith(DrawNotStored + "\r\n"));
+        const QList<QByteArray> bytes{Bytes(utilities.Live("draw")), Bytes(utilities.Live("user"))};
+        const auto refused = [&](const QString& button, const QString& path, const QString& message) {
+            const bool asked = button.startsWith("export") && QFile::exists(path);
+            if (asked)
+                utilities.Do(button, path, {QMessageBox::Yes, QMessageBox::Ok});
+            else
+                utilities.Do(button, path, {QMessageBox::Ok});
+            QVERIFY(utilities.window.modals.TakeTexts().last().startsWith(message));
         };
-        QVERIFY(QFile::link(utilities.window.files.Path("userdata.tv3"), utilities.Own("other.tv3")));
-        refused(utilities.Own("other.tv3"), {QMessageBox::Yes, QMessageBox::Ok});
-        for (const char* workingFile : {"drawdata.tp0", "userdata.tp2", "userdata.tv3.new", "userdata.tv3-journal"})
-            refused(utilities.window.files.Path(workingFile), {QMessageBox::Ok});
-        Utilities::StartAgain();
-        QCOMPARE(Utilities::Rows(), utilities.rows);
+        for (const QString& live : {utilities.Live("draw"), utilities.Live("user")}) {
+            refused("exportdraw", live, "You can't overwrite the current database files,\r\n" + DrawNotStored);
+            refused("exportuser", live, "You can't overwrite the current database files,\r\n" + UserNotStored);
+            refused("importdraw", live, "You can't use the current database files,\r\n" + DrawNotAltered);
+            refused("importuser", live, "You can't use the current database files,\r\n" + UserNotAltered);
+        }
+        QVERIFY(QFile::link(utilities.Live("user"), utilities.Own("other.tv3")));
+        refused("exportdraw", utilities.Own("other.tv3"), DrawNotStored + "\r\n");
+        for (const QString own : {"drawdata.tp0", "userdata.tp2", "userdata.tv3.new", "userdata.tv3-journal"})
+            refused("exportdraw", utilities.window.files.Path(own), DrawNotStored + "\r\n");
+        QFile::copy(TAVENOR_STARTER "/userdata.tv3", utilities.Own("unfinished.tv3"));
+        Write(utilities.Own("unfinished.tv3-journal"), "rows");
+        refused("importuser", utilities.Own("unfinished.tv3"),
+                UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because the chosen file");
+        QCOMPARE((QList<QByteArray>{Bytes(utilities.Live("draw")), Bytes(utilities.Live("user"))}), bytes);
     }
 
-    void ImportReplacesOneFileOnly_data()
+    void LeftoversAreClearedAwayWhereTheyCan()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("other");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("draw") << "drawdata.tv3"
-                              << "userdata.tv3"
-                              << "The draw record database has been replaced.";
-        QTest::newRow("user") << "userdata.tv3"
-                              << "drawdata.tv3"
-                              << "The user entry database has been replaced.";
+        Utilities utilities;
+        QVERIFY(QDir().mkdir(utilities.window.files.Path("drawdata.tp1")));
+        Write(utilities.window.files.Path("drawdata.tp2"), "left");
+        Utilities::StartAgain();
+        QVERIFY(!utilities.window.ended);
+        QCOMPARE(utilities.window.files.Files(), BothFiles);
+        QCOMPARE(Utilities::Rows(), utilities.rows);
     }
 
     void ImportReplacesOneFileOnly()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, other);
-        QFETCH(QString, message);
-        Utilities utilities;
-        QFile::copy(TAVENOR_STARTER "/" + name, utilities.Own(name));
-        QFile::setPermissions(utilities.Own(name), QFile::ReadOwner);
-        const QByteArray untouched = Bytes(utilities.window.files.Path(other));
-        utilities.Do("import" + name.left(4), utilities.Own(name), {QMessageBox::Ok});
-        QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{message});
-        QCOMPARE(Bytes(utilities.window.files.Path(name)), Bytes(utilities.Own(name)));
-        QCOMPARE(Bytes(utilities.window.files.Path(other)), untouched);
-        QVERIFY(QFile::permissions(utilities.window.files.Path(name)) & QFile::WriteOwner);
-        QCOMPARE(utilities.window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-        AddUser(users, "Bob", 1);
-        const QStringList rows = Utilities::Rows();
-        Utilities::StartAgain();
-        QCOMPARE(Utilities::Rows(), rows);
-    }
-
-    void BadFileCostsOneStartAndNoData_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<std::function<void(const QString&)>>("make");
-        using Make = std::function<void(const QString&)>;
-        const auto row = [](const char* name, const QString& button, const Make& make) {
-            QTest::newRow(name) << button << make;
-        };
-        const auto changed = [](const char* starter, const std::string& connect, const std::string& sql) {
-            return [=](const QString& file) {
-                QFile::copy(QString(TAVENOR_STARTER "/") + starter, file);
-                RunSql(file.toStdString(), connect, sql);
-            };
-        };
-        row("garbage as draws", "importdraw", [](const QString& file) { Write(file, QByteArray(100000, 'g')); });
-        row("garbage as users", "importuser", [](const QString& file) { Write(file, QByteArray(100000, 'g')); });
-        row("nothing as draws", "importdraw", [](const QString& file) { Write(file, {}); });
-        row("nothing as users", "importuser", [](const QString& file) { Write(file, {}); });
-        row("short", "importdraw", [](const QString& file) { Write(file, "SQLite"); });
-        row("zeros", "importuser", [](const QString& file) { Write(file, QByteArray(8192, '\0')); });
-        row("a heading only", "importuser",
-            [](const QString& file) { Write(file, QByteArray("SQLite format 3\0", 16)); });
-        row("cut off", "importdraw", [](const QString& file) {
-            const QByteArray whole = Bytes(TAVENOR_STARTER "/drawdata.tv3");
-            Write(file, whole.left(whole.size() / 2));
-        });
-        row("damaged in the middle", "importdraw", [](const QString& file) {
-            QByteArray bytes = Bytes(TAVENOR_STARTER "/drawdata.tv3");
-            bytes[bytes.size() / 2] = static_cast<char>(bytes[bytes.size() / 2] ^ 1);
-            Write(file, bytes);
-        });
-        row("plain draws", "importdraw", [](const QString& file) {
-            RunSql(file.toStdString(), {}, "CREATE TABLE ukmain(a); CREATE TABLE ukthunder(a); CREATE TABLE links(a)");
-        });
-        row("another password", "importdraw",
-            [](const QString& file) { RunSql(file.toStdString(), ";pwd=other", "CREATE TABLE ukmain(a)"); });
-        row("users with a password", "importuser",
-            [](const QString& file) { RunSql(file.toStdString(), ";pwd=other", "CREATE TABLE users(a)"); });
-        row("users in the place of draws", "importdraw",
-            [](const QString& file) { QFile::copy(TAVENOR_STARTER "/userdata.tv3", file); });
-        row("no links", "importdraw", changed("drawdata.tv3", DrawConnect, "DROP TABLE links"));
-        row("no list", "importdraw", changed("drawdata.tv3", DrawConnect, "DROP VIEW ukmainlist"));
-        row("columns in another order", "importuser",
-            changed("userdata.tv3", {}, "DROP TABLE users; CREATE TABLE users(UserName, UserId, SpendLimit)"));
-        row("a view in place of a table", "importuser",
-            changed("userdata.tv3", {},
-                    "DROP TABLE users; CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, "
-                    "3 AS SpendLimit"));
+        for (const Kind& kind : Kinds) {
+            Utilities utilities;
+            const QString other = utilities.Live(kind.name == "draw" ? "user" : "draw");
+            const QString chosen = utilities.Own("chosen.tv3");
+            QFile::copy(TAVENOR_STARTER "/" + kind.name + "data.tv3", chosen);
+            QFile::setPermissions(chosen, QFile::ReadOwner);
+            const QByteArray untouched = Bytes(other);
+            utilities.Do("import" + kind.name, chosen, {QMessageBox::Ok});
+            QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{kind.replaced});
+            QCOMPARE(Bytes(utilities.Live(kind.name)), Bytes(chosen));
+            QCOMPARE(Bytes(other), untouched);
+            QVERIFY(QFile::permissions(utilities.Live(kind.name)) & QFile::WriteOwner);
+            QCOMPARE(utilities.window.files.Files(), BothFiles);
+            AddUser(users, "Bob", 1);
+            const QStringList rows = Utilities::Rows();
+            Utilities::StartAgain();
+            QCOMPARE(Utilities::Rows(), rows);
+        }
     }
 
     void BadFileCostsOneStartAndNoData()
     {
-        QFETCH(QString, button);
-        QFETCH(std::function<void(const QString&)>, make);
-        Utilities utilities;
-        const QString bad = utilities.Own("bad.tv3");
-        make(bad);
-        utilities.Do(button, bad, {QMessageBox::Ok});
-        const QList<SeenBox> seen = utilities.window.modals.TakeSeen();
-        QCOMPARE(seen.size(), 1);
-        QCOMPARE(seen[0].text, Critical);
-        QCOMPARE(seen[0].icon, QMessageBox::Critical);
-        QVERIFY(utilities.window.ended);
-        CloseDatabaseFiles();
-        // What the engine might have left beside the bad file.
-        Write(utilities.window.files.Path(button == "importdraw" ? "drawdata.tv3-journal" : "userdata.tv3-journal"),
-              "left");
-        OpenDatabasesAtStart();
-        QCOMPARE(Utilities::Rows(), utilities.rows);
-        QCOMPARE(utilities.window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-    }
-
-    void FailingStepIsToldAndLeavesAllAsItWas_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("importedBytes");
-        QTest::addColumn<int>("room");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("compaction") << "exportdraw" << 0 << 40000
-                                    << DrawNotStored + "\r\nThe file drawdata.tp1 could not be written";
-        QTest::newRow("keeping aside") << "importdraw" << 100 << 40000
-                                       << DrawNotAltered + "\r\nThe file drawdata.tp0 could not be written";
-        QTest::newRow("replacing") << "importuser" << 200000 << 150000
-                                   << UserNotAltered + "\r\nThe file userdata.tv3 could not be written";
+        const QByteArray draws = Bytes(TAVENOR_STARTER "/drawdata.tv3");
+        const QByteArray people = Bytes(TAVENOR_STARTER "/userdata.tv3");
+        QByteArray damaged = draws;
+        damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
+        const auto costs = [](const char* name, const QString& kind, const QByteArray& bytes, const char* sql = "",
+                              const std::string& connect = {}) {
+            Utilities utilities;
+            const QString bad = utilities.Own("bad.tv3");
+            Write(bad, bytes);
+            RunSql(bad.toStdString(), connect, sql);
+            utilities.Do("import" + kind, bad, {QMessageBox::Ok});
+            const QList<SeenBox> seen = utilities.window.modals.TakeSeen();
+            QVERIFY2(seen.size() == 1 && seen[0].icon == QMessageBox::Critical && utilities.window.ended, name);
+            QVERIFY(seen[0].text.startsWith("There is a problem with the database files."));
+            Utilities::StartAgain();
+            QVERIFY2(Utilities::Rows() == utilities.rows, name);
+            QCOMPARE(utilities.window.files.Files(), BothFiles);
+        };
+        costs("garbage as draws", "draw", QByteArray(100000, 'g'));
+        costs("garbage as users", "user", QByteArray(100000, 'g'));
+        costs("nothing as draws", "draw", {});
+        costs("nothing as users", "user", {});
+        costs("a heading only", "user", QByteArray("SQLite format 3\0", 16));
+        costs("cut off", "draw", draws.left(draws.size() / 2));
+        costs("damaged in the middle", "draw", damaged);
+        costs("users in the place of draws", "draw", people);
+        costs("another password", "draw", {}, "CREATE TABLE ukmain(a)", ";pwd=other");
+        costs("users with a password", "user", {}, "CREATE TABLE users(a)", ";pwd=other");
+        costs("no links", "draw", draws, "DROP TABLE links", DrawConnect);
+        costs("no list", "draw", draws, "DROP VIEW ukmainlist", DrawConnect);
+        costs("columns in another order", "user", people,
+              "DROP TABLE users; CREATE TABLE users(UserName, UserId, SpendLimit)");
     }
 
     void FailingStepIsToldAndLeavesAllAsItWas()
     {
-        QFETCH(QString, button);
-        QFETCH(int, importedBytes);
-        QFETCH(int, room);
-        QFETCH(QString, message);
-        Utilities utilities;
-        const QString file = utilities.Own("file.tv3");
-        if (importedBytes > 0)
-            Write(file, QByteArray(importedBytes, 'g'));
-        {
-            const FullDisk full(static_cast<rlim_t>(room));
-            utilities.Do(button, file, {QMessageBox::Ok});
-        }
-        const QString told = utilities.window.modals.TakeTexts().value(0);
-        QVERIFY2(told.startsWith(message + ", because the disk is full.\r\n("), qPrintable(told));
-        QCOMPARE(utilities.window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-        QCOMPARE(QFile::exists(file), importedBytes > 0);
-        QCOMPARE(users.Count(), 1);
-        Utilities::StartAgain();
-        QCOMPARE(Utilities::Rows(), utilities.rows);
+        const auto fails = [](const QString& button, int importedBytes, rlim_t room, const QString& message) {
+            Utilities utilities;
+            const QString file = utilities.Own("file.tv3");
+            if (importedBytes > 0)
+                Write(file, QByteArray(importedBytes, 'g'));
+            {
+                const FullDisk full(room);
+                utilities.Do(button, file, {QMessageBox::Ok});
+            }
+            const QString told = utilities.window.modals.TakeTexts().value(0);
+            QVERIFY2(told.startsWith(message + " could not be written, because the disk is full.\r\n("),
+                     qPrintable(told));
+            QCOMPARE(utilities.window.files.Files(), BothFiles);
+            QCOMPARE(QFile::exists(file), importedBytes > 0);
+            QCOMPARE(users.Count(), 1);
+            Utilities::StartAgain();
+            QCOMPARE(Utilities::Rows(), utilities.rows);
+        };
+        fails("exportdraw", 0, 40000, DrawNotStored + "\r\nThe file drawdata.tp1");
+        fails("importdraw", 100, 40000, DrawNotAltered + "\r\nThe file drawdata.tp0");
+        fails("importuser", 200000, 150000, UserNotAltered + "\r\nThe file userdata.tv3");
     }
 
     void AnotherRunningCopyIsRespected()
     {
         Utilities utilities;
-        const QString live = utilities.window.files.Path("userdata.tv3");
+        const QString live = utilities.Live("user");
         FileLock otherCopy;
         otherCopy.Share(live.toStdString(), "The other copy could not open the file");
         const QByteArray bytes = Bytes(live);
-
-        utilities.Do("exportuser", utilities.Own("copy.tv3"), {QMessageBox::Ok});
-        QCOMPARE(utilities.window.modals.TakeTexts(),
-                 QStringList{"A copy of the user entry database has been stored."});
+        const auto told = [&](const QString& button) {
+            utilities.Do(button, utilities.Own("copy.tv3"), {QMessageBox::Ok});
+            return utilities.window.modals.TakeTexts().value(0);
+        };
+        QCOMPARE(told("exportuser"), Kinds[1].stored);
+        QVERIFY(told("importuser")
+                    .startsWith(UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because another "
+                                                 "copy of the program"));
         QCOMPARE(Bytes(live), bytes);
-
-        utilities.Do("importuser", utilities.Own("copy.tv3"), {QMessageBox::Ok});
-        QVERIFY(utilities.window.modals.TakeTexts().value(0).startsWith(
-            UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because another copy of the program"));
-        QCOMPARE(Bytes(live), bytes);
-        QCOMPARE(utilities.window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-
+        QCOMPARE(utilities.window.files.Files(), BothFiles);
         otherCopy.Release();
-        utilities.Do("importuser", utilities.Own("copy.tv3"), {QMessageBox::Ok});
-        QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{"The user entry database has been replaced."});
+        QCOMPARE(told("importuser"), Kinds[1].replaced);
         QCOMPARE(Utilities::Rows(), utilities.rows);
     }
 
