@@ -9,12 +9,15 @@
 
 #include <QApplication>
 
+#include <csignal>
 #include <filesystem>
 #include <memory>
 #include <system_error>
 
 int main(int count, char** arguments)
 {
+    // Beyond a limit of the system on the size of files a write fails, and is told, instead of ending the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     QApplication application(count, arguments);
     QApplication::setStyle(new Style);
     QApplication::setApplicationName(QStringLiteral("tavenor3"));
