@@ -6,7 +6,7 @@
 namespace {
 
 /// The program's own tables hold some kilobytes; a file that claims much more must not take the computer's memory.
-constexpr std::size_t MostTextBytes = 32 * 1024 * 1024;
+constexpr std::size_t MostTextBytes = std::size_t{32} * 1024 * 1024;
 
 } // namespace
 

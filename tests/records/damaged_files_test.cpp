@@ -43,8 +43,8 @@ constexpr unsigned LongestSeconds = 2;
 
 namespace {
 
-constexpr long MostMemory = 256 * 1024;
-constexpr int Page = 4096;
+constexpr long MostMemory = 256L * 1024;
+constexpr qsizetype Page = 4096;
 constexpr int Iv = 16;
 constexpr int Mac = 64;
 
@@ -77,7 +77,7 @@ private:
     void Cipher(QByteArray& file, int page, int encrypt) const
     {
         const int start = page == 0 ? Iv : 0;
-        const int length = Page - Iv - Mac - start;
+        const auto length = static_cast<int>(Page) - Iv - Mac - start;
         unsigned char* first = Data(file) + page * Page + start;
         const std::unique_ptr<EVP_CIPHER_CTX, void (*)(EVP_CIPHER_CTX*)> cipher(EVP_CIPHER_CTX_new(),
                                                                                 EVP_CIPHER_CTX_free);
@@ -118,9 +118,9 @@ public:
     {
         for (int change = Below(3); change >= 0 && !file.isEmpty(); --change) {
             const int pages = static_cast<int>(file.size() / Page);
-            const int place = Below(file.size());
-            const int page = Below(pages) * Page;
-            const int other = Below(pages) * Page;
+            const qsizetype place = Below(file.size());
+            const qsizetype page = Below(pages) * Page;
+            const qsizetype other = Below(pages) * Page;
             const QByteArray old = file.mid(page, Page);
             switch (Below(9)) {
             case 0:
@@ -222,6 +222,7 @@ void WalkGame(const Game& game)
         (void)CountSentence(MainBallRole(game), FindBall(balls, MainBallRole(game).slots, ball).count);
     const std::vector<UserRow> people = ReadAllUsers(users);
     std::vector<CheckedUser> checked;
+    checked.reserve(people.size());
     for (const UserRow& user : people)
         checked.push_back({user.number, user.name});
     const CheckedGame one{&game, CheckedDraw{QDate(2020, 1, 4), {1, 2, 3, 4, 5, 6, 7}}};

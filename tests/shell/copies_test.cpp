@@ -1,6 +1,4 @@
-#include "support/failure_of.h"
 #include "support/forked.h"
-#include "support/raw_file.h"
 #include "support/stored_draws.h"
 #include "support/test_window.h"
 
@@ -8,7 +6,6 @@
 #include "users/user_records.h"
 #include "users/user_tables.h"
 
-#include <QElapsedTimer>
 #include <QListWidget>
 #include <QSet>
 
@@ -144,32 +141,6 @@ private Q_SLOTS:
         window.Click("Button3");
         window.Click("Suboption1");
         QCOMPARE(window.Find<QListWidget>("F11list")->count(), 2);
-    }
-
-    void LockHeldTooLongIsTold()
-    {
-        TestWindow window;
-        AddUser(users, "Ann", 9);
-        window.Click("Button3");
-        window.Click("Suboption1");
-        window.Click("F11adduser");
-        window.Type("F11seluser", "Ben");
-        {
-            sqlite3* other = nullptr;
-            sqlite3_open(UserDataPath.c_str(), &other);
-            Execute(other, "BEGIN EXCLUSIVE", "");
-            QElapsedTimer clock;
-            clock.start();
-            window.modals.WillPress(QMessageBox::Ok);
-            window.Click("F11storenu");
-            sqlite3_close(other);
-            QVERIFY2(clock.elapsed() > 1000 && clock.elapsed() < 6000, qPrintable(QString::number(clock.elapsed())));
-        }
-        QVERIFY(window.modals.TakeTexts().value(0).startsWith(
-            "The new user could not be stored, because another program is using the file."));
-        window.Click("F11storenu");
-        QCOMPARE(TestFolder::StoredRows("users"), (QStringList{"1,Ann,9", "2,Ben,0"}));
-        QVERIFY(window.modals.AllCame());
     }
 };
 
