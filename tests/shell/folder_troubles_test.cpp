@@ -69,7 +69,7 @@ private Q_SLOTS:
         QTest::newRow("folder removed") << nothing
                                         << Trouble([](const QString& folder) { QDir(folder).removeRecursively(); })
                                         << refused << false;
-        QTest::newRow("clock set back") << nothing << Trouble([](const QString&) { ClockSetBack = 40 * 365 * 86400L; })
+        QTest::newRow("clock set back") << nothing << Trouble([](const QString&) { ClockSetBack = 40L * 365 * 86400; })
                                         << QString() << true;
     }
 
