@@ -93,14 +93,6 @@ int WriteBeside(const std::filesystem::path& source, const std::filesystem::path
     return 0;
 }
 
-void SyncFolder(const std::filesystem::path& folder)
-{
-    // A folder that cannot be synced (some network disks) does not make the rename undone.
-    const Descriptor directory(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
-    if (directory.Number() >= 0)
-        ::fsync(directory.Number());
-}
-
 std::string NotWritten(const std::filesystem::path& target)
 {
     return "The file " + target.filename().string() + " could not be written";
@@ -158,4 +150,12 @@ void DeleteFileIfThere(const std::filesystem::path& file)
 {
     if (::unlink(file.c_str()) != 0 && errno != ENOENT)
         Fail("The file " + file.filename().string() + " could not be deleted", errno);
+}
+
+void SyncFolder(const std::filesystem::path& folder)
+{
+    // A folder that cannot be synced (some network disks) does not make the rename undone.
+    const Descriptor directory(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
+    if (directory.Number() >= 0)
+        ::fsync(directory.Number());
 }

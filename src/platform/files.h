@@ -21,5 +21,8 @@ std::filesystem::path FileBehind(const std::filesystem::path& path);
 /// The file that lies beside the target while a copy over it is being written.
 std::filesystem::path BesideFile(const std::filesystem::path& target);
 
+/// Has the disk keep what was renamed and deleted in a folder.
+void SyncFolder(const std::filesystem::path& folder);
+
 /// Deletes a file; one that is not there is no error. Throws Failure.
 void DeleteFileIfThere(const std::filesystem::path& file);

@@ -6,6 +6,7 @@
 #include "records/engine.h"
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 namespace {
@@ -30,6 +31,21 @@ Value AsText(const Value& field, std::string& room)
         return field;
     return std::string_view(room);
 }
+
+/// Proves that the rows of a walk come in the ascending order of their numbers.
+class RowIdOrder
+{
+public:
+    void Prove(std::int64_t rowId, const std::string& doing)
+    {
+        if (last && rowId <= *last)
+            throw Failure(doing, "the file is damaged or is not one of this program's files", "rows out of order");
+        last = rowId;
+    }
+
+private:
+    std::optional<std::int64_t> last;
+};
 
 } // namespace
 
@@ -111,17 +127,32 @@ std::string RecordSet::ReadStatement() const
            (layout.IsList() ? layout.listOrder : "rowid");
 }
 
+void RecordSet::ProveOrder() const
+{
+    // Where a damaged page leads to others twice, a small file seems to have rows without end.
+    Statement query(database->engine, "SELECT rowid FROM " + Quoted(layout.listedTable) + " ORDER BY rowid",
+                    Doing("read"));
+    RowIdOrder order;
+    while (query.Step())
+        order.Prove(query.WholeNumber(0), Doing("read"));
+}
+
 StoredRows RecordSet::ReadRows() const
 {
     const int columns = layout.ColumnCount();
+    if (layout.IsList())
+        ProveOrder();
     StoredRows read(columns);
     std::vector<bool> isText;
     for (const ColumnLayout& column : layout.columns)
         isText.push_back(column.type == "TEXT");
     std::string number;
+    RowIdOrder order;
     Statement query(database->engine, ReadStatement(), Doing("read"));
     try {
         while (query.Step()) {
+            if (!layout.IsList())
+                order.Prove(query.WholeNumber(0), Doing("read"));
             read.BeginRow(query.WholeNumber(0));
             for (int column = 0; column < columns; ++column) {
                 const Value field = query.Column(column + 1);
@@ -270,12 +301,13 @@ void RecordSet::SetField(int position, const Value& value)
 
 void RecordSet::Update()
 {
+    // From here on a failure may leave the rows half changed, and they are read anew when the change is taken back.
+    changed = database->inTransaction;
     if (editing == Editing::NewRow)
         StoreNewRow();
     else if (editing == Editing::CurrentRow)
         StoreCurrentRow();
     editing = Editing::No;
-    changed = database->inTransaction;
 }
 
 void RecordSet::StoreNewRow()
@@ -339,12 +371,12 @@ void RecordSet::Delete()
                                                 "DELETE FROM " + Quoted(layout.name) + " WHERE rowid = ?1 AND " +
                                                     Quoted(layout.columns[0].name) + " IS ?2",
                                                 Doing("changed"));
+    changed = database->inTransaction;
     deleteRow->Bind(1, rows.RowId(current));
     deleteRow->Bind(2, Field(0));
     deleteRow->Step();
     deleteRow->Reset();
     rows.Delete(current);
-    changed = database->inTransaction;
 }
 
 void RecordSet::Requery()

@@ -88,6 +88,7 @@ private:
     void TakeBackChanges();
     void KeepChanges() { changed = false; }
     StoredRows ReadRows() const;
+    void ProveOrder() const;
     void ProveLayout() const;
     std::string ReadStatement() const;
     void StoreNewRow();

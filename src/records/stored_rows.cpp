@@ -1,8 +1,14 @@
 #include "records/stored_rows.h"
 
 #include <algorithm>
-#include <limits>
 #include <stdexcept>
+
+namespace {
+
+/// The program's own tables hold some kilobytes; a file that claims much more must not take the computer's memory.
+constexpr std::size_t MostTextBytes = std::size_t{32} * 1024 * 1024;
+
+} // namespace
 
 StoredRows::Cell StoredRows::Stored(const Value& value)
 {
@@ -14,8 +20,8 @@ StoredRows::Cell StoredRows::Stored(const Value& value)
         cell.real = *real;
         cell.kind = CellKind::Real;
     } else if (const auto* text = std::get_if<std::string_view>(&value)) {
-        if (texts.size() + text->size() > std::numeric_limits<std::uint32_t>::max())
-            throw std::length_error("more than 4 GiB of text");
+        if (text->size() > MostTextBytes - std::min(MostTextBytes, texts.size()))
+            throw std::length_error("more than 32 MiB of text");
         cell.text = {static_cast<std::uint32_t>(texts.size()), static_cast<std::uint32_t>(text->size())};
         cell.kind = CellKind::Text;
         texts.append(*text);

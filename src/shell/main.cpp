@@ -12,12 +12,15 @@
 #include <QDir>
 #include <QFontDatabase>
 
+#include <csignal>
 #include <filesystem>
 #include <optional>
 #include <system_error>
 
 int main(int count, char** arguments)
 {
+    // Beyond a limit of the system on the size of files a write fails, and is told, instead of ending the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     std::optional<TracelessStart> tracelessStart(std::in_place, QDir::currentPath());
     QApplication application(count, arguments);
     QFontDatabase::families();

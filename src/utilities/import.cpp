@@ -105,6 +105,8 @@ Import::Import(const DatabaseFile& file, const std::filesystem::path& chosen)
 void Import::Complete()
 {
     DeleteFileIfThere(KeptAside(live.Path()));
+    // A kept file that came back after a power cut would take the new rows away.
+    SyncFolder(live.Path().parent_path());
 }
 
 void PutBackKeptFiles()

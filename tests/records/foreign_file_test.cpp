@@ -186,8 +186,8 @@ private Q_SLOTS:
                      "); INSERT INTO links VALUES (" + fields(5) + ");";
             people += "INSERT INTO users VALUES (" + fields(3) + "); INSERT INTO entries VALUES (" + fields(16) + ");";
         }
-        RunSql(DrawDataPath, DrawConnect, draws + "INSERT INTO links VALUES (1, 2, 3, 4, zeroblob(10000000))");
-        RunSql(UserDataPath, {}, people + "INSERT INTO users VALUES (1, hex(zeroblob(5000000)), 4)");
+        RunSql(DrawDataPath, DrawConnect, draws + "INSERT INTO links VALUES (1, 2, 3, 4, zeroblob(1000000))");
+        RunSql(UserDataPath, {}, people + "INSERT INTO users VALUES (1, hex(zeroblob(500000)), 4)");
         OpenDatabaseFiles();
         QElapsedTimer clock;
         clock.start();

@@ -64,11 +64,17 @@ void ModalWindows::Look()
     answered.append(dialog);
     if (const auto* box = qobject_cast<QMessageBox*>(dialog))
         seen.append({box->windowTitle(), box->text(), box->icon(), box->standardButtons(),
-                     box->standardButton(box->defaultButton())});
+                     box->standardButton(box->defaultButton()), box->textFormat()});
     std::function<bool(QDialog&)> action;
     if (!expected.empty()) {
         action = std::move(expected.front());
         expected.pop_front();
+    } else if (auto* box = qobject_cast<QMessageBox*>(dialog); always && box != nullptr) {
+        box->buttons().constFirst()->click();
+        return;
+    } else if (always) {
+        always(*dialog);
+        return;
     }
     if (!action || !action(*dialog)) {
         ++unforeseen;

@@ -25,6 +25,7 @@ struct SeenBox
     QMessageBox::Icon icon;
     QMessageBox::StandardButtons buttons;
     QMessageBox::StandardButton defaultButton;
+    Qt::TextFormat format;
 };
 
 /// Answers the program's modal windows in the order in which the test foresees them. A window that nobody foresaw is
@@ -41,6 +42,10 @@ public:
     /// The next modal window is a dialog of the program's own; the action works in it and closes it.
     void WillDo(std::function<void(QDialog&)> action);
 
+    /// Every further window is answered by this, so that none is unforeseen: a message box by its first button, and any
+    /// other dialog by the action.
+    void WillAlwaysDo(std::function<void(QDialog&)> action) { always = std::move(action); }
+
     /// The message boxes seen since this was last asked.
     QList<SeenBox> TakeSeen();
     /// Their texts only.
@@ -52,6 +57,7 @@ private:
     void Look();
 
     std::deque<std::function<bool(QDialog&)>> expected;
+    std::function<void(QDialog&)> always;
     QList<SeenBox> seen;
     QList<QPointer<QDialog>> answered;
     int unforeseen = 0;

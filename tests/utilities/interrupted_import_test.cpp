@@ -1,4 +1,5 @@
 #include "support/failure_of.h"
+#include "support/forked.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
@@ -9,89 +10,21 @@
 
 #include <csignal>
 #include <sys/stat.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
-
-// The calls by which files come, change and go are counted, and the process kills itself before the chosen one.
-int CallsLeft = -1;
-
-void CountCall()
-{
-    if (CallsLeft > 0 && --CallsLeft == 0)
-        ::kill(::getpid(), SIGKILL);
-}
-
-} // namespace
-
-extern "C" int rename(const char* from, const char* to) noexcept
-{
-    CountCall();
-    return static_cast<int>(::syscall(SYS_rename, from, to));
-}
-
-extern "C" int unlink(const char* path) noexcept
-{
-    CountCall();
-    return static_cast<int>(::syscall(SYS_unlink, path));
-}
-
-extern "C" int fsync(int descriptor)
-{
-    CountCall();
-    return static_cast<int>(::syscall(SYS_fsync, descriptor));
-}
-
-extern "C" ssize_t write(int descriptor, const void* bytes, size_t count)
-{
-    CountCall();
-    return ::syscall(SYS_write, descriptor, bytes, count);
-}
-
-namespace {
-
-/// Runs steps in a process of their own that is killed before its n-th call; false when it came to its end before.
-bool IsKilled(int callsBeforeKill, const std::function<void()>& steps)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        CallsLeft = callsBeforeKill;
-        try {
-            steps();
-        } catch (const std::exception&) {
-            ::_exit(2);
-        }
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFSIGNALED(status);
-}
 
 /// Another program is killed in the middle of a change that has reached the file of the users already.
 bool LeaveUnfinishedChange()
 {
-    return IsKilled(-1, [] {
-        sqlite3* engine = nullptr;
-        sqlite3_open(UserDataPath.c_str(), &engine);
-        Execute(engine,
-                "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
-                "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
-                "");
-        ::kill(::getpid(), SIGKILL);
-    });
-}
-
-void ImportUsers(const std::string& chosen)
-{
-    OpenDatabaseFiles();
-    CloseDatabaseFiles();
-    Import import(UserDatabaseFile(), chosen);
-    OpenDatabaseFiles();
-    ReadEveryRow();
-    import.Complete();
+    return RunForked([](const ForkedProcess::Say&) {
+               sqlite3* engine = nullptr;
+               sqlite3_open(UserDataPath.c_str(), &engine);
+               Execute(engine,
+                       "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
+                       "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
+                       "");
+               ::kill(::getpid(), SIGKILL);
+           }).signal == SIGKILL;
 }
 
 } // namespace
@@ -101,43 +34,6 @@ class InterruptedImportTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void KillAtAnyCallLosesNothing_data()
-    {
-        QTest::addColumn<bool>("goodFile");
-        QTest::newRow("a good file") << true;
-        QTest::newRow("garbage") << false;
-    }
-
-    void KillAtAnyCallLosesNothing()
-    {
-        QFETCH(bool, goodFile);
-        TestFolder folder(TestFolder::Content::Empty);
-        const QTemporaryDir own;
-        const std::string chosen = own.filePath("chosen.tv3").toStdString();
-        QFile::copy(folder.Path("userdata.tv3"), own.filePath("chosen.tv3"));
-        RunSql(chosen, {}, goodFile ? "INSERT INTO users VALUES (1, 'New', 1)" : "DROP TABLE users");
-        OpenDatabaseFiles();
-        AddUser(users, "Old", 1);
-        CloseDatabaseFiles();
-        QFile::copy(folder.Path("userdata.tv3"), own.filePath("before.tv3"));
-
-        const QStringList oldRows{"1,Old,1"};
-        const QStringList newRows{"1,New,1"};
-        bool ended = false;
-        int kills = 0;
-        for (int call = 1; !ended && call < 100; ++call) {
-            QFile::remove(folder.Path("userdata.tv3"));
-            QFile::copy(own.filePath("before.tv3"), folder.Path("userdata.tv3"));
-            ended = !IsKilled(call, [&] { ImportUsers(chosen); });
-            kills += ended ? 0 : 1;
-            OpenDatabasesAtStart();
-            QCOMPARE(TestFolder::StoredRows("users"), ended && goodFile ? newRows : oldRows);
-            QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-            CloseDatabaseFiles();
-        }
-        QVERIFY(ended && kills > 5);
-    }
-
     void UnfinishedChangeIsTakenBackBeforeTheFileIsReplaced()
     {
         TestFolder folder(TestFolder::Content::Empty);

@@ -1,0 +1,129 @@
+#include "support/forked.h"
+#include "support/test_window.h"
+
+#include "shell/shut_down.h"
+#include "shell/start_up.h"
+#include "users/user_records.h"
+
+#include <QDir>
+
+#include <ctime>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr uid_t Nobody = 65534;
+time_t ClockSetBack = 0;
+
+using Trouble = std::function<void(const QString& folder)>;
+
+/// Changes the rights of a file or, with an empty name, of the folder. What `stranger` owns, only root can give away;
+/// without root's rights the mode alone has the same effect.
+Trouble Rights(const QString& name, mode_t mode, bool stranger = false)
+{
+    return [=](const QString& folder) {
+        const QByteArray path = (name.isEmpty() ? folder : folder + u'/' + name).toLocal8Bit();
+        if (stranger)
+            (void)!::chown(path.constData(), 0, 0);
+        QCOMPARE(::chmod(path.constData(), mode), 0);
+    };
+}
+
+} // namespace
+
+extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
+{
+    const auto result = static_cast<int>(::syscall(SYS_clock_gettime, clock, time));
+    if (clock == CLOCK_REALTIME)
+        time->tv_sec -= ClockSetBack;
+    return result;
+}
+
+class FolderTroublesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void PlayerIsToldAndNothingIsLost_data()
+    {
+        QTest::addColumn<Trouble>("atStart");
+        QTest::addColumn<Trouble>("meanwhile");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<bool>("stored");
+        const Trouble nothing = [](const QString&) {};
+        const QString refused = "could not be changed, because the file or its folder may not be changed.";
+        QTest::newRow("no trouble") << nothing << nothing << QString() << true;
+        QTest::newRow("folder read-only") << Rights({}, 0555) << nothing << refused << false;
+        QTest::newRow("folder read-only meanwhile") << nothing << Rights({}, 0555) << refused << false;
+        QTest::newRow("file read-only") << Rights("userdata.tv3", 0444) << nothing << refused << false;
+        QTest::newRow("file of another") << Rights("userdata.tv3", ::geteuid() == 0 ? 0644 : 0444, true) << nothing
+                                         << refused << false;
+        QTest::newRow("unreadable file of another")
+            << Rights("userdata.tv3", ::geteuid() == 0 ? 0600 : 0, true) << nothing
+            << "There is a problem with the database files." << false;
+        QTest::newRow("folder moved") << nothing << Trouble([](const QString& folder) {
+            QDir().rename(folder, folder + ".moved");
+        }) << refused << false;
+        QTest::newRow("folder removed") << nothing
+                                        << Trouble([](const QString& folder) { QDir(folder).removeRecursively(); })
+                                        << refused << false;
+        QTest::newRow("clock set back") << nothing << Trouble([](const QString&) { ClockSetBack = 40L * 365 * 86400; })
+                                        << QString() << true;
+    }
+
+    void PlayerIsToldAndNothingIsLost()
+    {
+        QFETCH(Trouble, atStart);
+        QFETCH(Trouble, meanwhile);
+        QFETCH(QString, told);
+        QFETCH(bool, stored);
+        TestWindow window;
+        AddUser(users, "Ann", 1);
+        CloseDatabaseFiles();
+        const QString folder = QFileInfo(window.files.Path("x")).path();
+        for (const QString& path : {folder, window.files.Path("userdata.tv3"), window.files.Path("drawdata.tv3")})
+            (void)!::chown(path.toLocal8Bit().constData(), Nobody, Nobody);
+        atStart(folder);
+        window.modals.WillAlwaysDo([](QDialog& dialog) { dialog.close(); });
+        const Forked run = RunForked([&](const ForkedProcess::Say& say) {
+            const NoPainting blank;
+            // The rights of files do not bind root.
+            if (::geteuid() == 0 &&
+                (::setresgid(Nobody, Nobody, Nobody) != 0 || ::setresuid(Nobody, Nobody, Nobody) != 0))
+                ::_exit(4);
+            EndProcess = [&] {
+                say(window.modals.TakeTexts().join(u'|').replace("\r\n", " "));
+                ::_exit(0);
+            };
+            OpenDatabasesAtStart();
+            window.Click("Button3");
+            window.Click("Suboption1");
+            window.Click("F11adduser");
+            window.Find<QLineEdit>("F11seluser")->setText("Ben");
+            meanwhile(folder);
+            window.Click("F11storenu");
+            window.Window().close();
+        });
+        QVERIFY2(run.signal == 0 && run.code == 0, qPrintable(run.Text()));
+        QVERIFY2(told.isEmpty() ? run.lines.value(0).isEmpty() : run.lines.value(0).contains(told),
+                 qPrintable(run.Text()));
+        const bool moved = QDir().rename(folder + ".moved", folder);
+        if (moved || !QFile::exists(folder))
+            QVERIFY(!run.Text().contains("Nothing that you stored is lost."));
+        if (!QFile::exists(folder))
+            return;
+        // Whoever may has the rights back, and finds all that was stored.
+        Rights({}, 0700)(folder);
+        Rights("userdata.tv3", 0600)(folder);
+        OpenDatabasesAtStart();
+        QCOMPARE(TestFolder::StoredRows("users"),
+                 (stored ? QStringList{"1,Ann,1", "2,Ben,0"} : QStringList{"1,Ann,1"}));
+        QCOMPARE(CloseAndCompactFiles(), QString());
+        QCOMPARE(window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+    }
+};
+
+TAVENOR_TEST_MAIN(FolderTroublesTest)
+#include "folder_troubles_test.moc"

@@ -1,0 +1,211 @@
+#include "support/stored_draws.h"
+#include "support/test_window.h"
+
+#include "users/user_records.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QListWidget>
+#include <QTextEdit>
+
+#include <cfloat>
+
+namespace {
+
+struct Typed
+{
+    QString text;
+    double number;
+};
+
+/// What a player, or a clipboard, may put into a field, and the number that it stands for.
+const QList<Typed>& Texts()
+{
+    static const QList<Typed> texts{
+        {"1e308", 1},
+        {"NaN", 0},
+        {"-inf", 0},
+        {"0x10", 0},
+        {QString::fromUtf8("٣"), 0},
+        {QString(10000, u'9'), DBL_MAX},
+        {"\t1 7\n2", 17},
+        {"<b>8</b><img src=x onerror=y>", 0},
+        {"'\"; DROP TABLE users; --", 0},
+        {QString::fromUtf8("\u202e12\u202c"), 0},
+        {QString::fromUtf8("5\u0301\u0301 A\u030a"), 5},
+        {QString::fromUtf8("\U0001F3B1 \u0007\u001b[31m"), 0},
+        {"%1 %n & && \\n {}", 0},
+        {QString(32767, u'W'), 0},
+    };
+    return texts;
+}
+
+/// A page, what is pressed to come to it, and what is pressed when its fields are filled.
+struct Stop
+{
+    int group;
+    int suboption;
+    QString opened;
+    QString pressed;
+};
+const Stop Stops[] = {{1, 1, {}, "F6Store"},
+                      {1, 2, {}, "F7Store"},
+                      {2, 1, {}, {}},
+                      {2, 2, {}, {}},
+                      {2, 3, "F10mainviewbutton", {}},
+                      {2, 3, "F10thunderviewbutton", {}},
+                      {2, 3, "F10maineditbutton", "F16save"},
+                      {2, 3, "F10thundereditbutton", "F17save"},
+                      {3, 1, "F11adduser", "F11storenu"},
+                      {3, 1, "F11edituser", "F11storech"},
+                      {3, 2, {}, "F18store"},
+                      {3, 3, "F13view", {}},
+                      {3, 3, "F13edit", "F20store"},
+                      {3, 4, {}, "F12check"},
+                      {4, 1, {}, "F26go"},
+                      {5, 1, "F21screen_1", {}},
+                      {5, 1, "F21screen_7", {}},
+                      {5, 2, "F22screen_1", {}},
+                      {5, 2, "F22screen_5", {}},
+                      {0, 0, "about", {}},
+                      {0, 0, "advanced", {}},
+                      {0, 0, "F0links", "F25next"}};
+
+/// The window with two users and their entries; further windows are closed when they come.
+class Pages : public TestWindow
+{
+public:
+    Pages()
+    {
+        StoreDraws(MainGame, {"2000-01-01,1,2,3,4,5,6,7,ARTHUR,1"});
+        StoreDraws(ThunderballGame, {"2000-01-01,1,2,3,4,5,6"});
+        AddUser(users, "Ann", 900);
+        for (int game = 1; game <= 2; ++game)
+            AddEntry(entries, {game, 1, game, {1, 2, 3, 4, 5, 6}, {true, true, true, true, true, true, true}});
+        for (int page = 0; page <= 26; ++page)
+            Window().Page(page);
+        modals.WillAlwaysDo([](QDialog& dialog) { dialog.close(); });
+    }
+
+    void Open(const Stop& stop)
+    {
+        Window().ShowStartPage();
+        if (stop.group != 0)
+            Window().ChooseMenu(stop.group, stop.suboption);
+        if (auto* list = Find<QListWidget>("F11list"); list->isVisible())
+            list->setCurrentRow(0);
+        if (auto* list = Find<QComboBox>("F26combo_0"); list->isVisible())
+            for (const char* name : {"F26combo_0", "F26combo_1"}) {
+                Find<QComboBox>(name)->setCurrentIndex(0);
+                Q_EMIT Find<QComboBox>(name)->activated(0);
+            }
+        if (!stop.opened.isEmpty())
+            Click(stop.opened);
+    }
+
+    void Paste(QLineEdit* field, const QString& text)
+    {
+        QApplication::clipboard()->setText(text);
+        field->setFocus();
+        field->selectAll();
+        field->paste();
+        Settle();
+    }
+
+    /// Every label must show its words as they are.
+    QStringList GuessingLabels()
+    {
+        QStringList names;
+        for (const QLabel* label : Window().findChildren<QLabel*>())
+            if (label->textFormat() != Qt::PlainText && label->pixmap().isNull())
+                names.append(label->objectName());
+        return names;
+    }
+};
+
+} // namespace
+
+class HostileTextTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EveryFieldOfEveryPageTakesIt()
+    {
+        Pages pages;
+        int fed = 0;
+        for (const Stop& stop : Stops)
+            for (const Typed& typed : Texts()) {
+                pages.Open(stop);
+                for (auto* field : pages.Window().findChildren<QLineEdit*>())
+                    if (field->isVisible() && !field->isReadOnly() && field->isEnabled()) {
+                        pages.Paste(field, typed.text);
+                        QTest::keyClick(field, Qt::Key_Return);
+                        ++fed;
+                    }
+                if (!stop.pressed.isEmpty())
+                    pages.Click(stop.pressed);
+                if (stop.pressed.isEmpty() && fed > 0 && stop.opened != "F21screen_7" && stop.opened != "F22screen_5")
+                    break;
+            }
+        qInfo("%d fields fed", fed);
+        QVERIFY(fed > 500);
+        QCOMPARE(pages.GuessingLabels(), QStringList());
+        for (const QString& row : TestFolder::StoredRows("ukmain"))
+            QCOMPARE(row, QString("1,2000-01-01,Sat,1,2,3,4,5,6,7,ARTHUR,1"));
+        for (const QString& row : TestFolder::StoredRows("entries"))
+            QVERIFY(row.section(u',', 3, 8) == "1,2,3,4,5,6");
+        QCOMPARE(TestFolder::StoredRows("ukthunder").size(), 1);
+    }
+
+    void NameIsShownAsTypedAndNumberReadByTheOneRule()
+    {
+        Pages pages;
+        QStringList names{"Ann"};
+        for (const Typed& typed : Texts()) {
+            pages.Open({3, 1, "F11adduser", {}});
+            pages.Paste(pages.Find<QLineEdit>("F11seluser"), typed.text);
+            pages.Paste(pages.Find<QLineEdit>("F11spend"), typed.text);
+            names.append(pages.TextOf("F11seluser"));
+            pages.Click("F11storenu");
+            users.MoveLast();
+            const UserRow stored = ReadUser(users);
+            QCOMPARE(stored.name, typed.text.left(stored.name.size() == 32767 ? 32767 : -1));
+            QCOMPARE(stored.spendLimit, typed.number);
+            AddEntry(entries, {entries.NextNumber(), stored.number, 1, {1, 2, 3, 4, 5, 6}, {0, 0, 0, 0, 0, 1}});
+        }
+        QStringList listed;
+        pages.Open({3, 1, {}, {}});
+        for (int row = 0; row < pages.Find<QListWidget>("F11list")->count(); ++row)
+            listed.append(pages.Find<QListWidget>("F11list")->item(row)->text());
+        QCOMPARE(listed, names);
+        for (const auto& [stop, list] : {std::pair(Stop{3, 2, {}, {}}, "F18user"),
+                                         {{3, 3, {}, {}}, "F13user"},
+                                         {{4, 1, {}, {}}, "F26combo_0"},
+                                         {{3, 4, {}, {}}, "F12user"}}) {
+            pages.Open(stop);
+            const int first = list == QLatin1String("F12user") ? 1 : 0;
+            for (int row = 0; row < names.size(); ++row)
+                QCOMPARE(pages.Find<QComboBox>(list)->itemText(row + first), names[row]);
+        }
+        pages.Click("F12check");
+        const QString report = pages.Find<QTextEdit>("F12text")->toPlainText();
+        for (const QString& name : names)
+            QVERIFY2(report.contains(name), qPrintable(name.left(80)));
+        // A box that carries a name, because another copy has taken the user away.
+        pages.Open({3, 1, {}, {}});
+        auto* list = pages.Find<QListWidget>("F11list");
+        const auto html = static_cast<int>(names.indexOf(Texts()[7].text));
+        FindUserByName(users, names[html]);
+        users.Delete();
+        pages.modals.TakeSeen();
+        list->setCurrentRow(html);
+        QList<SeenBox> seen;
+        QVERIFY(QTest::qWaitFor([&] { return !(seen = pages.modals.TakeSeen()).isEmpty(); }));
+        QVERIFY(seen[0].text.contains(names[html]));
+        QCOMPARE(seen[0].format, Qt::PlainText);
+    }
+};
+
+TAVENOR_TEST_MAIN(HostileTextTest)
+#include "hostile_text_test.moc"
