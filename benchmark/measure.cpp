@@ -1,0 +1,37 @@
+#include "measure.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <stdexcept>
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    const size_t middle = values.size() / 2;
+    return values.size() % 2 != 0 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2;
+}
+
+void MeasureRow(const Row& row, int runs)
+{
+    row.floor();
+    row.program();
+    std::vector<double> program;
+    std::vector<double> floor;
+    std::vector<double> ratios;
+    for (int run = 0; run < runs; ++run) {
+        floor.push_back(row.floor());
+        program.push_back(row.program());
+        if (!(floor.back() > 0 && program.back() > 0))
+            throw std::runtime_error(row.name.toStdString() + " could not be measured");
+        ratios.push_back(program.back() / floor.back());
+    }
+    const double ratio = Median(ratios);
+    std::printf("%-50s %10.3f %10.3f %-3s %6.2f %6.2f  %s\n", qPrintable(row.name), Median(program), Median(floor),
+                row.unit, ratio, row.bound, ratio <= row.bound ? "reached" : "NOT REACHED");
+    std::fflush(stdout);
+}
+
+void PrintHeading(const QString& heading)
+{
+    std::printf("\n%s\n%-50s %10s %10s     %6s %6s\n", qPrintable(heading), "", "program", "floor", "ratio", "bound");
+}
