@@ -22,15 +22,15 @@ public:
     explicit Chance(unsigned seed) : engine(seed) {}
     int Below(int bound) { return static_cast<int>(engine() % static_cast<unsigned>(bound)); }
 
-    /// Different numbers from 1 to `highest`, ascending.
-    std::vector<int> Balls(int count, int highest)
+    /// Different numbers from 1 to `highest`; the first `sorted` of them ascending.
+    std::vector<int> Balls(int count, int highest, int sorted)
     {
         std::vector<int> balls(static_cast<size_t>(highest));
         std::iota(balls.begin(), balls.end(), 1);
         for (int i = 0; i < count; ++i)
             std::swap(balls[static_cast<size_t>(i)], balls[static_cast<size_t>(i + Below(highest - i))]);
         balls.resize(static_cast<size_t>(count));
-        std::sort(balls.begin(), balls.end());
+        std::sort(balls.begin(), balls.begin() + sorted);
         return balls;
     }
 
@@ -42,7 +42,8 @@ EnteredDraw MakeDraw(const Game& game, QDate date, Chance& chance)
 {
     EnteredDraw draw;
     draw.date = date;
-    std::vector<int> balls = chance.Balls(game.mainBalls + (game.extraFromSameMachine ? 1 : 0), game.highestMain);
+    std::vector<int> balls =
+        chance.Balls(game.mainBalls + (game.extraFromSameMachine ? 1 : 0), game.highestMain, game.mainBalls);
     if (!game.extraFromSameMachine)
         balls.push_back(1 + chance.Below(game.highestExtra));
     std::copy(balls.begin(), balls.end(), draw.balls.begin());
@@ -57,7 +58,7 @@ EntryRow MakeEntry(const Game& game, Chance& chance)
 {
     EntryRow entry;
     entry.drawType = game.drawType;
-    std::vector<int> balls = chance.Balls(game.extraFromSameMachine ? 6 : game.mainBalls, game.highestMain);
+    std::vector<int> balls = chance.Balls(game.mainBalls, game.highestMain, game.mainBalls);
     if (!game.extraFromSameMachine)
         balls.push_back(1 + chance.Below(game.highestExtra));
     std::copy(balls.begin(), balls.end(), entry.numbers.begin());

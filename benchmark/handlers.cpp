@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr double FrameMilliseconds = 1000.0 / 60;
+constexpr double FrameMilliseconds = 16;
 constexpr size_t ShownSteps = 10;
 
 struct TimedStep

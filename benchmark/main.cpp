@@ -29,23 +29,15 @@ bool Wanted(const Wishes& wishes, const QString& row)
     return row.contains(wishes.rows, Qt::CaseInsensitive);
 }
 
-/// What callgrind counts.
-__attribute__((noinline)) void CountedRun(const Row& row)
-{
-    row.program();
-}
-
 void Measure(const std::vector<Row>& rows, const Wishes& wishes)
 {
     for (const Row& row : rows) {
         if (!Wanted(wishes, row.name))
             continue;
-        if (!wishes.counted) {
+        if (wishes.counted)
+            CountRow(row);
+        else
             MeasureRow(row, wishes.runs);
-            continue;
-        }
-        row.program();
-        CountedRun(row);
     }
 }
 
@@ -85,7 +77,7 @@ int main(int count, char** arguments)
     options.addOptions({{"runs", "How often each row is measured.", "N", "11"},
                         {"rows", "Only the rows whose names contain the text; 'handlers' for the handlers.", "TEXT"},
                         {"size", "How many draws and entries the second history has.", "N", "100000"},
-                        {"once", "Runs the program's part of the rows twice, the second time in CountedRun."}});
+                        {"once", "Runs the program's part of the rows once, for a count of its instructions."}});
     options.process(application);
     const Wishes wishes{std::max(1, options.value("runs").toInt()), options.value("rows"), options.isSet("once")};
     const int large = std::max(1, options.value("size").toInt());

@@ -1,8 +1,30 @@
 #include "measure.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <stdexcept>
+
+namespace {
+
+bool Counting = false;
+
+__attribute__((noinline)) void CountedAction(const std::function<void()>& action)
+{
+    action();
+}
+
+} // namespace
+
+double Milliseconds(const std::function<void()>& action)
+{
+    const auto start = std::chrono::steady_clock::now();
+    if (Counting)
+        CountedAction(action);
+    else
+        action();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
 
 double Median(std::vector<double> values)
 {
@@ -29,6 +51,14 @@ void MeasureRow(const Row& row, int runs)
     std::printf("%-50s %10.3f %10.3f %-3s %6.2f %6.2f  %s\n", qPrintable(row.name), Median(program), Median(floor),
                 row.unit, ratio, row.bound, ratio <= row.bound ? "reached" : "NOT REACHED");
     std::fflush(stdout);
+}
+
+void CountRow(const Row& row)
+{
+    row.program();
+    Counting = true;
+    row.program();
+    Counting = false;
 }
 
 void PrintHeading(const QString& heading)

@@ -2,18 +2,11 @@
 
 #include <QString>
 
-#include <chrono>
 #include <functional>
 #include <vector>
 
 /// How long an action takes, in milliseconds.
-template <typename Action>
-double Milliseconds(Action action)
-{
-    const auto start = std::chrono::steady_clock::now();
-    action();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
+double Milliseconds(const std::function<void()>& action);
 
 /// Something that a player waits for, and the floor that is measured beside it. Each call makes one measurement, of
 /// which only the part that counts is in the result; both give the same unit.
@@ -33,5 +26,9 @@ double Median(std::vector<double> values);
 /// of both, and the median of the ratios of neighbouring runs, which a load that comes and goes disturbs least.
 /// Throws std::runtime_error where either took no measurable time.
 void MeasureRow(const Row& row, int runs);
+
+/// Runs the program's part of the row once, and once more with what it times in a function of the name CountedAction,
+/// for a tool that counts the instructions in there.
+void CountRow(const Row& row);
 
 void PrintHeading(const QString& heading);

@@ -129,6 +129,8 @@ std::vector<Step> Handlers()
     OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries", "Check Your Entries"});
     add("F12dateselect");
     add("F12datelatest");
+    add("F12user", {}, Qt::Key_Down);
+    add("F12check");
     add("F12clear");
     OpenFromMenu(steps, 4, {"Entry Generator"});
     add("F26combo_0", {}, Qt::Key_Down);

@@ -5,6 +5,7 @@
 #include "shell/open_databases.h"
 
 #include <array>
+#include <chrono>
 #include <fcntl.h>
 #include <fstream>
 #include <memory>

@@ -11,17 +11,20 @@ struct WalkedFields
     std::vector<int> texts;
 };
 
+/// Makes the compiler believe that the value is used.
+template <typename Read>
+void Use(const Read& value)
+{
+    asm volatile("" : : "r,m"(value));
+}
+
 /// Walks from the first record to the end and reads the given fields: the least that anything over all records does.
 inline void Walk(RecordSet& set, const WalkedFields& fields)
 {
-    double sum = 0;
-    size_t length = 0;
     for (set.MoveFirst(); !set.Eof(); set.MoveNext()) {
         for (const int field : fields.numbers)
-            sum += set.Number(field);
+            Use(static_cast<int>(set.Number(field)));
         for (const int field : fields.texts)
-            length += set.Text(field).size();
+            Use(set.Text(field).data());
     }
-    volatile double kept = sum + static_cast<double>(length);
-    static_cast<void>(kept);
 }
