@@ -9,13 +9,18 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <stdexcept>
 
 namespace {
 
-qint64 Now()
+Wait Now()
 {
-    return std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1);
+    timespec processor{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &processor);
+    const auto whole = std::chrono::steady_clock::now().time_since_epoch();
+    return {std::chrono::duration<double, std::milli>(whole).count(),
+            static_cast<double>(processor.tv_sec) * 1e3 + static_cast<double>(processor.tv_nsec) / 1e6};
 }
 
 void OpenFromMenu(std::vector<Step>& steps, int group, const QStringList& pages)
@@ -155,14 +160,14 @@ Player::~Player()
     qApp->removeEventFilter(this);
 }
 
-double Player::Take(const Step& step)
+Wait Player::Take(const Step& step)
 {
     auto* control = window.findChild<QWidget*>(step.control);
     if (control == nullptr || !control->isVisible() || !control->isEnabled())
         throw std::runtime_error("There is nothing to use under the name " + step.control.toStdString());
     window.activateWindow();
     QApplication::processEvents();
-    longest = 0;
+    longest = {};
     if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         Begin();
         button->click();
@@ -221,5 +226,7 @@ void Player::Begin()
 
 void Player::End()
 {
-    longest = std::max(longest, static_cast<double>(Now() - begun) / 1e6);
+    const Wait now = Now();
+    longest.whole = std::max(longest.whole, now.whole - begun.whole);
+    longest.processor = std::max(longest.processor, now.processor - begun.processor);
 }

@@ -18,6 +18,14 @@ struct Step
     Qt::Key key = {};
 };
 
+/// How long a player waits for something to be seen, and how long the processor works for it, in milliseconds. The
+/// difference is the disk's, and what other programs take.
+struct Wait
+{
+    double whole = 0;
+    double processor = 0;
+};
+
 /// Opens every page and every window of the program, once each.
 std::vector<Step> Openings();
 
@@ -34,9 +42,9 @@ public:
     explicit Player(QWidget& mainWindow);
     ~Player() override;
 
-    /// Takes a step and returns the longest wait in it, in milliseconds. Throws std::runtime_error where there is no
+    /// Takes a step and returns the longest wait in it. Throws std::runtime_error where there is no
     /// such control, or it cannot be used.
-    double Take(const Step& step);
+    Wait Take(const Step& step);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -49,6 +57,6 @@ private:
 
     QWidget& window;
     QPointer<QDialog> seen;
-    qint64 begun = 0;
-    double longest = 0;
+    Wait begun;
+    Wait longest;
 };

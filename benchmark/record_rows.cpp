@@ -120,6 +120,7 @@ void DeleteLast(RecordSet& table, int count)
     Transaction transaction(UserDb, "The entries could not be deleted");
     DeleteRecords(table, numbers);
     transaction.Commit();
+    table.MoveFirst();
 }
 
 Row StoringRow(const std::filesystem::path& work)
