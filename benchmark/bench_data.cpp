@@ -28,7 +28,8 @@ public:
         std::vector<int> balls(static_cast<size_t>(highest));
         std::iota(balls.begin(), balls.end(), 1);
         for (int i = 0; i < count; ++i)
-            std::swap(balls[static_cast<size_t>(i)], balls[static_cast<size_t>(i + Below(highest - i))]);
+            std::swap(balls.at(static_cast<size_t>(i)),
+                      balls.at(static_cast<size_t>(i) + static_cast<size_t>(Below(highest - i))));
         balls.resize(static_cast<size_t>(count));
         std::sort(balls.begin(), balls.begin() + sorted);
         return balls;
@@ -125,8 +126,8 @@ void MakeData(const DataSize& size, const std::filesystem::path& starter, const 
 std::vector<EntryRow> MakeLines(int count)
 {
     Chance chance(5);
-    std::vector<EntryRow> lines;
-    for (int line = 0; line < count; ++line)
-        lines.push_back(MakeEntry(MainGame, chance));
+    std::vector<EntryRow> lines(static_cast<size_t>(count));
+    for (EntryRow& line : lines)
+        line = MakeEntry(MainGame, chance);
     return lines;
 }

@@ -22,7 +22,8 @@ struct Row
 
 double Median(std::vector<double> values);
 
-/// Measures program and floor in turn, after one turn that does not count, and prints the row of the table: the medians
+/// Measures program and floor in turn, so many times or, where that is soon done, more often; the first turn does not
+/// count. Prints the row of the table: the medians
 /// of both, and the median of the ratios of neighbouring runs, which a load that comes and goes disturbs least.
 /// Throws std::runtime_error where either took no measurable time.
 void MeasureRow(const Row& row, int runs);
