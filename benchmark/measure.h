@@ -23,9 +23,8 @@ struct Row
 double Median(std::vector<double> values);
 
 /// Measures program and floor in turn, so many times or, where that is soon done, more often; the first turn does not
-/// count. Prints the row of the table: the medians
-/// of both, and the median of the ratios of neighbouring runs, which a load that comes and goes disturbs least.
-/// Throws std::runtime_error where either took no measurable time.
+/// count. Prints the row of the table: the medians of both, and the median of the ratios of neighbouring runs, which a
+/// load that comes and goes disturbs least. Throws std::runtime_error where either took no measurable time.
 void MeasureRow(const Row& row, int runs);
 
 /// Runs the program's part of the row once, and once more with what it times in a function of the name CountedAction,

@@ -140,6 +140,7 @@ int ChartCount::Value(int bar, BallType type) const
 std::vector<ChartBar> ChartCount::Bars(BallType type) const
 {
     std::vector<ChartBar> bars;
+    bars.reserve(static_cast<size_t>(chart->bars));
     for (int bar = 1; bar <= chart->bars; ++bar)
         bars.push_back({chart->label(bar), chart->colour(bar), Value(bar, type)});
     return bars;
