@@ -127,8 +127,10 @@ void CompactPlainly(const std::filesystem::path& file, const std::string& key)
             const std::string name(table);
             if (engine.FirstRow("SELECT count(*) FROM sqlite_master WHERE name = '" + name + "'").front() == 0)
                 continue;
-            const std::string count = "SELECT count(*) FROM ";
-            if (engine.FirstRow(count + name) != engine.FirstRow(count + "compacted." + name))
+            const auto rows = [&](const char* schema) {
+                return engine.FirstRow(std::string("SELECT count(*) FROM ") + schema + '.' + table);
+            };
+            if (rows("main") != rows("compacted"))
                 throw std::runtime_error("The export lost rows.");
         }
         engine.Run("COMMIT; DETACH compacted");
