@@ -23,7 +23,7 @@ BallAppearances FindBall(const DrawnBalls& balls, SlotRange slots, int ball)
     const int draws = balls.Draws();
     for (int draw = 0; draw < draws; ++draw) {
         for (int slot = slots.first; slot < slots.end; ++slot) {
-            if (balls.At(draw, slot) != ball)
+            if (balls.NumberAt(draw, slot) != ball)
                 continue;
             if (!found.drawsAgo)
                 found.drawsAgo = draw;

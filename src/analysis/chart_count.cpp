@@ -8,9 +8,6 @@
 
 namespace {
 
-/// The highest ball of both games.
-constexpr int HighestBall = 49;
-
 constexpr int NotYet = std::numeric_limits<int>::max();
 
 /// A bar numbered by a value; 0 for a value that numbers none.
@@ -75,20 +72,18 @@ template <typename BarOf>
 void ChartCount::CountDraws(const DrawnBalls& balls, BarOf barOf)
 {
     // Balls are first counted by their numbers, which is the quickest; only what is no ball goes to its bar at once.
-    const int newDraws = balls.Draws();
+    const auto distance = static_cast<size_t>(balls.slots.Count());
     for (int slot = balls.slots.first; slot < balls.slots.end; ++slot) {
-        std::array<int, HighestBall + 1> numbers{};
+        std::array<int, HighestBall + 1> drawn{};
+        for (auto place = static_cast<size_t>(slot - balls.slots.first); place < balls.numbers.size();
+             place += distance)
+            ++drawn[balls.numbers[place]];
         Tally& tally = TallyOf(slot);
-        for (int draw = 0; draw < newDraws; ++draw) {
-            const double ball = balls.At(draw, slot);
-            if (const int number = NumberedBar(ball, HighestBall); number != 0)
-                ++numbers[static_cast<size_t>(number)];
-            else
-                ++tally[static_cast<size_t>(barOf(ball))];
-        }
         for (int number = 1; number <= HighestBall; ++number)
-            tally[static_cast<size_t>(barOf(number))] += numbers[static_cast<size_t>(number)];
+            tally[static_cast<size_t>(barOf(number))] += drawn[static_cast<size_t>(number)];
     }
+    for (const auto& [place, value] : balls.others)
+        ++TallyOf(balls.slots.first + static_cast<int>(place % distance))[static_cast<size_t>(barOf(value))];
 }
 
 void ChartCount::CountDrawsSince(const DrawnBalls& balls)
@@ -96,7 +91,8 @@ void ChartCount::CountDrawsSince(const DrawnBalls& balls)
     const int newDraws = balls.Draws();
     for (int draw = 0; draw < newDraws && missing > 0; ++draw) {
         for (int slot = balls.slots.first; slot < balls.slots.end; ++slot) {
-            int& since = TallyOf(slot)[static_cast<size_t>(NumberedBar(balls.At(draw, slot), chart->bars))];
+            const int number = balls.NumberAt(draw, slot);
+            int& since = TallyOf(slot)[static_cast<size_t>(number <= chart->bars ? number : 0)];
             if (since != NotYet)
                 continue;
             since = draws + draw;
@@ -144,6 +140,7 @@ int ChartCount::Value(int bar, BallType type) const
 std::vector<ChartBar> ChartCount::Bars(BallType type) const
 {
     std::vector<ChartBar> bars;
+    bars.reserve(static_cast<size_t>(chart->bars));
     for (int bar = 1; bar <= chart->bars; ++bar)
         bars.push_back({chart->label(bar), chart->colour(bar), Value(bar, type)});
     return bars;

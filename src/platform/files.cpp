@@ -73,8 +73,14 @@ int CopyContent(int source, int target)
     }
 }
 
+enum class Sync
+{
+    No,
+    Yes
+};
+
 /// Returns 0, or the error at which the writing stopped.
-int WriteBeside(const std::filesystem::path& source, const std::filesystem::path& beside)
+int WriteCopy(const std::filesystem::path& source, const std::filesystem::path& copy, Sync sync)
 {
     // Without waiting for what may come out of a pipe.
     const Descriptor from(source, O_RDONLY | O_NONBLOCK);
@@ -83,14 +89,16 @@ int WriteBeside(const std::filesystem::path& source, const std::filesystem::path
         FailToRead(source, std::generic_category().message(errno));
     if (!S_ISREG(attributes.st_mode))
         FailToRead(source, "not a regular file");
-    Descriptor to(beside, O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    Descriptor to(copy, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     if (to.Number() < 0)
         return errno;
     if (const int error = CopyContent(from.Number(), to.Number()))
         return error;
-    if (::fchmod(to.Number(), attributes.st_mode & 07777) != 0 || ::fsync(to.Number()) != 0 || !to.Close())
+    if (::fchmod(to.Number(), attributes.st_mode & 07777) != 0)
         return errno;
-    return 0;
+    if (sync == Sync::Yes && ::fsync(to.Number()) != 0)
+        return errno;
+    return to.Close() ? 0 : errno;
 }
 
 std::string NotWritten(const std::filesystem::path& target)
@@ -113,7 +121,7 @@ void CopyFileOver(const std::filesystem::path& source, const std::filesystem::pa
     const auto target = FileBehind(targetPath);
     const auto beside = BesideFile(target);
     try {
-        if (const int error = WriteBeside(source, beside))
+        if (const int error = WriteCopy(source, beside, Sync::Yes))
             Fail(NotWritten(target), error);
         if (beforeRename)
             beforeRename(beside);
@@ -124,6 +132,17 @@ void CopyFileOver(const std::filesystem::path& source, const std::filesystem::pa
         throw;
     }
     SyncFolder(target.parent_path());
+}
+
+void CopyWorkingFile(const std::filesystem::path& source, const std::filesystem::path& copy)
+{
+    try {
+        if (const int error = WriteCopy(source, copy, Sync::No))
+            Fail(NotWritten(copy), error);
+    } catch (...) {
+        ::unlink(copy.c_str());
+        throw;
+    }
 }
 
 void MoveFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath)

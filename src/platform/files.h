@@ -10,6 +10,10 @@
 void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& target,
                   const std::function<void(const std::filesystem::path& beside)>& beforeRename = {});
 
+/// Copies a file to one that serves for a while and is worthless after a crash, so that nobody has to wait until it is
+/// on the disk. The copy keeps the source's access rights. Throws Failure; nothing is left of the copy then.
+void CopyWorkingFile(const std::filesystem::path& source, const std::filesystem::path& copy);
+
 /// Moves a file over another, in one step where both lie on the same disk. Throws Failure; the source is still there
 /// then.
 void MoveFileOver(const std::filesystem::path& source, const std::filesystem::path& target);

@@ -90,7 +90,7 @@ int AdmitExport(void* unused, int action, const char* first, const char* second,
                    ? SQLITE_OK
                    : SQLITE_DENY;
     case SQLITE_PRAGMA:
-        return IsOneOf(first, {"user_version", "application_id"}) ? SQLITE_OK : SQLITE_DENY;
+        return IsOneOf(first, {"application_id", "synchronous", "user_version"}) ? SQLITE_OK : SQLITE_DENY;
     default:
         return AdmitRecords(unused, action, first, second, schema, inner);
     }

@@ -64,7 +64,7 @@ void HeldFile::Compact()
         // What an interrupted run left behind must not stand in the way of this one.
         ClearTemporaries(file);
         Settle();
-        CopyFileOver(file, first);
+        CopyWorkingFile(file, first);
         CompactDatabase(first, second, connect);
         DeleteFileIfThere(first);
         ReplaceBy(second);

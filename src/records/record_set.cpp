@@ -255,11 +255,9 @@ Value RecordSet::Field(int position) const
     return rows.Read(current, position);
 }
 
-double RecordSet::Number(int position) const
+double RecordSet::OtherNumber(int position) const
 {
     const Value value = Field(position);
-    if (const auto* whole = std::get_if<std::int64_t>(&value))
-        return static_cast<double>(*whole);
     if (const auto* real = std::get_if<double>(&value))
         return *real;
     const auto* text = std::get_if<std::string_view>(&value);

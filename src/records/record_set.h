@@ -48,6 +48,11 @@ public:
     Value Field(int position) const;
     /// The same field as a number: a text by its leading number, nothing as 0.
     double Number(int position) const;
+    /// The same field where it holds a whole number, otherwise nullptr; it lives until the rows change.
+    const std::int64_t* WholeNumber(int position) const
+    {
+        return OnRecord() ? rows.WholeNumber(current, position) : nullptr;
+    }
     /// The same field as a text; in a column of texts a number of a foreign file has become one. Empty otherwise.
     std::string_view Text(int position) const;
     /// Whether the field at a position holds a flag that is set.
@@ -94,6 +99,7 @@ private:
     void StoreNewRow();
     void StoreCurrentRow();
     std::string Doing(const char* failed) const;
+    double OtherNumber(int position) const;
 
     Database* database = nullptr;
     TableLayout layout;
@@ -110,3 +116,10 @@ private:
     std::unique_ptr<Statement> updateRow;
     std::unique_ptr<Statement> deleteRow;
 };
+
+// In the header, for nearly every field that a walk reads is a whole number.
+inline double RecordSet::Number(int position) const
+{
+    const std::int64_t* whole = WholeNumber(position);
+    return whole != nullptr ? static_cast<double>(*whole) : OtherNumber(position);
+}

@@ -28,6 +28,8 @@ public:
 
     /// A field; a text lives until the rows change.
     Value Read(int place, int column) const;
+    /// The field where it is a whole number, otherwise nullptr.
+    const std::int64_t* WholeNumber(int place, int column) const;
 
     /// Begins a new last row, whose fields follow one by one. Throws std::length_error where there is no more room for
     /// texts.
@@ -65,6 +67,10 @@ private:
     };
 
     static std::size_t Index(int place) { return static_cast<std::size_t>(place); }
+    const Cell& CellAt(int place, int column) const
+    {
+        return cells[Index(place) * columns + static_cast<std::size_t>(column)];
+    }
     Cell Stored(const Value& value);
 
     std::size_t columns = 0;
@@ -78,7 +84,7 @@ private:
 // In the header, for every step of every walk reads fields.
 inline Value StoredRows::Read(int place, int column) const
 {
-    const Cell& cell = cells[Index(place) * columns + static_cast<std::size_t>(column)];
+    const Cell& cell = CellAt(place, column);
     switch (cell.kind) {
     case CellKind::Whole:
         return cell.whole;
@@ -90,4 +96,10 @@ inline Value StoredRows::Read(int place, int column) const
         break;
     }
     return std::monostate();
+}
+
+inline const std::int64_t* StoredRows::WholeNumber(int place, int column) const
+{
+    const Cell& cell = CellAt(place, column);
+    return cell.kind == CellKind::Whole ? &cell.whole : nullptr;
 }

@@ -20,6 +20,12 @@ std::int64_t WholeField(const RecordSet& set, int position)
     return std::fabs(number) < largest ? static_cast<std::int64_t>(number) : 0;
 }
 
+void ReadNumbers(const RecordSet& entries, EntryRow& row)
+{
+    for (int i = 0; i < 6; ++i)
+        row.numbers[static_cast<size_t>(i)] = entries.Number(EntryField::FirstBall + i);
+}
+
 void SetUser(RecordSet& users, const QString& name, double spendLimit)
 {
     const std::string utf8 = name.toStdString();
@@ -51,8 +57,7 @@ EntryRow ReadEntry(const RecordSet& entries)
     row.number = WholeField(entries, EntryField::EntryId);
     row.userId = WholeField(entries, EntryField::UserId);
     row.drawType = static_cast<int>(WholeField(entries, EntryField::DrawType));
-    for (int i = 0; i < 6; ++i)
-        row.numbers.at(static_cast<size_t>(i)) = entries.Number(EntryField::FirstBall + i);
+    ReadNumbers(entries, row);
     for (int day = 0; day < 7; ++day)
         row.days.at(static_cast<size_t>(day)) = entries.Flag(EntryField::Monday + day);
     return row;
@@ -79,9 +84,18 @@ std::vector<EntryRow> ReadAllEntries(RecordSet& entries)
 std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType)
 {
     std::vector<EntryRow> rows;
-    for (entries.MoveFirst(); !entries.Eof(); entries.MoveNext())
-        if (WholeField(entries, EntryField::UserId) == userId && WholeField(entries, EntryField::DrawType) == drawType)
-            rows.push_back(ReadEntry(entries));
+    entries.MoveFirst();
+    // Room that is never used costs nothing; rows that are moved while it grows do.
+    rows.reserve(static_cast<size_t>(entries.Count()));
+    for (; !entries.Eof(); entries.MoveNext()) {
+        if (WholeField(entries, EntryField::UserId) != userId || WholeField(entries, EntryField::DrawType) != drawType)
+            continue;
+        EntryRow& row = rows.emplace_back();
+        row.number = WholeField(entries, EntryField::EntryId);
+        row.userId = userId;
+        row.drawType = drawType;
+        ReadNumbers(entries, row);
+    }
     return rows;
 }
 

@@ -25,7 +25,7 @@ EntryRow ReadEntry(const RecordSet& entries);
 std::vector<UserRow> ReadAllUsers(RecordSet& users);
 std::vector<EntryRow> ReadAllEntries(RecordSet& entries);
 
-/// The user's entries of one game, in the order in which they were added.
+/// The user's entries of one game, in the order in which they were added, without their days.
 std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
 
 /// Moves to the first user of exactly this name; false, and at the end, when there is none.

@@ -1,0 +1,182 @@
+#include "rows.h"
+
+#include "bench_data.h"
+#include "draws/draw_tables.h"
+#include "draws/game.h"
+#include "platform/page_frame.h"
+#include "shell/main_window.h"
+#include "shell/open_databases.h"
+#include "users/user_tables.h"
+#include "walk.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QTextBlock>
+#include <QTextEdit>
+
+#include <memory>
+
+namespace {
+
+/// The finished text of a report with its formats, for a text field of its own.
+class FinishedText
+{
+public:
+    explicit FinishedText(const QTextEdit& report)
+    {
+        copy.setReadOnly(true);
+        copy.setTextInteractionFlags(report.textInteractionFlags());
+        copy.setUndoRedoEnabled(false);
+        copy.setFrameShape(QFrame::NoFrame);
+        copy.setFont(report.font());
+        copy.resize(report.size());
+        copy.show();
+        text = report.toPlainText();
+        for (QTextBlock block = report.document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part)
+                if (part.fragment().charFormat().fontWeight() == QFont::Bold)
+                    emphasised.emplace_back(part.fragment().position(), part.fragment().length());
+    }
+
+    double Show()
+    {
+        copy.clear();
+        QApplication::processEvents();
+        return Milliseconds([this] {
+            QTextCharFormat bold;
+            bold.setFontWeight(QFont::Bold);
+            copy.setPlainText(text);
+            QTextCursor cursor(copy.document());
+            cursor.beginEditBlock();
+            for (const auto& [start, length] : emphasised) {
+                cursor.setPosition(start);
+                cursor.setPosition(start + length, QTextCursor::KeepAnchor);
+                cursor.setCharFormat(bold);
+            }
+            cursor.endEditBlock();
+            QApplication::processEvents();
+        });
+    }
+
+private:
+    QTextEdit copy;
+    QString text;
+    std::vector<std::pair<int, int>> emphasised;
+};
+
+double ShowReport(MainWindow& window)
+{
+    window.findChild<QPushButton*>(QStringLiteral("F12clear"))->click();
+    QApplication::processEvents();
+    auto* check = window.findChild<QPushButton*>(QStringLiteral("F12check"));
+    return Milliseconds([check] {
+        check->click();
+        QApplication::processEvents();
+    });
+}
+
+Row CheckRow(MainWindow& window)
+{
+    window.ShowPage(12);
+    ShowReport(window);
+    const auto finished = std::make_shared<FinishedText>(*window.findChild<QTextEdit*>(QStringLiteral("F12text")));
+    return {QStringLiteral("\"Check Now\", report shown"), 1.3,
+            [&window] {
+                window.ShowPage(12);
+                return ShowReport(window);
+            },
+            [finished] { return finished->Show(); }};
+}
+
+enum class Lists
+{
+    OnFile,
+    InMemory
+};
+
+void LeaveListsOnFile()
+{
+    for (const Game* game : {&MainGame, &ThunderballGame})
+        DrawListOf(*game).Open(DrawDb, DrawList(*game));
+}
+
+/// What a grid shows, and the number by which it finds its draw.
+WalkedFields GridFields(const Game& game)
+{
+    WalkedFields fields{{DrawField::DrawId}, {DrawField::Date, DrawField::Day}};
+    for (int slot = 0; slot < game.BallCount(); ++slot)
+        fields.numbers.push_back(DrawField::FirstBall + slot);
+    return fields;
+}
+
+Row GridsRow(MainWindow& window, Lists lists)
+{
+    const auto prepare = [lists] {
+        if (lists == Lists::OnFile)
+            LeaveListsOnFile();
+    };
+    return {lists == Lists::OnFile ? QStringLiteral("page 10 filled, lists read from the file")
+                                   : QStringLiteral("page 10 filled again"),
+            1.5,
+            [&window, prepare] {
+                PageFrame* page = window.Page(10);
+                prepare();
+                const double time = Milliseconds([page] { page->Prepare(); });
+                QApplication::processEvents();
+                return time;
+            },
+            [prepare] {
+                prepare();
+                return Milliseconds([] {
+                    for (const Game* game : {&MainGame, &ThunderballGame})
+                        Walk(DrawListOf(*game), GridFields(*game));
+                });
+            }};
+}
+
+/// Puts the file in which one user has many entries in the place of the other one for as long as it lives.
+class FirstUserEntries
+{
+public:
+    FirstUserEntries() { Use(ProgramDir / FirstUserFile); }
+    ~FirstUserEntries() { Use(UserDataPath); }
+    FirstUserEntries(const FirstUserEntries&) = delete;
+    FirstUserEntries& operator=(const FirstUserEntries&) = delete;
+
+private:
+    static void Use(const std::filesystem::path& file)
+    {
+        UserDb.Open(file);
+        users.Open(UserDb, UsersTable());
+        entries.Open(UserDb, EntriesTable());
+    }
+};
+
+Row EntriesRow(MainWindow& window)
+{
+    // Owner, game and numbers: what the list chooses by and shows.
+    WalkedFields fields;
+    for (int field = EntryField::EntryId; field < EntryField::Monday; ++field)
+        fields.numbers.push_back(field);
+    return {QStringLiteral("entries list of a user with 10,000 entries"), 1.5,
+            [&window] {
+                const FirstUserEntries owned;
+                window.ShowPage(13);
+                auto* user = window.findChild<QComboBox*>(QStringLiteral("F13user"));
+                const double time = Milliseconds([user] { Q_EMIT user->activated(0); });
+                QApplication::processEvents();
+                return time;
+            },
+            [fields] {
+                const FirstUserEntries owned;
+                entries.MoveFirst();
+                return Milliseconds([&] { Walk(entries, fields); });
+            }};
+}
+
+} // namespace
+
+std::vector<Row> PageRows(MainWindow& window)
+{
+    return {CheckRow(window), GridsRow(window, Lists::OnFile), GridsRow(window, Lists::InMemory), EntriesRow(window)};
+}

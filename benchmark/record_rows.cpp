@@ -1,0 +1,156 @@
+#include "rows.h"
+
+#include "analysis/draw_history.h"
+#include "bench_data.h"
+#include "builder/built_entries.h"
+#include "checking/check_report.h"
+#include "draws/draw_records.h"
+#include "draws/draw_tables.h"
+#include "draws/game.h"
+#include "plain_engine.h"
+#include "platform/dates.h"
+#include "records/guarded_engine.h"
+#include "shell/open_databases.h"
+#include "users/user_records.h"
+#include "walk.h"
+
+#include <QStringList>
+
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+constexpr int BuiltLines = 200;
+
+std::shared_ptr<PlainFile> OpenPlainly(const std::filesystem::path& file, const std::string& connect)
+{
+    return std::make_shared<PlainFile>(file, connect.empty() ? std::string() : KeyOf(file, PasswordOf(connect)));
+}
+
+CheckedDraw NewestMainDraw()
+{
+    ukmainlist.MoveFirst();
+    const DrawRow draw = ReadDraw(ukmainlist, MainGame);
+    return {DateFromIso(draw.date), draw.balls};
+}
+
+/// Played entries, matches of main balls, matches of the bonus ball.
+using Counting = std::vector<std::int64_t>;
+
+Counting CompareAll(const CheckedDraw& draw)
+{
+    const auto day = static_cast<size_t>(DaySetIndex(draw.date));
+    Counting counting(3);
+    for (const EntryRow& entry : ReadAllEntries(entries)) {
+        if (entry.drawType != MainGame.drawType || !entry.days.at(day))
+            continue;
+        const EntryResult result = CompareEntry(MainGame, entry, draw);
+        counting[0] += 1;
+        counting[1] += result.mainMatches;
+        counting[2] += result.extraMatched ? 1 : 0;
+    }
+    return counting;
+}
+
+std::string CountingQuery(const CheckedDraw& draw)
+{
+    QStringList drawn;
+    for (int slot = 0; slot < MainGame.BallCount(); ++slot)
+        drawn.append(QString::number(draw.balls.at(static_cast<size_t>(slot))));
+    const QString bonus = drawn.takeLast();
+    QStringList matches;
+    for (int ball = 1; ball <= MainGame.mainBalls; ++ball)
+        matches.append(QStringLiteral("(Ball%1 IN (%2))").arg(ball).arg(drawn.join(u',')));
+    return QStringLiteral("SELECT count(*), sum(%1), sum(%2 IN (Ball1,Ball2,Ball3,Ball4,Ball5,Ball6)) FROM entries "
+                          "WHERE DrawType = 1 AND %3 <> 0")
+        .arg(matches.join(u'+'), bonus, DayNames.at(static_cast<size_t>(DaySetIndex(draw.date))))
+        .toStdString();
+}
+
+Row ComparisonRow(const std::filesystem::path& work)
+{
+    const auto engine = OpenPlainly(work / "userdata.tv3", {});
+    const CheckedDraw draw = NewestMainDraw();
+    if (CompareAll(draw) != engine->FirstRow(CountingQuery(draw)))
+        throw std::runtime_error("The comparison and the engine's query count differently");
+    return {QStringLiteral("comparison of all entries, without the text"), 0.2,
+            [draw] { return Milliseconds([&] { CompareAll(draw); }); },
+            [engine, query = CountingQuery(draw)] { return Milliseconds([&] { engine->FirstRow(query); }); }};
+}
+
+Row ChartRow(const Chart& chart)
+{
+    RecordSet& draws = chart.NewestFirst() ? DrawListOf(*chart.game) : DrawsOf(*chart.game);
+    const SlotRange slots = chart.SlotsRead();
+    WalkedFields fields;
+    for (int slot = slots.first; slot < slots.end; ++slot)
+        fields.numbers.push_back(DrawField::FirstBall + slot);
+    if (slots.Count() == 0)
+        fields.texts = {chart.subject == ChartSubject::Machines ? DrawField::Machine : DrawField::BallSet};
+    return {QStringLiteral("chart %1 computed").arg(chart.number), 1.5,
+            [&chart] { return Milliseconds([&] { CountChart(chart).Bars(chart.ballType); }); },
+            [&draws, fields] { return Milliseconds([&] { Walk(draws, fields); }); }};
+}
+
+Row RequeryRow(const std::filesystem::path& work)
+{
+    const auto engine = OpenPlainly(work / "drawdata.tv3", DrawConnect);
+    return {QStringLiteral("requery of the Main list after a change"), 1.3,
+            [] {
+                ukmain.MoveFirst();
+                Transaction transaction(DrawDb, "The draw could not be stored");
+                ukmain.Edit();
+                ukmain.Update();
+                transaction.Commit();
+                return Milliseconds([] { ukmainlist.Requery(); });
+            },
+            [engine] {
+                engine->Run("UPDATE ukmain SET Ball1 = Ball1 WHERE rowid = 1");
+                return Milliseconds([&] { engine->ReadAll("SELECT * FROM ukmainlist"); });
+            }};
+}
+
+void DeleteLast(RecordSet& table, int count)
+{
+    std::vector<std::int64_t> numbers;
+    table.MoveLast();
+    for (int row = 0; row < count; ++row, table.MovePrevious())
+        numbers.push_back(static_cast<std::int64_t>(table.Number(0)));
+    Transaction transaction(UserDb, "The entries could not be deleted");
+    DeleteRecords(table, numbers);
+    transaction.Commit();
+    table.MoveFirst();
+}
+
+Row StoringRow(const std::filesystem::path& work)
+{
+    const auto engine = OpenPlainly(work / "userdata.tv3", {});
+    const std::vector<EntryRow> lines = MakeLines(BuiltLines);
+    return {QStringLiteral("storing %1 built lines").arg(BuiltLines), 1.5,
+            [lines] {
+                users.MoveFirst();
+                const QString user = ReadUser(users).name;
+                const double time = Milliseconds([&] { StoreEntriesOfUser(user, lines, {true}, RaiseLimit::Yes); });
+                DeleteLast(entries, BuiltLines);
+                return time;
+            },
+            [engine, lines] {
+                const double time = Milliseconds([&] { engine->Insert(lines); });
+                engine->Run("DELETE FROM entries WHERE rowid > (SELECT max(rowid) FROM entries) - " +
+                            std::to_string(BuiltLines));
+                return time;
+            }};
+}
+
+} // namespace
+
+std::vector<Row> RecordRows(const std::filesystem::path& work)
+{
+    std::vector<Row> rows{ComparisonRow(work)};
+    for (const Chart& chart : AllCharts())
+        rows.push_back(ChartRow(chart));
+    rows.push_back(RequeryRow(work));
+    rows.push_back(StoringRow(work));
+    return rows;
+}
