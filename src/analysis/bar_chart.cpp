@@ -3,6 +3,7 @@
 #include "analysis/bar_colours.h"
 #include "platform/theme.h"
 
+#include <QAccessibleWidget>
 #include <QBarCategoryAxis>
 #include <QBarSet>
 #include <QChart>
@@ -73,6 +74,13 @@ QFont EvenlySet(QFont font)
     return font;
 }
 
+/// Tells a screen reader that this is a chart, where it would see a scrolling area.
+QAccessibleInterface* MakeAccessibleChart(const QString& /*className*/, QObject* object)
+{
+    auto* chart = qobject_cast<BarChart*>(object);
+    return chart == nullptr ? nullptr : new QAccessibleWidget(chart, QAccessible::Chart);
+}
+
 /// How far below the top of a line of text the middle of its digits lies.
 qreal DigitMiddle(const QFont& font)
 {
@@ -89,6 +97,7 @@ BarChart::BarChart(QWidget* parent)
       valueAxis(new QValueAxis),
       baseLine(scene()->addLine({}))
 {
+    QAccessible::installFactory(MakeAccessibleChart);
     setRenderHint(QPainter::Antialiasing);
     setBackgroundBrush(Qt::NoBrush);
     viewport()->setAutoFillBackground(false);

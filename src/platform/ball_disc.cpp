@@ -112,7 +112,8 @@ void BallDisc::PlaceNumber()
         return;
     const QRectF ball = BallRect();
     const qreal side = ball.width() * 0.74;
-    const int height = qMin(qRound(ball.height()), carried->sizeHint().height());
+    const int room = qRound(ball.height());
+    const int height = qobject_cast<QLabel*>(carried) != nullptr ? room : qMin(room, carried->sizeHint().height());
     carried->setGeometry(qRound(ball.center().x() - side / 2), qRound(ball.center().y() - height / 2.0), qRound(side),
                          height);
 }

@@ -209,7 +209,10 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     case Qt::BackgroundRole:
         return column.numbersEntries ? QVariant(EntryColour) : QVariant();
     case Qt::ForegroundRole:
-        return column.numbersEntries ? QVariant(QColor(Qt::white)) : QVariant();
+        // White digits would not stand out enough from this colour.
+        return column.numbersEntries ? QVariant(QColor(Qt::black)) : QVariant();
+    case Qt::FontRole:
+        return column.numbersEntries ? QVariant(FontFor(TextRole::Strong)) : QVariant();
     default:
         return {};
     }

@@ -68,7 +68,7 @@ public:
     {
         QString heading;
         Qt::Alignment alignment = Qt::AlignCenter;
-        /// Whether the column numbers the entries: white digits on the entry colour.
+        /// Whether the column numbers the entries: strong digits on the entry colour.
         bool numbersEntries = false;
     };
 

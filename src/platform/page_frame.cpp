@@ -80,15 +80,17 @@ void PageFrame::ShowInFront()
 
 void PageFrame::PutFooterLastInTabOrder()
 {
+    QWidget* last = nullptr;
+    for (QWidget* next = nextInFocusChain(); isAncestorOf(next); next = next->nextInFocusChain())
+        if (next->focusPolicy() != Qt::NoFocus && footer->indexOf(next) < 0)
+            last = next;
     for (int place = 0; place < footer->count(); ++place) {
         QWidget* button = footer->itemAt(place)->widget();
         if (button == nullptr)
             continue;
-        QWidget* last = previousInFocusChain();
-        while (last != this && last->focusPolicy() == Qt::NoFocus)
-            last = last->previousInFocusChain();
-        if (last != this)
+        if (last != nullptr)
             setTabOrder(last, button);
+        last = button;
     }
 }
 

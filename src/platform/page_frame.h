@@ -47,7 +47,7 @@ public:
     void ShowInFront();
 
     /// Makes the Tab key reach the buttons at the lower right behind all else on the page, as the eye does. To be asked
-    /// for before the page is put into a window.
+    /// for when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
     void PutFooterLastInTabOrder();
 
 protected:

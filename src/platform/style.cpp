@@ -74,7 +74,7 @@ void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* wi
         fill = Mixed(fill, toward, 0.16);
     else if (enabled && option->state & QStyle::State_MouseOver)
         fill = Mixed(fill, toward, 0.07);
-    FillRounded(painter, option->rect, Corner, fill, accent ? fill : palette.color(QPalette::Mid));
+    FillRounded(painter, option->rect, Corner, fill, accent ? fill : OutlineColour(palette));
 }
 
 void DrawFieldPanel(const QStyleOption* option, QPainter* painter)

@@ -51,8 +51,8 @@ PageFrame* MainWindow::Page(int index)
         page = row->make(*this);
     }
     if (page != nullptr) {
-        page->PutFooterLastInTabOrder();
         area->Add(page);
+        page->PutFooterLastInTabOrder();
     }
     return page;
 }
