@@ -174,7 +174,6 @@ void Walk::OtherBuildTypes() const
     Choose(QStringLiteral("F26combo_1"), 0);
     Show(QStringLiteral("generator_random"));
     Type(QStringLiteral("F26text"), QStringLiteral("200"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     Foresee({});
     Press(QStringLiteral("F26go"));
     Show(QStringLiteral("generator_200_lines"));
@@ -243,9 +242,11 @@ void Walk::Press(const QString& name) const
 
 void Walk::Type(const QString& name, const QString& text) const
 {
+    window.activateWindow();
     PressIn(window, name);
     QTest::keyClick(Find(name), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(Find(name), text);
+    QTest::keyClick(Find(name), Qt::Key_Return);
 }
 
 void Walk::Choose(const QString& list, int item) const

@@ -2,6 +2,7 @@
 
 #include "draws/draw_records.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "platform/dates.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
@@ -92,7 +93,9 @@ void CheckPage::BuildCards()
     F12text->setUndoRedoEnabled(false);
     F12text->setFrameShape(QFrame::NoFrame);
     F12text->viewport()->setBackgroundRole(QPalette::AlternateBase);
-    F12text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    digits.setPointSizeF(FontFor(TextRole::Body).pointSizeF());
+    F12text->setFont(digits);
 
     Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
     userCard->Content()->addWidget(F12user);
@@ -103,10 +106,11 @@ void CheckPage::BuildCards()
     dateCard->Content()->addWidget(F12cal);
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(Spacing::Cards);
-    cards->addWidget(userCard, 1);
-    cards->addWidget(typeCard);
+    auto* who = new CardRow;
+    who->addWidget(userCard, 1);
+    who->addWidget(typeCard);
+    auto* cards = new CardRow;
+    cards->addLayout(who, 1);
     cards->addWidget(dateCard);
     Body()->addLayout(cards);
 

@@ -1,9 +1,11 @@
 #include "draws/draw_browser_page.h"
 
+#include "draws/ball_row.h"
 #include "draws/draw_records.h"
 #include "draws/draw_view.h"
 #include "draws/game.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "platform/guard.h"
 #include "platform/month_calendar.h"
 #include "shell/open_databases.h"
@@ -44,6 +46,7 @@ BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
       back(new Button(QStringLiteral("<"), ControlName(game, "back"), card)),
       forward(new Button(QStringLiteral(">"), ControlName(game, "forward"), card))
 {
+    draw->Balls()->MakeCompact();
     AddArrows();
     frame->setObjectName(ControlName(game, "frame"));
     auto* framed = new QVBoxLayout(frame);
@@ -67,6 +70,7 @@ void BrowserSection::AddArrows()
         QSizePolicy keepsItsPlace = arrow->sizePolicy();
         keepsItsPlace.setRetainSizeWhenHidden(true);
         arrow->setSizePolicy(keepsItsPlace);
+        arrow->setMaximumHeight(arrow->fontMetrics().height() + Spacing::Between);
         heading->addWidget(arrow);
     }
     const QString which = QStringLiteral("%1 %2 draw of this date");
@@ -134,8 +138,7 @@ DrawBrowserPage::DrawBrowserPage()
     for (const BrowserSection* section : {mainSection, thunderballSection})
         draws->addWidget(section->View());
     draws->addStretch(1);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(Spacing::Cards);
+    auto* columns = new CardRow;
     columns->addWidget(dateCard, 0, Qt::AlignTop);
     columns->addLayout(draws, 1);
     Body()->addLayout(columns);

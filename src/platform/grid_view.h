@@ -6,7 +6,8 @@
 #include <vector>
 
 /// A grid of whole rows, of which one span can be selected: by Shift-click, by dragging either way, by Shift with the
-/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size. Ctrl+C copies the selected
+/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size, and where that
+/// is too narrow for their texts, the texts become smaller. Ctrl+C copies the selected
 /// rows, without hidden columns, as tab-separated text.
 class GridView : public QTableView
 {
@@ -51,6 +52,9 @@ protected:
 
 private:
     void LayOutColumns();
+    /// The width of the widest text of a column with some room around it.
+    double NeededWidth(int column) const;
+    void TakeFont(double factor);
     int FirstShownColumn() const;
     void CopySelectedRows() const;
 

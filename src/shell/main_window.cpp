@@ -3,6 +3,7 @@
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/page_frame.h"
+#include "platform/shortcut_letters.h"
 #include "shell/introduction_page.h"
 #include "shell/menu_column.h"
 #include "shell/menu_table.h"
@@ -53,6 +54,7 @@ PageFrame* MainWindow::Page(int index)
     if (page != nullptr) {
         area->Add(page);
         page->PutFooterLastInTabOrder();
+        GiveShortcutLetters(*page, MenuColumn::ShortcutLetters.toString());
     }
     return page;
 }

@@ -85,8 +85,11 @@ void AddEntriesPage::BuildCards()
     userCard->Content()->addLayout(form);
 
     auto* ballCard = new Card;
-    ballCard->Content()->addWidget(F18ent);
-    ballCard->Content()->addWidget(F18reset, 0, Qt::AlignLeft);
+    auto* balls = new QHBoxLayout;
+    balls->setSpacing(Spacing::Between);
+    balls->addWidget(F18ent, 1);
+    balls->addWidget(F18reset);
+    ballCard->Content()->addLayout(balls);
 
     auto* dayCard = new Card;
     dayCard->Content()->addWidget(

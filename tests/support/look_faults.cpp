@@ -92,7 +92,8 @@ bool CellsFit(const QAbstractItemView& view)
                     return false;
     for (const auto* header : view.findChildren<QHeaderView*>())
         for (int section = 0; header->isVisible() && section < header->count(); ++section)
-            if (!header->isSectionHidden(section) && header->sectionSizeHint(section) > header->sectionSize(section) + 8)
+            if (!header->isSectionHidden(section) &&
+                header->sectionSizeHint(section) > header->sectionSize(section) + 8)
                 return false;
     return true;
 }
@@ -219,7 +220,12 @@ QStringList LayoutFaults(QWidget& window)
         if (widget->focusPolicy() != Qt::NoFocus && !HasRoleAndName(*widget))
             faults.append("name " + NameOf(*widget));
         if (!TextFits(*widget) || !widget->parentWidget()->rect().contains(widget->geometry()))
-            faults.append(QString("fit %1 %2x%3 hint %4x%5").arg(NameOf(*widget)).arg(widget->width()).arg(widget->height()).arg(widget->sizeHint().width()).arg(widget->sizeHint().height()));
+            faults.append(QString("fit %1 %2x%3 hint %4x%5")
+                              .arg(NameOf(*widget))
+                              .arg(widget->width())
+                              .arg(widget->height())
+                              .arg(widget->sizeHint().width())
+                              .arg(widget->sizeHint().height()));
         for (QWidget* other : seen)
             if (other < widget && other->parentWidget() == widget->parentWidget() && !MayOverlap(*widget) &&
                 !MayOverlap(*other) && other->geometry().intersects(widget->geometry()))
@@ -244,14 +250,17 @@ QStringList ContrastFaults(QWidget& window)
         const QRect place = PlaceOf(*widget);
         if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
             for (int cell = 0; cell < LookedAtRows * view->model()->columnCount(); ++cell)
-                if (const QRect inView = view->visualRect(view->model()->index(
-                        cell / view->model()->columnCount(), cell % view->model()->columnCount()));
+                if (const QRect inView = view->visualRect(
+                        view->model()->index(cell / view->model()->columnCount(), cell % view->model()->columnCount()));
                     view->viewport()->rect().contains(inView) &&
                     StrongestContrast(picture, part(inView.translated(PlaceOf(*view->viewport()).topLeft()))) <
                         TextContrast)
                     faults.append(QString("contrast cell %1 of %2").arg(cell).arg(NameOf(*view)));
         constexpr int border = 4;
-        const QRect inside = place.adjusted(border, border / 2, -border, -border / 2);
+        QRect inside = place.adjusted(border, border / 2, -border, -border / 2);
+        if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && !label->wordWrap())
+            inside = QStyle::alignedRect(Qt::LeftToRight, label->alignment(),
+                                         label->fontMetrics().size(0, label->text()), place);
         if (widget->isEnabled() && !ShownText(*widget).trimmed().isEmpty() &&
             StrongestContrast(picture, part(inside)) < TextContrast)
             faults.append(QString("contrast %1 %2").arg(NameOf(*widget)).arg(StrongestContrast(picture, part(inside))));
