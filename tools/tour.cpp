@@ -25,11 +25,10 @@ int main(int count, char** arguments)
     QApplication::setStyle(new Style);
     if (given.contains(QLatin1String("dark")))
         SetAppearance(Appearance::Dark);
-    if (given.contains(QLatin1String("large"))) {
-        QFont larger = QApplication::font();
-        larger.setPointSizeF(larger.pointSizeF() * 1.5);
-        QApplication::setFont(larger);
-    }
+    // The size of most desktops, where a screen without a display has a smaller one.
+    QFont desktop = QApplication::font();
+    desktop.setPointSizeF(given.contains(QLatin1String("large")) ? 10.5 * 1.5 : 10.5);
+    QApplication::setFont(desktop);
     const QTemporaryDir folder;
     for (const char* name : {"drawdata.tv3", "userdata.tv3"})
         QFile::copy(QDir(given[1]).filePath(QLatin1String(name)), folder.filePath(QLatin1String(name)));
@@ -40,7 +39,8 @@ int main(int count, char** arguments)
     MainWindow window;
     window.show();
     const Walk walk(window, [&pictures](const QString& name, QWidget& shown) {
-        shown.grab().save(pictures.filePath(name + QStringLiteral(".png")));
+        // The smallest files that the format can have.
+        shown.grab().save(pictures.filePath(name + QStringLiteral(".png")), "PNG", 0);
     });
     walk.MainJob();
     walk.EverythingElse();

@@ -243,6 +243,7 @@ void Walk::Press(const QString& name) const
 void Walk::Type(const QString& name, const QString& text) const
 {
     window.activateWindow();
+    QApplication::processEvents();
     PressIn(window, name);
     QTest::keyClick(Find(name), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(Find(name), text);

@@ -8,6 +8,7 @@
 #include "platform/card_row.h"
 #include "platform/guard.h"
 #include "platform/month_calendar.h"
+#include "platform/rolling_area.h"
 #include "shell/open_databases.h"
 
 #include <QHBoxLayout>
@@ -133,14 +134,16 @@ DrawBrowserPage::DrawBrowserPage()
     F9Cal->setObjectName(QStringLiteral("F9Cal"));
     auto* dateCard = new Card(this);
     dateCard->Content()->addWidget(F9Cal);
-    auto* draws = new QVBoxLayout;
+    auto* drawsOfDate = new QWidget;
+    auto* draws = new QVBoxLayout(drawsOfDate);
+    draws->setContentsMargins(0, 0, 0, 0);
     draws->setSpacing(Spacing::Cards);
     for (const BrowserSection* section : {mainSection, thunderballSection})
         draws->addWidget(section->View());
     draws->addStretch(1);
     auto* columns = new CardRow;
     columns->addWidget(dateCard, 0, Qt::AlignTop);
-    columns->addLayout(draws, 1);
+    columns->addWidget(new RollingArea(drawsOfDate), 1);
     Body()->addLayout(columns);
     Body()->addStretch(1);
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });

@@ -61,7 +61,7 @@ void BallDisc::MakeCompact()
 
 QSize BallDisc::sizeHint() const
 {
-    const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.3));
+    const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.1));
     return compact ? QSize(side, side) * 5 / 6 : QSize(side, side);
 }
 

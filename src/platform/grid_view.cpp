@@ -106,7 +106,7 @@ void GridView::LayOutColumns()
 
 double GridView::NeededWidth(int column) const
 {
-    constexpr int margin = 4;
+    constexpr int margin = Spacing::Inside;
     // The widest texts of a column are known from its first rows and, where it counts the rows, from its last.
     constexpr int looked = 40;
     const int rows = model()->rowCount();

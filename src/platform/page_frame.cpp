@@ -13,6 +13,14 @@ Button::Button(const QString& caption, const QString& name, QWidget* parent) : Q
     setAccessibleName(caption);
     setFont(FontFor(TextRole::Strong));
     setAutoDefault(false);
+    // Where the page is too narrow for its buttons, they give up the room beside their captions.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize Button::minimumSizeHint() const
+{
+    const int captionWidth = fontMetrics().horizontalAdvance(text()) + 2 * Spacing::Between;
+    return {qMin(captionWidth, sizeHint().width()), sizeHint().height()};
 }
 
 void Button::MakeAccent()

@@ -20,6 +20,8 @@ public:
     /// Marks it as the page's default action.
     void MakeAccent();
 
+    QSize minimumSizeHint() const override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 };

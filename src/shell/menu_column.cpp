@@ -15,7 +15,7 @@ using MenuMeasure::RowHeight;
 
 constexpr int TwipsPerPixel = 10;
 constexpr int SuboptionLeft = 50;
-constexpr int SuboptionHeight = 30;
+constexpr int SuboptionHeight = 34;
 
 constexpr std::array<Picture, 5> GroupPictures{Picture::AddDraws, Picture::DrawRecords, Picture::Users,
                                                Picture::Generator, Picture::Analysis};

@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTest>
@@ -41,23 +42,28 @@ QRect PlaceOf(const QWidget& widget)
     return {widget.mapTo(widget.window(), QPoint()), widget.size()};
 }
 
-template <typename Type>
-bool IsInside(const QWidget& widget)
+bool Rolls(const QWidget* widget)
+{
+    return qobject_cast<const QScrollArea*>(widget) != nullptr;
+}
+
+/// Whether a widget is a part of one of the toolkit's own compound controls.
+bool IsPart(const QWidget& widget)
 {
     for (const QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget())
-        if (qobject_cast<const Type*>(outer) != nullptr)
+        if ((qobject_cast<const QAbstractScrollArea*>(outer) != nullptr && !Rolls(outer)) ||
+            qobject_cast<const QComboBox*>(outer) != nullptr || qobject_cast<const QAbstractSpinBox*>(outer) != nullptr)
             return true;
     return false;
 }
 
-/// The widgets of the window that the player sees, without the parts of the toolkit's own compound controls.
+/// The widgets of the window that the player sees, without the parts of compound controls.
 QList<QWidget*> SeenWidgets(QWidget& window)
 {
     QList<QWidget*> seen;
     for (auto* widget : window.findChildren<QWidget*>())
         if (widget->window() == &window && widget->isVisible() && !widget->visibleRegion().isEmpty() &&
-            !IsInside<QAbstractScrollArea>(*widget) && !IsInside<QComboBox>(*widget) &&
-            !IsInside<QAbstractSpinBox>(*widget))
+            !IsPart(*widget))
             seen.append(widget);
     return seen;
 }
@@ -126,6 +132,13 @@ bool TextFits(const QWidget& widget)
                 return false;
     return widget.sizePolicy().hasHeightForWidth() ? widget.heightForWidth(widget.width()) <= widget.height()
                                                    : Fits(widget.minimumSizeHint(), widget.size());
+}
+
+/// Whether a widget stands over the edge of what it lies in, where the player cannot bring it to light.
+bool IsCut(const QWidget& widget)
+{
+    const QWidget* outer = widget.parentWidget();
+    return !outer->rect().contains(widget.geometry()) && !Rolls(outer->parentWidget());
 }
 
 bool MayOverlap(const QWidget& widget)
@@ -200,6 +213,15 @@ QString ShownText(const QWidget& widget)
     return button != nullptr && qobject_cast<const ScreenButton*>(button) == nullptr ? button->text() : QString();
 }
 
+/// Where the rows of a column are seen. A single figure may be too fine to show its full colour.
+QRect ColumnPlace(const QAbstractItemView& view, int column)
+{
+    QRect place;
+    for (int row = 1; row < qMin(view.model()->rowCount(), LookedAtRows); ++row)
+        place |= view.visualRect(view.model()->index(row, column)) & view.viewport()->rect();
+    return place.translated(PlaceOf(*view.viewport()).topLeft());
+}
+
 /// Whether nothing but an outline tells the player where the control is.
 bool HasOutline(const QWidget& widget)
 {
@@ -219,13 +241,8 @@ QStringList LayoutFaults(QWidget& window)
     for (QWidget* widget : seen) {
         if (widget->focusPolicy() != Qt::NoFocus && !HasRoleAndName(*widget))
             faults.append("name " + NameOf(*widget));
-        if (!TextFits(*widget) || !widget->parentWidget()->rect().contains(widget->geometry()))
-            faults.append(QString("fit %1 %2x%3 hint %4x%5")
-                              .arg(NameOf(*widget))
-                              .arg(widget->width())
-                              .arg(widget->height())
-                              .arg(widget->sizeHint().width())
-                              .arg(widget->sizeHint().height()));
+        if (!TextFits(*widget) || IsCut(*widget))
+            faults.append("fit " + NameOf(*widget));
         for (QWidget* other : seen)
             if (other < widget && other->parentWidget() == widget->parentWidget() && !MayOverlap(*widget) &&
                 !MayOverlap(*other) && other->geometry().intersects(widget->geometry()))
@@ -249,13 +266,10 @@ QStringList ContrastFaults(QWidget& window)
     for (QWidget* widget : SeenWidgets(window)) {
         const QRect place = PlaceOf(*widget);
         if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
-            for (int cell = 0; cell < LookedAtRows * view->model()->columnCount(); ++cell)
-                if (const QRect inView = view->visualRect(
-                        view->model()->index(cell / view->model()->columnCount(), cell % view->model()->columnCount()));
-                    view->viewport()->rect().contains(inView) &&
-                    StrongestContrast(picture, part(inView.translated(PlaceOf(*view->viewport()).topLeft()))) <
-                        TextContrast)
-                    faults.append(QString("contrast cell %1 of %2").arg(cell).arg(NameOf(*view)));
+            for (int column = 0; column < view->model()->columnCount(); ++column)
+                if (const QRect cells = ColumnPlace(*view, column);
+                    !cells.isEmpty() && StrongestContrast(picture, part(cells)) < TextContrast)
+                    faults.append(QString("contrast column %1 of %2").arg(column).arg(NameOf(*view)));
         constexpr int border = 4;
         QRect inside = place.adjusted(border, border / 2, -border, -border / 2);
         if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && !label->wordWrap())

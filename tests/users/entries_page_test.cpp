@@ -93,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(grid.view->isColumnHidden(0));
         const QModelIndex entryCell = grid.view->model()->index(1, 1);
         QCOMPARE(entryCell.data(Qt::BackgroundRole).value<QColor>(), QColor("#5B74D7"));
-        QCOMPARE(entryCell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::white));
+        QCOMPARE(entryCell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));
         QCOMPARE(grid.view->model()->headerData(1, Qt::Horizontal).toString(), QString("Entry"));
         QCOMPARE(grid.view->model()->headerData(7, Qt::Horizontal).toString(), QString("Ball 6"));
 
