@@ -50,7 +50,7 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QRectF ball = 
+        const QRectF ball =
             QRectF(rect()).adjusted(ShadowRoom + 0.5, ShadowRoom + 0.5, -ShadowRoom - 0.5, -ShadowRoom - 0.5);
         if (isChecked()) {
             PaintBall(painter, ball, palette().color(QPalette::Window));

@@ -77,6 +77,7 @@ AddDrawPage::AddDrawPage(const Game& drawGame)
 void AddDrawPage::BuildCards()
 {
     auto* dateCard = new Card;
+    dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(calendar);
     auto* drawCard = new Card;
     drawCard->setObjectName(QLatin1String(TextsOf(game).frame));

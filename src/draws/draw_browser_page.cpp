@@ -133,6 +133,7 @@ DrawBrowserPage::DrawBrowserPage()
 {
     F9Cal->setObjectName(QStringLiteral("F9Cal"));
     auto* dateCard = new Card(this);
+    dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(F9Cal);
     auto* drawsOfDate = new QWidget;
     auto* draws = new QVBoxLayout(drawsOfDate);

@@ -2,7 +2,7 @@
 
 #include "platform/theme.h"
 
-CardRow::CardRow() : QBoxLayout(LeftToRight)
+CardRow::CardRow(QWidget* parent) : QBoxLayout(LeftToRight, parent)
 {
     setSpacing(Spacing::Cards);
 }

@@ -9,7 +9,7 @@ class CardRow : public QBoxLayout
     Q_OBJECT
 
 public:
-    CardRow();
+    explicit CardRow(QWidget* parent = nullptr);
 
     QSize minimumSize() const override;
     void setGeometry(const QRect& place) override;

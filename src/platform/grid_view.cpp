@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int CellMargins = 2 * Spacing::Inside;
+
 const QColor EntryColour(0x5B, 0x74, 0xD7);
 
 /// A font that is stronger than the grid's and else the same.
@@ -80,33 +82,49 @@ void GridView::LayOutColumns()
         return;
     const auto columns = std::min(static_cast<size_t>(model()->columnCount()), shares.size());
     TakeFont(1);
-    std::vector<double> needed(columns);
-    double neededByAll = 0;
+    std::vector<double> texts(columns);
+    double room = available;
+    double textsTogether = 0;
     bool sharesSuffice = true;
     for (size_t column = 0; column < columns; ++column) {
-        needed[column] = shares[column] == 0 ? 0 : NeededWidth(static_cast<int>(column));
-        neededByAll += needed[column];
-        sharesSuffice = sharesSuffice && needed[column] <= available * shares[column];
+        if (shares[column] == 0)
+            continue;
+        texts[column] = TextWidth(static_cast<int>(column));
+        textsTogether += texts[column];
+        room -= CellMargins;
+        sharesSuffice = sharesSuffice && texts[column] + CellMargins <= available * shares[column];
     }
-    if (neededByAll > available)
-        TakeFont(available / neededByAll);
+    const double factor = std::min(1.0, std::max(room, 1.0) / textsTogether);
+    if (!sharesSuffice)
+        TakeFont(factor);
     int left = available;
     for (size_t column = 0; column < columns; ++column) {
-        const double width = sharesSuffice              ? available * shares[column]
-                             : neededByAll >= available ? available * needed[column] / neededByAll
-                                                        : needed[column] + (available - neededByAll) * shares[column];
+        const double width =
+            sharesSuffice ? available * shares[column]
+                          : texts[column] * factor + CellMargins + std::max(0.0, room - textsTogether) * shares[column];
         // Rounding must not make the columns together wider than the grid.
         const int whole = std::min(qRound(width), left);
-        left -= whole;
         setColumnHidden(static_cast<int>(column), shares[column] == 0);
-        if (shares[column] != 0)
-            setColumnWidth(static_cast<int>(column), whole);
+        if (shares[column] == 0)
+            continue;
+        left -= whole;
+        setColumnWidth(static_cast<int>(column), whole);
     }
 }
 
-double GridView::NeededWidth(int column) const
+QSize GridView::minimumSizeHint() const
 {
-    constexpr int margin = Spacing::Inside;
+    // The texts may become smaller than the pages' own, but not by much.
+    constexpr double smallestFactor = 0.8;
+    double width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    for (int column = 0; model() != nullptr && column < model()->columnCount(); ++column)
+        if (!isColumnHidden(column))
+            width += TextWidth(column) * smallestFactor + CellMargins;
+    return {qRound(width), QTableView::minimumSizeHint().height()};
+}
+
+double GridView::TextWidth(int column) const
+{
     // The widest texts of a column are known from its first rows and, where it counts the rows, from its last.
     constexpr int looked = 40;
     const int rows = model()->rowCount();
@@ -115,7 +133,7 @@ double GridView::NeededWidth(int column) const
     double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
     for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
         widest = std::max(widest, metrics.horizontalAdvance(model()->index(row, column).data().toString()));
-    return widest + 2 * margin;
+    return widest;
 }
 
 void GridView::TakeFont(double factor)

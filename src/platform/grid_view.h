@@ -34,6 +34,7 @@ public:
     void SelectRow(int row);
 
     void reset() override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// The Enter key was pressed.
@@ -52,8 +53,8 @@ protected:
 
 private:
     void LayOutColumns();
-    /// The width of the widest text of a column with some room around it.
-    double NeededWidth(int column) const;
+    /// The width of the widest text of a column.
+    double TextWidth(int column) const;
     void TakeFont(double factor);
     int FirstShownColumn() const;
     void CopySelectedRows() const;

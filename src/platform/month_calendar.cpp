@@ -77,6 +77,7 @@ void MonthCalendar::TakeColours()
     const QPalette& colours = palette();
     QTextCharFormat header;
     header.setForeground(colours.color(QPalette::PlaceholderText));
+    header.setFontPointSize(FontFor(TextRole::Caption).pointSizeF());
     header.setBackground(colours.color(QPalette::AlternateBase));
     if (headerTextFormat() != header)
         setHeaderTextFormat(header);

@@ -265,6 +265,8 @@ QStringList ContrastFaults(QWidget& window)
     };
     for (QWidget* widget : SeenWidgets(window)) {
         const QRect place = PlaceOf(*widget);
+        if (widget->visibleRegion().boundingRect() != widget->rect())
+            continue;
         if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
             for (int column = 0; column < view->model()->columnCount(); ++column)
                 if (const QRect cells = ColumnPlace(*view, column);
