@@ -35,6 +35,7 @@ Card* MakeGroup(const QString& caption, const QString& captionName, const QStrin
 {
     auto* card = new Card;
     card->setObjectName(shapeName);
+    card->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     card->Content()->setSpacing(Spacing::Inside);
     card->Content()->addWidget(MakeLabel(caption, TextRole::Caption, captionName));
     return card;
@@ -82,7 +83,7 @@ void CheckPage::BuildCards()
     F12user->setObjectName(QStringLiteral("F12user"));
     F12user->setAccessibleName(QStringLiteral("User"));
     F12user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    F12user->setMinimumContentsLength(10);
+    F12user->setMinimumContentsLength(7);
     F12cal->setObjectName(QStringLiteral("F12cal"));
     F12cal->setAccessibleName(QStringLiteral("Date of the draw"));
     F12cal->setCalendarPopup(true);
@@ -107,9 +108,11 @@ void CheckPage::BuildCards()
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
     auto* who = new CardRow;
+    who->setSpacing(Spacing::Between);
     who->addWidget(userCard, 1);
     who->addWidget(typeCard);
     auto* cards = new CardRow;
+    cards->setSpacing(Spacing::Between);
     cards->addLayout(who, 1);
     cards->addWidget(dateCard);
     Body()->addLayout(cards);

@@ -8,9 +8,11 @@
 #include "platform/theme.h"
 #include "shell/about_window.h"
 #include "users/draw_day_window.h"
+#include "users/user_records.h"
 #include "utilities/advanced_window.h"
 #include "walk.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QVBoxLayout>
@@ -151,6 +153,23 @@ private Q_SLOTS:
         for (const QString& fault : faults)
             qWarning("%s", qPrintable(fault));
         QCOMPARE(faults.size(), 0);
+    }
+
+    void GridsAndReportAreReadAloud()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        window.Window().ChooseMenu(2, 3);
+        QAccessibleTableInterface* grid =
+            QAccessible::queryAccessibleInterface(window.Find("F10Grid1"))->tableInterface();
+        QCOMPARE(grid->rowCount(), 2065);
+        QCOMPARE(grid->columnDescription(0), QString("Date"));
+        QCOMPARE(grid->cellAt(0, 0)->text(QAccessible::Name), QString("07/10/2015"));
+        window.Window().ChooseMenu(3, 4);
+        window.Find<QPushButton>("F12check")->click();
+        QAccessibleTextInterface* report =
+            QAccessible::queryAccessibleInterface(window.Find("F12text"))->textInterface();
+        QVERIFY2(report->text(0, report->characterCount()).contains("User: Ann"), qPrintable(window.TextOf("F12text")));
     }
 
     void EveryDialogHasADefaultAndAnswersEscape()
