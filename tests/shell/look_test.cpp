@@ -169,7 +169,7 @@ private Q_SLOTS:
         window.Find<QPushButton>("F12check")->click();
         QAccessibleTextInterface* report =
             QAccessible::queryAccessibleInterface(window.Find("F12text"))->textInterface();
-        QVERIFY2(report->text(0, report->characterCount()).contains("User: Ann"), qPrintable(window.TextOf("F12text")));
+        QVERIFY(report->text(0, report->characterCount()).contains("There are no user entries stored."));
     }
 
     void EveryDialogHasADefaultAndAnswersEscape()
