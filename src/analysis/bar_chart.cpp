@@ -1,8 +1,10 @@
 #include "analysis/bar_chart.h"
 
 #include "analysis/bar_colours.h"
+#include "analysis/chart_texts.h"
 #include "platform/theme.h"
 
+#include <QAccessibleWidget>
 #include <QBarCategoryAxis>
 #include <QBarSet>
 #include <QChart>
@@ -23,61 +25,12 @@ namespace {
 constexpr qreal Gap = Spacing::Inside;
 constexpr qreal WidestBar = 120;
 constexpr qreal BarShare = 0.84;
-constexpr int MostSteps = 7;
 
-/// The smallest of 1, 2, 5, 10, 20, 50 and so on that divides the axis into few enough steps.
-int StepFor(int highest)
+/// Tells a screen reader that this is a chart, where it would see a scrolling area.
+QAccessibleInterface* MakeAccessibleChart(const QString& /*className*/, QObject* object)
 {
-    for (int power = 1;; power *= 10)
-        for (const int digit : {1, 2, 5})
-            if (highest <= MostSteps * std::int64_t{digit} * power)
-                return digit * power;
-}
-
-QFont Scaled(QFont font, qreal factor)
-{
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * factor);
-    else
-        font.setPixelSize(qMax(1, static_cast<int>(font.pixelSize() * factor)));
-    return font;
-}
-
-qreal WidestOf(const QList<QGraphicsSimpleTextItem*>& texts, const QFont& font)
-{
-    const QFontMetricsF metrics(font);
-    qreal widest = 0;
-    for (const QGraphicsSimpleTextItem* text : texts)
-        widest = qMax(widest, metrics.horizontalAdvance(text->text()));
-    return widest;
-}
-
-/// The pages' own font where the texts have ample room in their columns, that of captions where they have enough, and a
-/// smaller one where they have not.
-QFont FontThatFits(const QList<QGraphicsSimpleTextItem*>& texts, qreal columnWidth)
-{
-    const QFont body = FontFor(TextRole::Body);
-    if (WidestOf(texts, body) <= columnWidth * 0.75)
-        return body;
-    const QFont caption = FontFor(TextRole::Caption);
-    const qreal widest = WidestOf(texts, caption);
-    const qreal room = columnWidth - 2;
-    return widest <= room ? caption : Scaled(caption, room / widest * 0.99);
-}
-
-/// Digits that are a whole number of pixels wide: turned text is set pixel by pixel, and they would stand unevenly.
-QFont EvenlySet(QFont font)
-{
-    const qreal digit = QFontMetricsF(font).horizontalAdvance(u'0');
-    font.setLetterSpacing(QFont::AbsoluteSpacing, std::round(digit) - digit);
-    return font;
-}
-
-/// How far below the top of a line of text the middle of its digits lies.
-qreal DigitMiddle(const QFont& font)
-{
-    const QFontMetricsF metrics(font);
-    return metrics.ascent() - metrics.capHeight() / 2;
+    auto* chart = qobject_cast<BarChart*>(object);
+    return chart == nullptr ? nullptr : new QAccessibleWidget(chart, QAccessible::Chart);
 }
 
 } // namespace
@@ -89,6 +42,7 @@ BarChart::BarChart(QWidget* parent)
       valueAxis(new QValueAxis),
       baseLine(scene()->addLine({}))
 {
+    QAccessible::installFactory(MakeAccessibleChart);
     setRenderHint(QPainter::Antialiasing);
     setBackgroundBrush(Qt::NoBrush);
     viewport()->setAutoFillBackground(false);

@@ -4,10 +4,12 @@
 #include "builder/number_window.h"
 #include "builder/step_card.h"
 #include "draws/game.h"
+#include "platform/card_row.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/numbers.h"
 #include "platform/random_source.h"
+#include "platform/rolling_area.h"
 #include "platform/text_box.h"
 #include "shell/open_databases.h"
 #include "shell/page_switch.h"
@@ -43,11 +45,12 @@ EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
     F26grid->SetColumnShares(EntryGridModel::ColumnShares());
     gridCard->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
     gridCard->Content()->addWidget(F26grid);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(Spacing::Cards);
+    auto* both = new QWidget;
+    auto* cards = new CardRow(both);
+    cards->setContentsMargins(0, 0, 0, 0);
     cards->addWidget(card, 5, Qt::AlignTop);
     cards->addWidget(gridCard, 6);
-    Body()->addLayout(cards, 1);
+    Body()->addWidget(new RollingArea(both), 1);
     F26store = KeepingRoom(AddFooterDefault(QStringLiteral("Store Entries"), QStringLiteral("F26store")));
     ConnectHandlers();
 }

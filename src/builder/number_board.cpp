@@ -50,7 +50,8 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QRectF ball = QRectF(rect()).adjusted(ShadowRoom, ShadowRoom, -ShadowRoom, -ShadowRoom);
+        const QRectF ball =
+            QRectF(rect()).adjusted(ShadowRoom + 0.5, ShadowRoom + 0.5, -ShadowRoom - 0.5, -ShadowRoom - 0.5);
         if (isChecked()) {
             PaintBall(painter, ball, palette().color(QPalette::Window));
         } else {
@@ -102,6 +103,7 @@ private:
 NumberBoard::NumberBoard(QWidget* parent) : QWidget(parent)
 {
     auto* grid = new QGridLayout(this);
+    setAccessibleName(QStringLiteral("Numbers 1 to 49"));
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(Spacing::Inside / 2);
     for (int number = 1; number <= HighestNumber; ++number) {

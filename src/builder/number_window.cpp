@@ -21,11 +21,10 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     setObjectName(QStringLiteral("frmnumsel"));
     setWindowTitle(QStringLiteral("Tavenor 3 --- Number Selection"));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::Page, Spacing::Cards, Spacing::Page, Spacing::Cards);
+    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
     layout->setSpacing(Spacing::Between);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     auto* card = new Card;
-    card->Content()->addWidget(board);
+    card->Content()->addWidget(board, 0, Qt::AlignCenter);
     auto* fillRow = new QHBoxLayout;
     auto* endRow = new QHBoxLayout;
     const auto addButton = [this](QHBoxLayout* row, const char* caption, const char* name, auto handler) {

@@ -2,6 +2,7 @@
 
 #include "draws/draw_records.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "platform/dates.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
@@ -34,6 +35,7 @@ Card* MakeGroup(const QString& caption, const QString& captionName, const QStrin
 {
     auto* card = new Card;
     card->setObjectName(shapeName);
+    card->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     card->Content()->setSpacing(Spacing::Inside);
     card->Content()->addWidget(MakeLabel(caption, TextRole::Caption, captionName));
     return card;
@@ -81,7 +83,7 @@ void CheckPage::BuildCards()
     F12user->setObjectName(QStringLiteral("F12user"));
     F12user->setAccessibleName(QStringLiteral("User"));
     F12user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    F12user->setMinimumContentsLength(10);
+    F12user->setMinimumContentsLength(7);
     F12cal->setObjectName(QStringLiteral("F12cal"));
     F12cal->setAccessibleName(QStringLiteral("Date of the draw"));
     F12cal->setCalendarPopup(true);
@@ -92,7 +94,9 @@ void CheckPage::BuildCards()
     F12text->setUndoRedoEnabled(false);
     F12text->setFrameShape(QFrame::NoFrame);
     F12text->viewport()->setBackgroundRole(QPalette::AlternateBase);
-    F12text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    digits.setPointSizeF(FontFor(TextRole::Body).pointSizeF());
+    F12text->setFont(digits);
 
     Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
     userCard->Content()->addWidget(F12user);
@@ -103,10 +107,13 @@ void CheckPage::BuildCards()
     dateCard->Content()->addWidget(F12cal);
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(Spacing::Cards);
-    cards->addWidget(userCard, 1);
-    cards->addWidget(typeCard);
+    auto* who = new CardRow;
+    who->setSpacing(Spacing::Between);
+    who->addWidget(userCard, 1);
+    who->addWidget(typeCard);
+    auto* cards = new CardRow;
+    cards->setSpacing(Spacing::Between);
+    cards->addLayout(who, 1);
     cards->addWidget(dateCard);
     Body()->addLayout(cards);
 

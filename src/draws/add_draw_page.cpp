@@ -4,6 +4,7 @@
 #include "draws/draw_prompt.h"
 #include "draws/game.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/month_calendar.h"
@@ -76,6 +77,7 @@ AddDrawPage::AddDrawPage(const Game& drawGame)
 void AddDrawPage::BuildCards()
 {
     auto* dateCard = new Card;
+    dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(calendar);
     auto* drawCard = new Card;
     drawCard->setObjectName(QLatin1String(TextsOf(game).frame));
@@ -87,8 +89,7 @@ void AddDrawPage::BuildCards()
         drawCard->Content()->addLayout(MakeMachineForm(machine, ballSet, QLatin1String(TextsOf(game).caption)));
     }
     drawCard->Content()->addStretch(1);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(Spacing::Cards);
+    auto* cards = new CardRow;
     cards->addWidget(dateCard);
     cards->addWidget(drawCard, 1);
     Body()->addLayout(cards);

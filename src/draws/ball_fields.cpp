@@ -17,7 +17,8 @@ BallFields::BallFields(const Names& names, const QStringList& captions, QWidget*
     : QWidget(parent), row(new QHBoxLayout(this))
 {
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Spacing::Inside / 2);
+    // The balls bring room for their shadows and their rings.
+    row->setSpacing(0);
     for (int slot = 0; slot < captions.size(); ++slot) {
         const int index = names.indices.at(static_cast<size_t>(slot));
         auto* disc = new BallDisc(this);

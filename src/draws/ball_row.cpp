@@ -12,7 +12,8 @@ BallRow::BallRow(const BallFields::Names& names, const QStringList& captions, QW
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Spacing::Inside / 2);
+    // The balls bring room for their shadows and their rings.
+    row->setSpacing(0);
     for (int slot = 0; slot < captions.size(); ++slot) {
         const int index = names.indices.at(static_cast<size_t>(slot));
         balls.push_back(MakeLabelledBall(ElementName(names.disc, index), ElementName(names.field, index), this));

@@ -1,11 +1,14 @@
 #include "draws/draw_browser_page.h"
 
+#include "draws/ball_row.h"
 #include "draws/draw_records.h"
 #include "draws/draw_view.h"
 #include "draws/game.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "platform/guard.h"
 #include "platform/month_calendar.h"
+#include "platform/rolling_area.h"
 #include "shell/open_databases.h"
 
 #include <QHBoxLayout>
@@ -44,6 +47,7 @@ BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
       back(new Button(QStringLiteral("<"), ControlName(game, "back"), card)),
       forward(new Button(QStringLiteral(">"), ControlName(game, "forward"), card))
 {
+    draw->Balls()->MakeCompact();
     AddArrows();
     frame->setObjectName(ControlName(game, "frame"));
     auto* framed = new QVBoxLayout(frame);
@@ -67,6 +71,7 @@ void BrowserSection::AddArrows()
         QSizePolicy keepsItsPlace = arrow->sizePolicy();
         keepsItsPlace.setRetainSizeWhenHidden(true);
         arrow->setSizePolicy(keepsItsPlace);
+        arrow->setMaximumHeight(arrow->fontMetrics().height() + Spacing::Between);
         heading->addWidget(arrow);
     }
     const QString which = QStringLiteral("%1 %2 draw of this date");
@@ -128,16 +133,18 @@ DrawBrowserPage::DrawBrowserPage()
 {
     F9Cal->setObjectName(QStringLiteral("F9Cal"));
     auto* dateCard = new Card(this);
+    dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(F9Cal);
-    auto* draws = new QVBoxLayout;
+    auto* drawsOfDate = new QWidget;
+    auto* draws = new QVBoxLayout(drawsOfDate);
+    draws->setContentsMargins(0, 0, 0, 0);
     draws->setSpacing(Spacing::Cards);
     for (const BrowserSection* section : {mainSection, thunderballSection})
         draws->addWidget(section->View());
     draws->addStretch(1);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(Spacing::Cards);
+    auto* columns = new CardRow;
     columns->addWidget(dateCard, 0, Qt::AlignTop);
-    columns->addLayout(draws, 1);
+    columns->addWidget(new RollingArea(drawsOfDate), 1);
     Body()->addLayout(columns);
     Body()->addStretch(1);
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });

@@ -12,12 +12,12 @@
 namespace {
 
 /// A stored text may be of any length: the label breaks it and never widens its page.
-QLabel* AddTextLabel(QVBoxLayout* layout, const QString& text, TextRole role, const QString& name)
+QLabel* AddTextLabel(QBoxLayout* layout, const QString& text, TextRole role, const QString& name)
 {
     QLabel* label = MakeLabel(text, role, name);
     label->setWordWrap(true);
     label->setMinimumWidth(1);
-    layout->addWidget(label);
+    layout->addWidget(label, 1);
     return label;
 }
 
@@ -37,11 +37,11 @@ DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& tex
     layout->addWidget(balls);
     if (!game.hasMachine)
         return;
-    auto* lines = new QVBoxLayout;
-    lines->setSpacing(Spacing::Inside / 2);
-    layout->addLayout(lines);
-    machine = AddTextLabel(lines, prefixes.machine.trimmed(), TextRole::Body, names.machine);
-    ballSet = AddTextLabel(lines, prefixes.ballSet.trimmed(), TextRole::Body, names.ballSet);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Spacing::Between);
+    layout->addLayout(line);
+    machine = AddTextLabel(line, prefixes.machine.trimmed(), TextRole::Body, names.machine);
+    ballSet = AddTextLabel(line, prefixes.ballSet.trimmed(), TextRole::Body, names.ballSet);
 }
 
 void DrawView::Show(const DrawRow& draw)

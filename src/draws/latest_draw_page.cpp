@@ -5,6 +5,7 @@
 #include "draws/draw_view.h"
 #include "draws/game.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "shell/open_databases.h"
 
 #include <QGridLayout>
@@ -53,8 +54,7 @@ LatestDrawPage::LatestDrawPage()
       mainSection(MakeSection(MainGame)),
       thunderballSection(MakeSection(ThunderballGame))
 {
-    auto* sections = new QHBoxLayout;
-    sections->setSpacing(Spacing::Cards);
+    auto* sections = new CardRow;
     sections->addWidget(mainSection.card, MainGame.BallCount());
     sections->addWidget(thunderballSection.card, ThunderballGame.BallCount());
     Body()->addLayout(sections);

@@ -61,7 +61,7 @@ void BallDisc::MakeCompact()
 
 QSize BallDisc::sizeHint() const
 {
-    const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.5));
+    const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.1));
     return compact ? QSize(side, side) * 5 / 6 : QSize(side, side);
 }
 
@@ -111,6 +111,10 @@ void BallDisc::PlaceNumber()
     if (carried == nullptr)
         return;
     const QRectF ball = BallRect();
+    if (qobject_cast<QLabel*>(carried) != nullptr) {
+        carried->setGeometry(ball.toRect());
+        return;
+    }
     const qreal side = ball.width() * 0.74;
     const int height = qMin(qRound(ball.height()), carried->sizeHint().height());
     carried->setGeometry(qRound(ball.center().x() - side / 2), qRound(ball.center().y() - height / 2.0), qRound(side),

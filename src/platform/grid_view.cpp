@@ -14,7 +14,17 @@
 
 namespace {
 
+constexpr int CellMargins = 2 * Spacing::Inside;
+
 const QColor EntryColour(0x5B, 0x74, 0xD7);
+
+/// A font that is stronger than the grid's and else the same.
+QFont StrongOnly()
+{
+    QFont font;
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
 
 /// Draws a quiet line under each row.
 class RowLines : public QStyledItemDelegate
@@ -70,17 +80,72 @@ void GridView::LayOutColumns()
     const int available = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     if (model() == nullptr || available <= 0)
         return;
-    int left = available;
-    const int columns = std::min(model()->columnCount(), static_cast<int>(shares.size()));
-    for (int column = 0; column < columns; ++column) {
-        const double share = shares.at(static_cast<size_t>(column));
-        // Rounding must not make the columns together wider than the grid.
-        const int width = std::min(qRound(available * share), left);
-        left -= width;
-        setColumnHidden(column, share == 0);
-        if (share != 0)
-            setColumnWidth(column, width);
+    const auto columns = std::min(static_cast<size_t>(model()->columnCount()), shares.size());
+    TakeFont(1);
+    std::vector<double> texts(columns);
+    double room = available;
+    double textsTogether = 0;
+    bool sharesSuffice = true;
+    for (size_t column = 0; column < columns; ++column) {
+        if (shares[column] == 0)
+            continue;
+        texts[column] = TextWidth(static_cast<int>(column));
+        textsTogether += texts[column];
+        room -= CellMargins;
+        sharesSuffice = sharesSuffice && texts[column] + CellMargins <= available * shares[column];
     }
+    const double factor = std::min(1.0, std::max(room, 1.0) / textsTogether);
+    if (!sharesSuffice)
+        TakeFont(factor);
+    int left = available;
+    for (size_t column = 0; column < columns; ++column) {
+        const double width =
+            sharesSuffice ? available * shares[column]
+                          : texts[column] * factor + CellMargins + std::max(0.0, room - textsTogether) * shares[column];
+        // Rounding must not make the columns together wider than the grid.
+        const int whole = std::min(qRound(width), left);
+        setColumnHidden(static_cast<int>(column), shares[column] == 0);
+        if (shares[column] == 0)
+            continue;
+        left -= whole;
+        setColumnWidth(static_cast<int>(column), whole);
+    }
+}
+
+QSize GridView::minimumSizeHint() const
+{
+    // The texts may become smaller than the pages' own, but not by much.
+    constexpr double smallestFactor = 0.8;
+    double width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    for (int column = 0; model() != nullptr && column < model()->columnCount(); ++column)
+        if (!isColumnHidden(column))
+            width += TextWidth(column) * smallestFactor + CellMargins;
+    return {qRound(width), QTableView::minimumSizeHint().height()};
+}
+
+double GridView::TextWidth(int column) const
+{
+    // The widest texts of a column are known from its first rows and, where it counts the rows, from its last.
+    constexpr int looked = 40;
+    const int rows = model()->rowCount();
+    const QFontMetricsF metrics(FontFor(TextRole::Strong));
+    const QString heading = model()->headerData(column, Qt::Horizontal).toString();
+    double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
+    for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
+        widest = std::max(widest, metrics.horizontalAdvance(model()->index(row, column).data().toString()));
+    return widest;
+}
+
+void GridView::TakeFont(double factor)
+{
+    const auto scaled = [factor](QFont font) {
+        font.setPointSizeF(font.pointSizeF() * factor);
+        return font;
+    };
+    if (const QFont cells = scaled(FontFor(TextRole::Body)); cells != font())
+        setFont(cells);
+    if (const QFont headings = scaled(FontFor(TextRole::Caption)); headings != horizontalHeader()->font())
+        horizontalHeader()->setFont(headings);
 }
 
 GridView::RowSpan GridView::SelectedRows() const
@@ -209,7 +274,10 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     case Qt::BackgroundRole:
         return column.numbersEntries ? QVariant(EntryColour) : QVariant();
     case Qt::ForegroundRole:
-        return column.numbersEntries ? QVariant(QColor(Qt::white)) : QVariant();
+        // White digits would not stand out enough from this colour.
+        return column.numbersEntries ? QVariant(QColor(Qt::black)) : QVariant();
+    case Qt::FontRole:
+        return column.numbersEntries ? QVariant(StrongOnly()) : QVariant();
     default:
         return {};
     }

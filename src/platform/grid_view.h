@@ -6,7 +6,8 @@
 #include <vector>
 
 /// A grid of whole rows, of which one span can be selected: by Shift-click, by dragging either way, by Shift with the
-/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size. Ctrl+C copies the selected
+/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size, and where that
+/// is too narrow for their texts, the texts become smaller. Ctrl+C copies the selected
 /// rows, without hidden columns, as tab-separated text.
 class GridView : public QTableView
 {
@@ -33,6 +34,7 @@ public:
     void SelectRow(int row);
 
     void reset() override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// The Enter key was pressed.
@@ -51,6 +53,9 @@ protected:
 
 private:
     void LayOutColumns();
+    /// The width of the widest text of a column.
+    double TextWidth(int column) const;
+    void TakeFont(double factor);
     int FirstShownColumn() const;
     void CopySelectedRows() const;
 
@@ -68,7 +73,7 @@ public:
     {
         QString heading;
         Qt::Alignment alignment = Qt::AlignCenter;
-        /// Whether the column numbers the entries: white digits on the entry colour.
+        /// Whether the column numbers the entries: strong digits on the entry colour.
         bool numbersEntries = false;
     };
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 
 const QString ApplicationTitle = QStringLiteral("Tavenor 3");
 
@@ -16,7 +17,10 @@ void KeepLinesWhole(QMessageBox& box)
         return;
     const QFontMetrics metrics = label->fontMetrics();
     const int natural = metrics.size(0, label->text()).width() + 2 * metrics.averageCharWidth();
-    label->setMinimumWidth(qMin(natural, metrics.averageCharWidth() * 90));
+    // Beside the text are the icon and the margins; a screen may be narrower than all of that.
+    constexpr int besideText = 120;
+    const int room = box.screen()->availableSize().width() - besideText;
+    label->setMinimumWidth(qMax(0, qMin(room, qMin(natural, metrics.averageCharWidth() * 90))));
 }
 
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, const QString& title, const QString& text,

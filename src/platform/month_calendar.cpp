@@ -17,7 +17,7 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     setHorizontalHeaderFormat(ShortDayNames);
     setSelectedDate(QDate::currentDate());
     // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
-    setMinimumHeight(8 * (fontMetrics().height() + 9));
+    setMinimumHeight(8 * qMax(25, fontMetrics().height() + Spacing::Inside));
     setAccessibleName(tr("Draw date"));
     for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
         auto* button = findChild<QToolButton*>(QLatin1String(name));
@@ -77,6 +77,7 @@ void MonthCalendar::TakeColours()
     const QPalette& colours = palette();
     QTextCharFormat header;
     header.setForeground(colours.color(QPalette::PlaceholderText));
+    header.setFontPointSize(FontFor(TextRole::Caption).pointSizeF());
     header.setBackground(colours.color(QPalette::AlternateBase));
     if (headerTextFormat() != header)
         setHeaderTextFormat(header);

@@ -14,6 +14,14 @@ Button::Button(const QString& caption, const QString& name, QWidget* parent) : Q
     setAccessibleName(caption);
     setFont(FontFor(TextRole::Strong));
     setAutoDefault(false);
+    // Where the page is too narrow for its buttons, they give up the room beside their captions.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize Button::minimumSizeHint() const
+{
+    const int captionWidth = fontMetrics().horizontalAdvance(text()) + 2 * Spacing::Between;
+    return {qMin(captionWidth, sizeHint().width()), sizeHint().height()};
 }
 
 void Button::MakeAccent()
@@ -81,15 +89,17 @@ void PageFrame::ShowInFront()
 
 void PageFrame::PutFooterLastInTabOrder()
 {
+    QWidget* last = nullptr;
+    for (QWidget* next = nextInFocusChain(); isAncestorOf(next); next = next->nextInFocusChain())
+        if (next->focusPolicy() != Qt::NoFocus && footer->indexOf(next) < 0)
+            last = next;
     for (int place = 0; place < footer->count(); ++place) {
         QWidget* button = footer->itemAt(place)->widget();
         if (button == nullptr)
             continue;
-        QWidget* last = previousInFocusChain();
-        while (last != this && last->focusPolicy() == Qt::NoFocus)
-            last = last->previousInFocusChain();
-        if (last != this)
+        if (last != nullptr)
             setTabOrder(last, button);
+        last = button;
     }
 }
 

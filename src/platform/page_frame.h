@@ -20,6 +20,8 @@ public:
     /// Marks it as the page's default action.
     void MakeAccent();
 
+    QSize minimumSizeHint() const override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
@@ -47,7 +49,7 @@ public:
     void ShowInFront();
 
     /// Makes the Tab key reach the buttons at the lower right behind all else on the page, as the eye does. To be asked
-    /// for before the page is put into a window.
+    /// for when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
     void PutFooterLastInTabOrder();
 
 protected:

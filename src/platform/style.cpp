@@ -1,15 +1,19 @@
 #include "platform/style.h"
 
+#include "platform/control_painting.h"
+#include "platform/message_icon.h"
+#include "platform/page_frame.h"
 #include "platform/scroll_bar.h"
+#include "platform/shortcut_letters.h"
 #include "platform/theme.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -18,114 +22,10 @@ namespace {
 // More than fits a list's line; shaping a text of megabytes takes seconds.
 constexpr qsizetype MostDrawnCharacters = 1000;
 
-constexpr qreal Corner = 8;
 constexpr int ControlHeight = 36;
 constexpr int ListLineHeight = 28;
 constexpr int IndicatorSize = 18;
 constexpr int ArrowWidth = 28;
-
-QColor Mixed(const QColor& first, const QColor& second, qreal share)
-{
-    return QColor::fromRgbF(static_cast<float>(first.redF() + (second.redF() - first.redF()) * share),
-                            static_cast<float>(first.greenF() + (second.greenF() - first.greenF()) * share),
-                            static_cast<float>(first.blueF() + (second.blueF() - first.blueF()) * share));
-}
-
-/// An outline that stands out from card and page at three to one, for controls that have nothing but their outline.
-QColor OutlineColour(const QPalette& palette)
-{
-    return Mixed(palette.color(QPalette::Active, QPalette::AlternateBase),
-                 palette.color(QPalette::Active, QPalette::PlaceholderText), 0.75);
-}
-
-bool IsAccent(const QStyleOption* option, const QWidget* widget)
-{
-    if (widget != nullptr && widget->property(AccentProperty).toBool())
-        return true;
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    return button != nullptr && (button->features & QStyleOptionButton::DefaultButton) != 0;
-}
-
-void FillRounded(QPainter* painter, const QRectF& rect, qreal radius, const QColor& fill, const QColor& line,
-                 qreal width = 1)
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(line.isValid() ? QPen(line, width) : QPen(Qt::NoPen));
-    painter->setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
-    const qreal inset = width / 2;
-    painter->drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
-    painter->restore();
-}
-
-void DrawFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette)
-{
-    FillRounded(painter, rect, Corner, QColor(), palette.color(QPalette::Highlight), 2);
-}
-
-void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* widget)
-{
-    const QPalette& palette = option->palette;
-    const bool enabled = option->state & QStyle::State_Enabled;
-    const bool accent = IsAccent(option, widget) && enabled;
-    QColor fill = palette.color(accent ? QPalette::Highlight : QPalette::Button);
-    const QColor toward = palette.color(QPalette::WindowText);
-    if (option->state & (QStyle::State_Sunken | QStyle::State_On))
-        fill = Mixed(fill, toward, 0.16);
-    else if (enabled && option->state & QStyle::State_MouseOver)
-        fill = Mixed(fill, toward, 0.07);
-    FillRounded(painter, option->rect, Corner, fill, accent ? fill : palette.color(QPalette::Mid));
-}
-
-void DrawFieldPanel(const QStyleOption* option, QPainter* painter)
-{
-    const bool focus = option->state & QStyle::State_HasFocus;
-    const bool readOnly = option->state & QStyle::State_ReadOnly;
-    const QPalette& palette = option->palette;
-    FillRounded(painter, option->rect, Corner, palette.color(readOnly ? QPalette::Window : QPalette::Base),
-                focus ? palette.color(QPalette::Highlight) : OutlineColour(palette), focus ? 2 : 1);
-}
-
-void DrawArrow(QPainter* painter, const QRectF& rect, const QColor& colour)
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF middle = rect.center();
-    painter->drawPolyline(QPolygonF({middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)}));
-    painter->restore();
-}
-
-void DrawIndicator(const QStyleOption* option, QPainter* painter, bool round)
-{
-    const QPalette& palette = option->palette;
-    const bool on = option->state & QStyle::State_On;
-    const QRectF rect = QRectF(option->rect).adjusted(1, 1, -1, -1);
-    const QColor mark = palette.color(QPalette::HighlightedText);
-    FillRounded(painter, rect, round ? rect.width() / 2 : 4, palette.color(on ? QPalette::Highlight : QPalette::Base),
-                on ? palette.color(QPalette::Highlight) : OutlineColour(palette), 1.5);
-    if (!on)
-        return;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    if (round) {
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(mark);
-        painter->drawEllipse(rect.center(), rect.width() / 5, rect.width() / 5);
-    } else {
-        painter->setPen(QPen(mark, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const QPointF middle = rect.center();
-        painter->drawPolyline(QPolygonF({middle + QPointF(-4, 0), middle + QPointF(-1, 3), middle + QPointF(4, -3.5)}));
-    }
-    painter->restore();
-}
-
-void DrawHeaderSection(const QStyleOption* option, QPainter* painter)
-{
-    painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
-    painter->setPen(option->palette.color(QPalette::Mid));
-    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
-}
 
 } // namespace
 
@@ -136,9 +36,17 @@ void Style::polish(QPalette& palette)
     ApplyTheme(palette);
 }
 
+void Style::polish(QApplication* application)
+{
+    QProxyStyle::polish(application);
+    application->installEventFilter(new AltKeyWatch(this));
+}
+
 void Style::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    if (const auto* dialog = qobject_cast<QDialog*>(widget))
+        GiveShortcutLetters(*dialog);
     if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr)
         widget->setAttribute(Qt::WA_Hover);
 }
@@ -177,16 +85,23 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                         const QWidget* widget) const
 {
-    if (element == CE_PushButtonLabel && IsAccent(option, widget) && (option->state & State_Enabled)) {
-        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-            QStyleOptionButton accented = *button;
-            accented.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
-            QProxyStyle::drawControl(element, &accented, painter, widget);
-            return;
-        }
+    if (const auto* label = qstyleoption_cast<const QStyleOptionButton*>(option);
+        label != nullptr && element == CE_PushButtonLabel) {
+        QStyleOptionButton drawn = *label;
+        if (const auto* button = qobject_cast<const Button*>(widget))
+            drawn.text = DrawnCaption(*button);
+        if (IsAccent(option, widget) && (option->state & State_Enabled))
+            drawn.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
+        QProxyStyle::drawControl(element, &drawn, painter, widget);
+        return;
     }
-    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
+    if (element == CE_HeaderSection) {
         DrawHeaderSection(option, painter);
+        return;
+    }
+    if (element == CE_HeaderEmptyArea) {
+        // Beside the last column is the room of the scroll bar, which has no line.
+        painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
         return;
     }
     if (element == CE_HeaderLabel) {
@@ -299,6 +214,15 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     default:
         return size;
     }
+}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    if (icon == SP_MessageBoxInformation)
+        return InformationIcon();
+    if (icon == SP_MessageBoxCritical)
+        return CriticalIcon();
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const

@@ -7,14 +7,14 @@ namespace {
 const Theme& LightTheme()
 {
     static const Theme theme{false,     "#F5F6FA", "#FFFFFF", "#E2E6EF", "#FFFFFF", "#1A2233", "#5A6478",
-                             "#4A63C8", "#FFFFFF", "#16203A", "#C9D3EA", "#5B74D7", "#FFFFFF"};
+                             "#4A63C8", "#FFFFFF", "#16203A", "#C9D3EA", "#566FD5", "#FFFFFF"};
     return theme;
 }
 
 const Theme& DarkTheme()
 {
     static const Theme theme{true,      "#12161F", "#1B2130", "#2C3548", "#12161F", "#E9EDF6", "#9AA5BC",
-                             "#7F95EC", "#0C111C", "#0C111C", "#C9D3EA", "#5B74D7", "#FFFFFF"};
+                             "#7F95EC", "#0C111C", "#0C111C", "#C9D3EA", "#566FD5", "#FFFFFF"};
     return theme;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/page_frame.h"
+#include "platform/shortcut_letters.h"
 #include "shell/introduction_page.h"
 #include "shell/menu_column.h"
 #include "shell/menu_table.h"
@@ -51,8 +52,9 @@ PageFrame* MainWindow::Page(int index)
         page = row->make(*this);
     }
     if (page != nullptr) {
-        page->PutFooterLastInTabOrder();
         area->Add(page);
+        page->PutFooterLastInTabOrder();
+        GiveShortcutLetters(*page, MenuColumn::ShortcutLetters.toString());
     }
     return page;
 }

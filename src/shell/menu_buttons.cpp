@@ -1,5 +1,6 @@
 #include "shell/menu_buttons.h"
 
+#include "platform/shortcut_letters.h"
 #include "platform/theme.h"
 
 #include <QPainter>
@@ -7,12 +8,20 @@
 namespace {
 
 constexpr int TextLeft = 56;
+constexpr int LogoTextLeft = 66;
 
 /// The light blue of the product's number and of the marker.
 const QColor& Blue()
 {
     static const QColor blue("#7F95EC");
     return blue;
+}
+
+QFont ProductFont()
+{
+    QFont font = FontFor(TextRole::Heading);
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    return font;
 }
 
 /// A focus ring that can be seen on the dark column.
@@ -65,8 +74,8 @@ void MenuButton::paintEvent(QPaintEvent* /*event*/)
     const QColor colour = open ? theme.onOpenGroup : theme.menuText;
     DrawPicture(painter, picture, QRectF(12, height() / 2.0 - 10, 20, 20), colour);
     painter.setPen(colour);
-    painter.drawText(rect().adjusted(TextLeft - MenuMeasure::ButtonMargin, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                     text());
+    painter.drawText(rect().adjusted(TextLeft - MenuMeasure::ButtonMargin, 0, 0, 0),
+                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, DrawnCaption(*this));
     if (hasFocus())
         DrawRing(painter, rect());
 }
@@ -79,18 +88,23 @@ LogoButton::LogoButton(QWidget* parent) : EnterButton(parent)
     setCursor(Qt::PointingHandCursor);
 }
 
+QSize LogoButton::sizeHint() const
+{
+    return {LogoTextLeft + QFontMetrics(ProductFont()).horizontalAdvance(QStringLiteral("Tavenor 3")) +
+                MenuMeasure::ButtonMargin,
+            62};
+}
+
 void LogoButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     DrawLogo(painter, QRectF(10, 10, 42, 42));
-    QFont font = FontFor(TextRole::Heading);
-    font.setPointSizeF(font.pointSizeF() * 1.25);
+    QFont font = ProductFont();
     painter.setFont(font);
     painter.setPen(Qt::white);
-    const int left = 66;
-    painter.drawText(QRect(left, 0, width(), height()), Qt::AlignVCenter, QStringLiteral("Tavenor"));
-    const int next = left + QFontMetrics(font).horizontalAdvance(QStringLiteral("Tavenor "));
+    painter.drawText(QRect(LogoTextLeft, 0, width(), height()), Qt::AlignVCenter, QStringLiteral("Tavenor"));
+    const int next = LogoTextLeft + QFontMetrics(font).horizontalAdvance(QStringLiteral("Tavenor "));
     font.setWeight(QFont::Normal);
     painter.setFont(font);
     painter.setPen(Blue());

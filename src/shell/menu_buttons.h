@@ -37,6 +37,8 @@ class LogoButton : public EnterButton
 public:
     explicit LogoButton(QWidget* parent);
 
+    QSize sizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

@@ -1,5 +1,6 @@
 #include "shell/menu_column.h"
 
+#include "platform/shortcut_letters.h"
 #include "platform/theme.h"
 #include "shell/menu_buttons.h"
 #include "shell/menu_table.h"
@@ -14,7 +15,7 @@ using MenuMeasure::RowHeight;
 
 constexpr int TwipsPerPixel = 10;
 constexpr int SuboptionLeft = 50;
-constexpr int SuboptionHeight = 30;
+constexpr int SuboptionHeight = 34;
 
 constexpr std::array<Picture, 5> GroupPictures{Picture::AddDraws, Picture::DrawRecords, Picture::Users,
                                                Picture::Generator, Picture::Analysis};
@@ -40,12 +41,14 @@ MenuColumn::MenuColumn(QWidget* parent)
     QPalette quiet = line->palette();
     quiet.setColor(QPalette::Window, QColor(255, 255, 255, 36));
     line->setPalette(quiet);
+    SetShortcutLetter(*exit, ShortcutLetters.back());
     connect(logo, &QAbstractButton::clicked, this, &MenuColumn::LogoClicked);
     connect(exit, &QAbstractButton::clicked, this, &MenuColumn::ExitClicked);
     for (int group = 1; group <= MenuGroups; ++group) {
         const auto i = static_cast<size_t>(group) - 1;
         buttons.at(i) = new MenuButton(MenuGroupOf(group).caption, QStringLiteral("Button%1").arg(group),
                                        GroupPictures.at(i), this);
+        SetShortcutLetter(*buttons.at(i), ShortcutLetters[group - 1]);
         connect(buttons.at(i), &QAbstractButton::clicked, this, [this, group] { Q_EMIT GroupClicked(group); });
     }
     for (int number = 1; number <= MostSuboptions; ++number) {
@@ -123,7 +126,7 @@ void MenuColumn::OrderTabs()
 
 QSize MenuColumn::sizeHint() const
 {
-    int width = 216;
+    int width = qMax(216, logo->sizeHint().width() + ButtonMargin);
     for (const MenuButton* button : buttons)
         width = qMax(width, button->sizeHint().width() + ButtonMargin);
     const QFontMetrics metrics(FontFor(TextRole::Strong));

@@ -24,6 +24,9 @@ public:
     /// Moves the marker beside a sub-option (1 to 4).
     void Mark(int suboption);
 
+    /// The letters that, with Alt, open the groups in their order and press the exit button. Pages leave them alone.
+    static constexpr QStringView ShortcutLetters = u"ARYGLX";
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

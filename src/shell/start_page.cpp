@@ -37,7 +37,7 @@ StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pa
                   TextRole::Body);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
-    hint->setMinimumWidth(hint->fontMetrics().averageCharWidth() * 62);
+    hint->setMinimumWidth(hint->fontMetrics().averageCharWidth() * 50);
     // A wrapped label finds its height only where the layout gives it a width of its own.
     auto* hintRow = new QHBoxLayout;
     hintRow->addStretch(1);

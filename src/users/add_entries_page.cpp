@@ -3,10 +3,12 @@
 #include "draws/ball_fields.h"
 #include "draws/game.h"
 #include "platform/card.h"
+#include "platform/card_row.h"
 #include "platform/failure.h"
 #include "platform/guard.h"
 #include "platform/message_box.h"
 #include "platform/numbers.h"
+#include "platform/rolling_area.h"
 #include "shell/open_databases.h"
 #include "shell/page_switch.h"
 #include "users/day_boxes.h"
@@ -85,17 +87,28 @@ void AddEntriesPage::BuildCards()
     userCard->Content()->addLayout(form);
 
     auto* ballCard = new Card;
-    ballCard->Content()->addWidget(F18ent);
-    ballCard->Content()->addWidget(F18reset, 0, Qt::AlignLeft);
+    auto* balls = new CardRow;
+    balls->setSpacing(Spacing::Between);
+    balls->addWidget(F18ent, 1);
+    balls->addWidget(F18reset);
+    ballCard->Content()->addLayout(balls);
+
+    ballCard->Content()->setContentsMargins(Spacing::Cards, Spacing::Between, Spacing::Cards, Spacing::Between);
 
     auto* dayCard = new Card;
+    dayCard->Content()->setSpacing(Spacing::Inside);
     dayCard->Content()->addWidget(
         MakeLabel(QStringLiteral("Draw day for this entry"), TextRole::Caption, QStringLiteral("F18label4")));
     dayCard->Content()->addWidget(F18day);
 
+    auto* all = new QWidget;
+    auto* cards = new QVBoxLayout(all);
+    cards->setContentsMargins(0, 0, 0, 0);
+    cards->setSpacing(Spacing::Cards);
     for (Card* card : {userCard, ballCard, dayCard})
-        Body()->addWidget(card);
-    Body()->addStretch(1);
+        cards->addWidget(card);
+    cards->addStretch(1);
+    Body()->addWidget(new RollingArea(all), 1);
 }
 
 void AddEntriesPage::Prepare()

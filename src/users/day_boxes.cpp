@@ -14,7 +14,7 @@ DayBoxes::DayBoxes(const Names& names, const QString& captionPrefix, QWidget* pa
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(Spacing::Page);
-    grid->setVerticalSpacing(Spacing::Between);
+    grid->setVerticalSpacing(Spacing::Inside);
     constexpr int rowsInColumn = 4;
     for (int day = 0; day < 7; ++day) {
         auto* box = new QCheckBox(captionPrefix + DayNames.at(static_cast<size_t>(day)));

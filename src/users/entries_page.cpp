@@ -65,7 +65,7 @@ Card* EntriesPage::MakeChoiceCard()
     F13user->setAccessibleName(QStringLiteral("User"));
     // A long name is cut at the list's edge instead of widening the page.
     F13user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    F13user->setMinimumContentsLength(20);
+    F13user->setMinimumContentsLength(14);
     auto* card = new Card;
     auto* form = new QGridLayout;
     form->setHorizontalSpacing(Spacing::Cards);

@@ -76,6 +76,8 @@ void EntryViewPage::ColourDays()
         QPalette palette = label->palette();
         palette.setColor(QPalette::WindowText, days.at(day) ? played : notPlayed);
         label->setPalette(palette);
+        // The colour is not the only sign.
+        label->setFont(FontFor(days.at(day) ? TextRole::Strong : TextRole::Body));
         label->setAccessibleDescription(days.at(day) ? QStringLiteral("played") : QStringLiteral("not played"));
     }
 }

@@ -85,6 +85,7 @@ UserDetailsPage::UserDetailsPage()
 void UserDetailsPage::BuildCards()
 {
     auto* listCard = new Card;
+    F11label1->setWordWrap(true);
     listCard->Content()->addWidget(F11label1);
     F11list->setObjectName(QStringLiteral("F11list"));
     F11list->setAccessibleName(QStringLiteral("Users"));

@@ -68,13 +68,14 @@ AdvancedWindow::AdvancedWindow(QWidget* parent) : QDialog(parent)
     groups->addWidget(BuildGroup(1, QStringLiteral("Draw Records"), exportdraw, importdraw));
     groups->addWidget(BuildGroup(2, QStringLiteral("User Entries"), exportuser, importuser));
     layout->addLayout(groups);
+    layout->addStretch(1);
     layout->addWidget(back, 0, Qt::AlignRight);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
 
     ConnectGuarded(exportdraw, &QPushButton::clicked, this, [this] { Export_Click(DrawDatabaseFile()); });
     ConnectGuarded(importdraw, &QPushButton::clicked, this, [this] { Import_Click(DrawDatabaseFile()); });
     ConnectGuarded(exportuser, &QPushButton::clicked, this, [this] { Export_Click(UserDatabaseFile()); });
     ConnectGuarded(importuser, &QPushButton::clicked, this, [this] { Import_Click(UserDatabaseFile()); });
+    back->setDefault(true);
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
 }
 

@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(grid.Headings(1), QString("Entry,Ball 1,Ball 2,Ball 3,Ball 4,Ball 5,Ball 6"));
         const QModelIndex entryCell = grid.view->model()->index(1, 1);
         QCOMPARE(entryCell.data(Qt::BackgroundRole).value<QColor>(), QColor("#5B74D7"));
-        QCOMPARE(entryCell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::white));
+        QCOMPARE(entryCell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));
 
         window.Click("F13typethunder");
         QCOMPARE(grid.Rows(), 1);

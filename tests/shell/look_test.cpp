@@ -1,0 +1,210 @@
+#include "support/look_faults.h"
+#include "support/test_window.h"
+
+#include "analysis/graph_window.h"
+#include "builder/number_window.h"
+#include "draws/draw_prompt.h"
+#include "platform/page_frame.h"
+#include "platform/theme.h"
+#include "shell/about_window.h"
+#include "users/draw_day_window.h"
+#include "users/user_records.h"
+#include "utilities/advanced_window.h"
+#include "walk.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize SmallWindow(1024, 720);
+constexpr QSize LargeWindow(1500, 950);
+
+/// A dialog without a fault, with two fields beside their captions, two buttons and a check box.
+struct PlantedDialog : QDialog
+{
+    PlantedDialog()
+    {
+        auto* rows = new QVBoxLayout(this);
+        for (QLineEdit* field : {first, second}) {
+            field->setAccessibleName("Number");
+            field->setText("12");
+            rows->addWidget(field);
+        }
+        rows->addWidget(caption);
+        rows->addWidget(tick);
+        rows->addWidget(store);
+        store->setDefault(true);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (answersEscape)
+            QDialog::keyPressEvent(event);
+    }
+
+    QLineEdit* first = new QLineEdit;
+    QLineEdit* second = new QLineEdit;
+    QLabel* caption = MakeLabel("A caption", TextRole::Body, "caption");
+    QCheckBox* tick = new QCheckBox("Tick");
+    Button* store = new Button("Store", "store");
+    bool answersEscape = true;
+};
+
+using Plant = void (*)(PlantedDialog&);
+
+} // namespace
+
+Q_DECLARE_METATYPE(Plant)
+
+/// Run once for each scale, and once with a larger font, by the tests' own environment.
+class LookTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { SetAppearance(Appearance::FromDesktop); }
+
+    void APlantedFaultIsFound_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<Plant>("plant");
+        const auto row = [](const char* name, const char* kind, Plant plant) { QTest::newRow(name) << kind << plant; };
+        row("none", "", [](PlantedDialog&) {});
+        row("no name", "name", [](PlantedDialog& dialog) { dialog.first->setAccessibleName({}); });
+        row("text cut", "fit", [](PlantedDialog& dialog) { dialog.caption->setMaximumWidth(20); });
+        row("button cut", "fit", [](PlantedDialog& dialog) { dialog.store->setMaximumWidth(30); });
+        row("field cut", "fit", [](PlantedDialog& dialog) { dialog.first->setMaximumHeight(8); });
+        row("overlap", "overlap", [](PlantedDialog& dialog) {
+            dialog.layout()->removeWidget(dialog.tick);
+            dialog.tick->move(dialog.store->pos());
+        });
+        row("order", "order", [](PlantedDialog& dialog) { QWidget::setTabOrder(dialog.second, dialog.first); });
+        row("no default", "default", [](PlantedDialog& dialog) { dialog.store->setDefault(false); });
+        row("no Escape", "escape", [](PlantedDialog& dialog) { dialog.answersEscape = false; });
+        row("pale text", "contrast", [](PlantedDialog& dialog) {
+            QPalette pale;
+            pale.setColor(QPalette::WindowText, QColor(128, 136, 150));
+            dialog.caption->setPalette(pale);
+        });
+        row("pale outline", "contrast outline", [](PlantedDialog& dialog) {
+            QPalette pale;
+            pale.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+            dialog.tick->setPalette(pale);
+        });
+        row("fixed", "fixed", [](PlantedDialog& dialog) { dialog.setFixedSize(dialog.sizeHint()); });
+    }
+
+    void APlantedFaultIsFound()
+    {
+        QFETCH(QString, kind);
+        QFETCH(Plant, plant);
+        PlantedDialog dialog;
+        dialog.show();
+        plant(dialog);
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QStringList faults = LayoutFaults(dialog) + ContrastFaults(dialog);
+        faults += DialogFaults(dialog);
+        QVERIFY2(kind.isEmpty() ? faults.isEmpty() : !faults.isEmpty(), qPrintable(faults.join('\n')));
+        for (const QString& fault : faults)
+            QVERIFY2(fault.startsWith(kind), qPrintable(fault));
+    }
+
+    void EveryPageAndWindow_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::newRow("light") << false;
+        QTest::newRow("dark") << true;
+    }
+
+    void EveryPageAndWindow()
+    {
+        QFETCH(bool, dark);
+        SetAppearance(dark ? Appearance::Dark : Appearance::Light);
+        const TestFolder files(TestFolder::Content::Starter);
+        OpenDatabaseFiles();
+        MainWindow window;
+        window.show();
+        QStringList faults;
+        const auto add = [&faults](const QString& name, const QStringList& found) {
+            for (const QString& fault : found)
+                faults.append(name + ": " + fault);
+        };
+        const Walk walk(window, [&](const QString& name, QWidget& shown) {
+            if (qobject_cast<QFileDialog*>(&shown) != nullptr)
+                return;
+            if (&shown == &window) {
+                window.resize(LargeWindow);
+                QApplication::processEvents();
+                add(name, LayoutFaults(window));
+                window.resize(SmallWindow);
+                // A layout that turns a row into a column is heard of by what lies around it one turn later.
+                for (int turn = 0; turn < 3; ++turn)
+                    QApplication::processEvents();
+                if (window.size() != SmallWindow)
+                    add(name, {QString("fit %1 x %2").arg(window.width()).arg(window.height())});
+            }
+            add(name, LayoutFaults(shown) + ContrastFaults(shown));
+        });
+        walk.MainJob();
+        walk.EverythingElse();
+        for (const QString& fault : faults)
+            qWarning("%s", qPrintable(fault));
+        QCOMPARE(faults.size(), 0);
+    }
+
+    void GridsAndReportAreReadAloud()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        window.Window().ChooseMenu(2, 3);
+        QAccessibleTableInterface* grid =
+            QAccessible::queryAccessibleInterface(window.Find("F10Grid1"))->tableInterface();
+        QCOMPARE(grid->rowCount(), 2065);
+        QCOMPARE(grid->columnDescription(0), QString("Date"));
+        QCOMPARE(grid->cellAt(0, 0)->text(QAccessible::Name), QString("07/10/2015"));
+        window.Window().ChooseMenu(3, 4);
+        window.Find<QPushButton>("F12check")->click();
+        QAccessibleTextInterface* report =
+            QAccessible::queryAccessibleInterface(window.Find("F12text"))->textInterface();
+        QVERIFY(report->text(0, report->characterCount()).contains("There are no user entries stored."));
+    }
+
+    void EveryDialogHasADefaultAndAnswersEscape()
+    {
+        const TestFolder files(TestFolder::Content::Starter);
+        OpenDatabaseFiles();
+        QStringList faults;
+        const auto look = [&faults](QDialog& dialog) {
+            dialog.show();
+            faults += DialogFaults(dialog);
+        };
+        BuilderState state;
+        DaySet days{};
+        NumberWindow numbers(state, nullptr);
+        DrawDayWindow drawDays(days, nullptr);
+        DrawPrompt prompt("main", nullptr);
+        AdvancedWindow advanced(nullptr);
+        AboutWindow about(nullptr);
+        GraphWindow chart(nullptr);
+        chart.PrepareChart(1);
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&numbers, &drawDays, &prompt, &advanced, &about, &chart})
+            look(*dialog);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+};
+
+int main(int count, char** arguments)
+{
+    QApplication application(count, arguments);
+    // The size of most desktops, where the test's own screen has a smaller one.
+    QFont desktop = QApplication::font();
+    desktop.setPointSizeF(qEnvironmentVariableIsSet("LARGER_FONT") ? 10.5 * 1.5 : 10.5);
+    QApplication::setFont(desktop);
+    LookTest tests;
+    return RunTests(tests, count, arguments);
+}
+
+#include "look_test.moc"

@@ -1,0 +1,300 @@
+#include "support/look_faults.h"
+
+#include "analysis/screen_button.h"
+#include "platform/style.h"
+#include "shell/page_area.h"
+
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QHash>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QTest>
+
+#include <cmath>
+
+namespace {
+
+constexpr double TextContrast = 4.5;
+constexpr double OutlineContrast = 3;
+constexpr int LookedAtRows = 12;
+
+QString NameOf(const QWidget& widget)
+{
+    return QString(widget.metaObject()->className()) + ' ' + widget.objectName();
+}
+
+QRect PlaceOf(const QWidget& widget)
+{
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
+bool Rolls(const QWidget* widget)
+{
+    return qobject_cast<const QScrollArea*>(widget) != nullptr;
+}
+
+/// Whether a widget is a part of one of the toolkit's own compound controls.
+bool IsPart(const QWidget& widget)
+{
+    for (const QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget())
+        if ((qobject_cast<const QAbstractScrollArea*>(outer) != nullptr && !Rolls(outer)) ||
+            qobject_cast<const QComboBox*>(outer) != nullptr || qobject_cast<const QAbstractSpinBox*>(outer) != nullptr)
+            return true;
+    return false;
+}
+
+/// The widgets of the window that the player sees, without the parts of compound controls.
+QList<QWidget*> SeenWidgets(QWidget& window)
+{
+    QList<QWidget*> seen;
+    for (auto* widget : window.findChildren<QWidget*>())
+        if (widget->window() == &window && widget->isVisible() && !widget->visibleRegion().isEmpty() &&
+            !IsPart(*widget))
+            seen.append(widget);
+    return seen;
+}
+
+bool TakesTab(const QWidget& widget)
+{
+    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr;
+}
+
+bool HasRoleAndName(QWidget& widget)
+{
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&widget);
+    return told != nullptr && !told->text(QAccessible::Name).trimmed().isEmpty() &&
+           told->role() != QAccessible::NoRole && told->role() != QAccessible::Client;
+}
+
+bool Fits(const QSize& needed, const QSize& given)
+{
+    return needed.width() <= given.width() && needed.height() <= given.height();
+}
+
+bool CellsFit(const QAbstractItemView& view)
+{
+    const auto fits = [&view](const QString& text, int width) {
+        return view.fontMetrics().horizontalAdvance(text) <= width;
+    };
+    const QAbstractItemModel& model = *view.model();
+    for (int row = 0; row < qMin(model.rowCount(), LookedAtRows); ++row)
+        for (int column = 0; column < model.columnCount(); ++column)
+            if (const QRect place = view.visualRect(model.index(row, column)); place.isValid())
+                if (!fits(model.index(row, column).data().toString(), place.width()))
+                    return false;
+    for (const auto* header : view.findChildren<QHeaderView*>())
+        for (int section = 0; header->isVisible() && section < header->count(); ++section)
+            if (!header->isSectionHidden(section) &&
+                header->sectionSizeHint(section) > header->sectionSize(section) + 8)
+                return false;
+    return true;
+}
+
+bool TextFits(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->text().isEmpty() || (label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
+                                                             : Fits(label->sizeHint(), label->size()));
+    if (const auto* button = qobject_cast<const QPushButton*>(&widget))
+        return Fits(button->fontMetrics().size(0, button->text()), button->size() - QSize(12, 6));
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        return edit->fontMetrics().horizontalAdvance(edit->text()) < edit->width() &&
+               edit->fontMetrics().height() <= edit->height();
+    if (const auto* box = qobject_cast<const QAbstractSpinBox*>(&widget))
+        return TextFits(*box->findChild<QLineEdit*>()) && Fits(box->minimumSizeHint(), box->size());
+    if (const auto* list = qobject_cast<const QComboBox*>(&widget)) {
+        QStyleOptionComboBox option;
+        option.initFrom(list);
+        const QRect field =
+            list->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, list);
+        return Fits(list->fontMetrics().size(Qt::TextSingleLine, list->currentText()), field.size());
+    }
+    const auto* view = qobject_cast<const QAbstractItemView*>(&widget);
+    if (view != nullptr && !CellsFit(*view))
+        return false;
+    if (const auto* area = qobject_cast<const QAbstractScrollArea*>(&widget))
+        for (const QScrollBar* bar : {area->horizontalScrollBar(), area->verticalScrollBar()})
+            if (bar->isVisible() && (bar->orientation() == Qt::Horizontal || bar->maximum() == bar->minimum()))
+                return false;
+    return widget.sizePolicy().hasHeightForWidth() ? widget.heightForWidth(widget.width()) <= widget.height()
+                                                   : Fits(widget.minimumSizeHint(), widget.size());
+}
+
+/// Whether a widget stands over the edge of what it lies in, where the player cannot bring it to light.
+bool IsCut(const QWidget& widget)
+{
+    const QWidget* outer = widget.parentWidget();
+    return !outer->rect().contains(widget.geometry()) && !Rolls(outer->parentWidget());
+}
+
+bool MayOverlap(const QWidget& widget)
+{
+    // A page lies over the others; a frame that is drawn around a control lets the mouse through.
+    return qobject_cast<const PageArea*>(widget.parentWidget()) != nullptr ||
+           widget.testAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+/// Whether the eye, which reads columns from top to bottom and rows from left to right, comes to `next` before `now`.
+bool ReadsBackwards(const QRect& now, const QRect& next)
+{
+    const bool sameRow = next.top() <= now.bottom() && next.bottom() >= now.top();
+    return sameRow ? next.right() < now.left() : next.bottom() < now.top() && next.left() <= now.right();
+}
+
+QStringList OrderFaults(const QList<QWidget*>& seen, QWidget& window)
+{
+    QStringList faults;
+    const QWidget* last = nullptr;
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+        if (!seen.contains(next) || !TakesTab(*next))
+            continue;
+        if (last != nullptr && ReadsBackwards(PlaceOf(*last), PlaceOf(*next)))
+            faults.append("order " + NameOf(*last) + " > " + NameOf(*next));
+        last = next;
+    }
+    return faults;
+}
+
+double Luminance(QRgb colour)
+{
+    const auto linear = [](int channel) {
+        const double share = channel / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+double Contrast(double first, double second)
+{
+    return (qMax(first, second) + 0.05) / (qMin(first, second) + 0.05);
+}
+
+/// How much the strongest colour of a part of a picture stands out from its commonest one.
+double StrongestContrast(const QImage& picture, const QRect& part)
+{
+    QHash<QRgb, int> counts;
+    for (int y = qMax(0, part.top()); y <= qMin(part.bottom(), picture.height() - 1); ++y)
+        for (int x = qMax(0, part.left()); x <= qMin(part.right(), picture.width() - 1); ++x)
+            ++counts[picture.pixel(x, y)];
+    QRgb ground = 0;
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count)
+        if (count.value() > counts.value(ground))
+            ground = count.key();
+    double strongest = 1;
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count)
+        strongest = qMax(strongest, Contrast(Luminance(count.key()), Luminance(ground)));
+    return strongest;
+}
+
+QString ShownText(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->text();
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        return edit->text();
+    if (const auto* list = qobject_cast<const QComboBox*>(&widget))
+        return list->currentText();
+    // The title of a screen is told above the screens.
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    return button != nullptr && qobject_cast<const ScreenButton*>(button) == nullptr ? button->text() : QString();
+}
+
+/// Where the rows of a column are seen. A single figure may be too fine to show its full colour.
+QRect ColumnPlace(const QAbstractItemView& view, int column)
+{
+    QRect place;
+    for (int row = 1; row < qMin(view.model()->rowCount(), LookedAtRows); ++row)
+        place |= view.visualRect(view.model()->index(row, column)) & view.viewport()->rect();
+    return place.translated(PlaceOf(*view.viewport()).topLeft());
+}
+
+/// Whether nothing but an outline tells the player where the control is.
+bool HasOutline(const QWidget& widget)
+{
+    return (qobject_cast<const QLineEdit*>(&widget) != nullptr && !widget.property(BareProperty).toBool()) ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr || qobject_cast<const QCheckBox*>(&widget) != nullptr ||
+           qobject_cast<const QRadioButton*>(&widget) != nullptr ||
+           qobject_cast<const QPushButton*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr;
+}
+
+} // namespace
+
+QStringList LayoutFaults(QWidget& window)
+{
+    QStringList faults;
+    const QList<QWidget*> seen = SeenWidgets(window);
+    for (QWidget* widget : seen) {
+        if (widget->focusPolicy() != Qt::NoFocus && !HasRoleAndName(*widget))
+            faults.append("name " + NameOf(*widget));
+        if (!TextFits(*widget) || IsCut(*widget))
+            faults.append("fit " + NameOf(*widget));
+        for (QWidget* other : seen)
+            if (other < widget && other->parentWidget() == widget->parentWidget() && !MayOverlap(*widget) &&
+                !MayOverlap(*other) && other->geometry().intersects(widget->geometry()))
+                faults.append("overlap " + NameOf(*widget) + " and " + NameOf(*other));
+    }
+    // The toolkit's own message box is as large as its message and has nothing that would grow.
+    if (qobject_cast<QMessageBox*>(&window) == nullptr &&
+        (window.maximumWidth() < QWIDGETSIZE_MAX || window.maximumHeight() < QWIDGETSIZE_MAX))
+        faults.append("fixed " + NameOf(window));
+    return faults + OrderFaults(seen, window);
+}
+
+QStringList ContrastFaults(QWidget& window)
+{
+    QStringList faults;
+    const QImage picture = window.grab().toImage();
+    const auto part = [&picture](const QRect& place) {
+        const qreal scale = picture.devicePixelRatio();
+        return QRectF(place.x() * scale, place.y() * scale, place.width() * scale, place.height() * scale).toRect();
+    };
+    for (QWidget* widget : SeenWidgets(window)) {
+        const QRect place = PlaceOf(*widget);
+        if (widget->visibleRegion().boundingRect() != widget->rect())
+            continue;
+        if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
+            for (int column = 0; column < view->model()->columnCount(); ++column)
+                if (const QRect cells = ColumnPlace(*view, column);
+                    !cells.isEmpty() && StrongestContrast(picture, part(cells)) < TextContrast)
+                    faults.append(QString("contrast column %1 of %2").arg(column).arg(NameOf(*view)));
+        constexpr int border = 4;
+        QRect inside = place.adjusted(border, border / 2, -border, -border / 2);
+        if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && !label->wordWrap())
+            inside = QStyle::alignedRect(Qt::LeftToRight, label->alignment(),
+                                         label->fontMetrics().size(0, label->text()), place);
+        if (widget->isEnabled() && !ShownText(*widget).trimmed().isEmpty() &&
+            StrongestContrast(picture, part(inside)) < TextContrast)
+            faults.append(QString("contrast %1 %2").arg(NameOf(*widget)).arg(StrongestContrast(picture, part(inside))));
+        const QRect edge(place.left() - 1, place.center().y(), 8, 1);
+        if (widget->isEnabled() && HasOutline(*widget) && StrongestContrast(picture, part(edge)) < OutlineContrast)
+            faults.append("contrast outline of " + NameOf(*widget));
+    }
+    return faults;
+}
+
+QStringList DialogFaults(QDialog& dialog)
+{
+    QStringList faults;
+    const auto buttons = dialog.findChildren<QPushButton*>();
+    if (std::none_of(buttons.begin(), buttons.end(), [](const QPushButton* button) { return button->isDefault(); }))
+        faults.append("default " + NameOf(dialog));
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    if (dialog.isVisible())
+        faults.append("escape " + NameOf(dialog));
+    return faults;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QDialog;
+
+/// What keeps a window from being seen, read aloud and worked by keyboard; each fault begins with the word of its kind
+/// and names the control. Only what can be seen at the moment is looked at.
+
+/// "name", "fit", "overlap", "order" and "fixed": where and what the controls are.
+QStringList LayoutFaults(QWidget& window);
+
+/// "contrast": the colours of the window as it is painted.
+QStringList ContrastFaults(QWidget& window);
+
+/// "default" and "escape". A dialog without a fault is closed afterwards.
+QStringList DialogFaults(QDialog& dialog);
