@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -39,6 +40,9 @@ int main(int count, char** arguments)
     MainWindow window;
     window.show();
     const Walk walk(window, [&pictures](const QString& name, QWidget& shown) {
+        // It is the toolkit's own, and shows the folders of the computer.
+        if (qobject_cast<QFileDialog*>(&shown) != nullptr)
+            return;
         // The smallest files that the format can have.
         shown.grab().save(pictures.filePath(name + QStringLiteral(".png")), "PNG", 0);
     });

@@ -3,13 +3,11 @@
 #include "analysis/charts.h"
 #include "analysis/graph_window.h"
 #include "draws/draw_prompt.h"
-#include "platform/dates.h"
-#include "platform/month_calendar.h"
 #include "platform/page_frame.h"
 #include "shell/main_window.h"
-#include "shell/open_databases.h"
 #include "shell/splash_window.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -37,8 +35,7 @@ constexpr Stop Stops[] = {
     {"group_5", 5, 0},
     {"add_thunderball", 1, 2},
     {"latest_draw", 2, 1},
-    {"draw_browser_without_draws", 2, 2},
-    {"draw_browser", 2, 2, "F9Cal"},
+    {"draw_browser", 2, 2},
     {"all_draws", 2, 3},
     {"main_draw", 2, 3, "F10mainviewbutton"},
     {"thunderball_draw", 2, 3, "F10thunderviewbutton"},
@@ -159,8 +156,12 @@ void Walk::EverythingElse() const
                 Press(QLatin1String(name));
         Show(QLatin1String(stop.picture));
     }
+    window.ChooseMenu(2, 2);
+    QTest::keyClick(Find(QStringLiteral("F9Cal"))->findChild<QAbstractItemView*>(), Qt::Key_Left);
+    Show(QStringLiteral("draw_browser_without_draws"));
     window.ChooseMenu(3, 4);
     Press(QStringLiteral("F12dateselect"));
+    Press(QStringLiteral("F12check"));
     Show(QStringLiteral("check_entries_of_a_date"));
     OtherBuildTypes();
     Charts();
@@ -230,11 +231,6 @@ void Walk::Show(const QString& name, QWidget& shown) const
 
 void Walk::Press(const QString& name) const
 {
-    if (auto* calendar = qobject_cast<MonthCalendar*>(Find(name))) {
-        ukmainlist.MoveFirst();
-        calendar->setSelectedDate(DateFromIso(ukmainlist.Text(1)));
-        return;
-    }
     window.activateWindow();
     PressIn(window, name);
     QApplication::processEvents();
