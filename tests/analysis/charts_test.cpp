@@ -2,7 +2,6 @@
 
 #include "analysis/draw_history.h"
 #include "draws/draw_records.h"
-#include "draws/draw_tables.h"
 #include "draws/game.h"
 
 #include <cmath>
@@ -89,10 +88,7 @@ int PlainBar(int chart, int bar, const QList<QStringList>& draws, int type)
     return value;
 }
 
-QString Text(const QString& label, int colour, int value)
-{
-    return QString("%1: %2 in colour %3").arg(label).arg(value).arg(colour);
-}
+const QString BarText = QStringLiteral("%1: %2 in colour %3");
 
 /// What the table of the charts must say of one of them.
 struct Expected
@@ -129,7 +125,7 @@ QStringList PlainBars(const Expected& chart, int type)
         const QString label = chart.labels.isEmpty() ? QString::number(bar) : chart.labels[bar - 1];
         const int band = bar < 10 ? 15 : bar < 20 ? 9 : bar < 30 ? 12 : bar < 40 ? 10 : 14;
         const int colour = chart.colours.isEmpty() ? band : chart.colours[(bar - 1) % chart.colours.size()];
-        bars.append(Text(label, colour, PlainBar(chart.chart, bar, draws, type)));
+        bars.append(BarText.arg(label).arg(PlainBar(chart.chart, bar, draws, type)).arg(colour));
     }
     return bars;
 }
@@ -138,7 +134,7 @@ QStringList CountedBars(const ChartCount& count, int type)
 {
     QStringList bars;
     for (const ChartBar& bar : count.Bars(static_cast<BallType>(type)))
-        bars.append(Text(bar.label, static_cast<int>(bar.colour), bar.value));
+        bars.append(BarText.arg(bar.label).arg(bar.value).arg(static_cast<int>(bar.colour)));
     return bars;
 }
 

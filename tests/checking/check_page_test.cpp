@@ -1,11 +1,6 @@
-#include "support/stored_draws.h"
 #include "support/test_window.h"
 
-#include "users/user_records.h"
-
-#include <QComboBox>
 #include <QDateEdit>
-#include <QRadioButton>
 #include <QTextBlock>
 #include <QTextEdit>
 
@@ -27,15 +22,6 @@ class CheckPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void WithoutUsersTheUserPageOpens()
-    {
-        TestWindow window;
-        window.Click("Button3");
-        QCOMPARE(window.Click("Suboption4", {QMessageBox::Ok}),
-                 QStringList{"You cannot check entries until you have\r\ncreated a user profile and created entries."});
-        QVERIFY(window.IsShown("Frame_11") && !window.IsShown("Frame_12"));
-    }
-
     void OpenPageIsReadyToCheckEverything()
     {
         TestWindow window;

@@ -24,37 +24,30 @@ class CheckReportTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void EntryIsComparedAndWins_data()
-    {
-        QTest::addColumn<EntryRow>("entry");
-        QTest::addColumn<QString>("line");
-        const auto row = [](int drawType, const std::array<double, 6>& numbers, const QString& line) {
-            QTest::newRow(qPrintable(line)) << EntryRow{1, 1, drawType, numbers, EveryDay} << line;
-        };
-        row(1, {11, 12, 13, 14, 15, 16}, "  0 main balls. ");
-        row(1, {7, 12, 13, 14, 15, 16}, "  0 main balls + bonus. ");
-        row(1, {6, 12, 13, 14, 15, 16}, "  1 main ball. ");
-        row(1, {1, 2, 13, 14, 15, 7}, "  2 main balls + bonus. ");
-        row(1, {1, 2, 3, 14, 15, 16}, "  3 main balls. <<WIN>>");
-        row(1, {1, 2, 3, 4, 5, 7}, "  5 main balls + bonus. <<WIN>>");
-        row(1, {1, 2, 3, 4, 5, 6}, "  6 main balls. <<WIN>>");
-        // A thunderball that equals a main ball is no main match, nor the other way round.
-        row(2, {6, 12, 13, 14, 15, 1}, "    0 main balls. ");
-        row(2, {11, 12, 13, 14, 15, 6}, "    0 main balls + thunderball. ");
-        row(2, {1, 12, 13, 14, 15, 7}, "    1 main ball. ");
-        row(2, {1, 12, 13, 14, 15, 6}, "    1 main ball + thunderball. <<WIN>>");
-        row(2, {1, 2, 13, 14, 15, 7}, "    2 main balls. ");
-        row(2, {1, 2, 13, 14, 15, 6}, "    2 main balls + thunderball. <<WIN>>");
-        row(2, {1, 2, 3, 14, 15, 7}, "    3 main balls. <<WIN>>");
-        row(2, {1, 2, 3, 4, 5, 1}, "    5 main balls. <<WIN>>");
-    }
-
     void EntryIsComparedAndWins()
     {
-        QFETCH(EntryRow, entry);
-        QFETCH(QString, line);
-        const Game& game = entry.drawType == 1 ? MainGame : ThunderballGame;
-        QCOMPARE(Report({{1, "Ann"}}, {{&game, Draw}}, {entry}).section("\r\n", 4, 4), "    1>" + line);
+        // A thunderball that equals a main ball is no main match, nor the other way round.
+        const std::tuple<int, std::array<double, 6>, QString> rows[] = {
+            {1, {11, 12, 13, 14, 15, 16}, "  0 main balls. "},
+            {1, {7, 12, 13, 14, 15, 16}, "  0 main balls + bonus. "},
+            {1, {6, 12, 13, 14, 15, 16}, "  1 main ball. "},
+            {1, {1, 2, 13, 14, 15, 7}, "  2 main balls + bonus. "},
+            {1, {1, 2, 3, 14, 15, 16}, "  3 main balls. <<WIN>>"},
+            {1, {1, 2, 3, 4, 5, 7}, "  5 main balls + bonus. <<WIN>>"},
+            {1, {1, 2, 3, 4, 5, 6}, "  6 main balls. <<WIN>>"},
+            {2, {6, 12, 13, 14, 15, 1}, "    0 main balls. "},
+            {2, {11, 12, 13, 14, 15, 6}, "    0 main balls + thunderball. "},
+            {2, {1, 12, 13, 14, 15, 7}, "    1 main ball. "},
+            {2, {1, 12, 13, 14, 15, 6}, "    1 main ball + thunderball. <<WIN>>"},
+            {2, {1, 2, 13, 14, 15, 7}, "    2 main balls. "},
+            {2, {1, 2, 13, 14, 15, 6}, "    2 main balls + thunderball. <<WIN>>"},
+            {2, {1, 2, 3, 14, 15, 7}, "    3 main balls. <<WIN>>"},
+            {2, {1, 2, 3, 4, 5, 1}, "    5 main balls. <<WIN>>"}};
+        for (const auto& [drawType, numbers, line] : rows) {
+            const Game& game = drawType == 1 ? MainGame : ThunderballGame;
+            const QString report = Report({{1, "Ann"}}, {{&game, Draw}}, {{1, 1, drawType, numbers, EveryDay}});
+            QCOMPARE(report.section("\r\n", 4, 4), "    1>" + line);
+        }
     }
 
     void SectionsListWhatIsPlayedOnTheDayOfTheDraw()

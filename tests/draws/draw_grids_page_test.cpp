@@ -1,7 +1,5 @@
 #include "support/grid_driver.h"
-#include "support/stored_draws.h"
 
-#include "draws/draw_tables.h"
 #include "platform/dates.h"
 
 #include <QClipboard>
@@ -24,8 +22,7 @@ public:
             StoreDraws(MainGame, {QString("%1,%2,11,22,33,44,49,40,ARTHUR,%2").arg(date).arg(draw)});
             StoreDraws(ThunderballGame, {QString("%1,%2,11,22,33,34,14").arg(date).arg(draw)});
         }
-        Click("Button2");
-        Click("Suboption3");
+        OpenPage(2, 3);
     }
 
     GridDriver MainGrid() { return {*this, "F10Grid1"}; }
@@ -107,10 +104,9 @@ private Q_SLOTS:
         window.modals.WillPress(QMessageBox::Ok);
         grid.Press(Qt::Key_Delete);
         const QList<SeenBox> seen = window.modals.TakeSeen();
-        QCOMPARE(seen.size(), 2);
-        QCOMPARE(seen[0].text, QString("Are you sure you want to\r\ndelete this thunderball draw?"));
+        QCOMPARE(seen.value(0).text, QString("Are you sure you want to\r\ndelete this thunderball draw?"));
         QCOMPARE(seen[0].defaultButton, QMessageBox::No);
-        QCOMPARE(seen[1].text, QString("Data delete has been aborted."));
+        QCOMPARE(seen.value(1).text, QString("Data delete has been aborted."));
         QCOMPARE(grid.Selected(), QString("0-0"));
         grid.Press(Qt::Key_End, Qt::ShiftModifier);
         QCOMPARE(grid.Selected(), QString("0-4"));
@@ -139,11 +135,9 @@ private Q_SLOTS:
         grid.Click(1);
         grid.Press(Qt::Key_Return);
         QVERIFY(window.IsShown("Frame_14") && window.IsShown("Frame_10"));
-        QCOMPARE(window.TextOf("F14date"), QString("Saturday, 31 January 2026"));
-        QCOMPARE(window.TextOf("F14number_0"), QString("40"));
+        QCOMPARE(window.TextsOf({"F14date", "F14number_0", "F14machine", "F14ballset"}),
+                 QString("Saturday, 31 January 2026|40|Machine used: ARTHUR|Set of balls used: 4"));
         QCOMPARE(window.ColourOf("F14ball_0", QPalette::Window), QColor("#FFFF80"));
-        QCOMPARE(window.TextOf("F14machine"), QString("Machine used: ARTHUR"));
-        QCOMPARE(window.TextOf("F14ballset"), QString("Set of balls used: 4"));
         window.PressFocused(Qt::Key_Escape);
         QVERIFY(!window.IsShown("Frame_14"));
         QCOMPARE(grid.Selected(), QString("1-1"));

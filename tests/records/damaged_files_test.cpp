@@ -3,6 +3,7 @@
 // or 256 MiB.
 
 #include "support/failure_of.h"
+#include "support/file_bytes.h"
 #include "support/forked.h"
 #include "support/raw_file.h"
 
@@ -20,7 +21,6 @@
 #include "users/user_records.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <openssl/evp.h>
@@ -281,21 +281,7 @@ int Walk()
 
 long ResidentMemory()
 {
-    QFile status(QStringLiteral("/proc/self/statm"));
-    return status.open(QIODevice::ReadOnly) ? status.readAll().split(' ').value(1).toLong() * 4 : 0;
-}
-
-QByteArray Read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Write(const std::filesystem::path& path, const QByteArray& bytes)
-{
-    QFile file(QString::fromStdString(path.string()));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("A file could not be written");
+    return BytesOf(QStringLiteral("/proc/self/statm")).split(' ').value(1).toLong() * 4;
 }
 
 } // namespace
@@ -306,9 +292,11 @@ int main(int count, char** arguments)
     const int cases = count > 2 ? QByteArray(arguments[2]).toInt() : 300;
     const QTemporaryDir folder;
     SetProgramDir(folder.path().toStdString());
-    const QByteArray draws = Read(QStringLiteral(TAVENOR_STARTER "/drawdata.tv3"));
-    Write(DrawDataPath, draws);
-    Write(UserDataPath, Read(QStringLiteral(TAVENOR_STARTER "/userdata.tv3")));
+    const QString drawFile = QString::fromStdString(DrawDataPath.string());
+    const QString userFile = QString::fromStdString(UserDataPath.string());
+    QFile::copy(QStringLiteral(TAVENOR_STARTER "/drawdata.tv3"), drawFile);
+    QFile::copy(QStringLiteral(TAVENOR_STARTER "/userdata.tv3"), userFile);
+    const QByteArray draws = BytesOf(drawFile);
     OpenDatabaseFiles();
     {
         Transaction transaction(UserDb, "");
@@ -319,7 +307,7 @@ int main(int count, char** arguments)
         transaction.Commit();
     }
     CloseDatabaseFiles();
-    const QByteArray people = Read(folder.filePath(QStringLiteral("userdata.tv3")));
+    const QByteArray people = BytesOf(userFile);
     const OpenedPages opened(draws);
     const std::string rawKey = ";pwd=" + DerivedKeyText(PasswordOf(DrawConnect), draws.left(Iv).toStdString());
     std::map<std::string, int> outcomes;
@@ -331,10 +319,10 @@ int main(int count, char** arguments)
             QFile::remove(left.filePath());
         // The first case is whole: protected anew, it must work, or the others would prove nothing.
         const int kind = number == 0 ? 1 : number % 5;
-        Write(UserDataPath, kind == 2 ? damage.Bytes(people) : people);
-        Write(DrawDataPath, kind == 0   ? damage.Bytes(draws)
-                            : kind == 1 ? opened.Protected(number == 0 ? opened.bytes : damage.Bytes(opened.bytes))
-                                        : draws);
+        WriteBytes(userFile, kind == 2 ? damage.Bytes(people) : people);
+        WriteBytes(drawFile, kind == 0   ? damage.Bytes(draws)
+                             : kind == 1 ? opened.Protected(number == 0 ? opened.bytes : damage.Bytes(opened.bytes))
+                                         : draws);
         const Forked made = RunForked([&](const ForkedProcess::Say&) {
             for (int change = 0; kind > 2 && change < 3; ++change)
                 FailureOf([&] {

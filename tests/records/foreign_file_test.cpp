@@ -4,7 +4,6 @@
 
 #include "analysis/draw_history.h"
 #include "records/compaction.h"
-#include "users/user_records.h"
 
 #include <QElapsedTimer>
 

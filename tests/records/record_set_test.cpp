@@ -1,7 +1,6 @@
 #include "support/failure_of.h"
 #include "support/full_disk.h"
 #include "support/raw_file.h"
-#include "support/stored_draws.h"
 #include "support/test_window.h"
 
 #include "records/compaction.h"

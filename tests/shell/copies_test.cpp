@@ -1,12 +1,6 @@
 #include "support/forked.h"
-#include "support/stored_draws.h"
 #include "support/test_window.h"
 
-#include "draws/draw_tables.h"
-#include "users/user_records.h"
-#include "users/user_tables.h"
-
-#include <QListWidget>
 #include <QSet>
 
 #include <memory>
@@ -50,6 +44,45 @@ ino_t FileNumber(const std::filesystem::path& file)
     return ::stat(file.c_str(), &attributes) == 0 ? attributes.st_ino : 0;
 }
 
+/// No row is lost, and no number given twice.
+void RunCopies(int copies)
+{
+    TestFolder folder(TestFolder::Content::Empty);
+    // The key is derived once, before the copies part.
+    OpenDatabaseFiles();
+    CloseDatabaseFiles();
+    std::vector<std::unique_ptr<ForkedProcess>> processes;
+    processes.reserve(static_cast<size_t>(copies));
+    for (int copy = 0; copy < copies; ++copy)
+        processes.push_back(std::make_unique<ForkedProcess>(
+            [&](const ForkedProcess::Say& say) { UseFolder(static_cast<unsigned>(10 * copies + copy), say); }));
+    QStringList said;
+    for (const auto& process : processes) {
+        const Forked copy = process->Wait();
+        QVERIFY2(copy.signal == 0 && copy.code == 0, qPrintable(copy.Text()));
+        said += copy.lines;
+    }
+    QStringList found;
+    for (const QString& user : TestFolder::StoredRows("users"))
+        found.append("user," + user.section(u',', 1, 1));
+    for (const QString& draw : TestFolder::StoredRows("ukmain"))
+        found.append("draw," + draw.section(u',', 10, 10));
+    for (const char* table : {"users", "entries", "ukmain"}) {
+        QSet<QString> numbers;
+        const QStringList rows = TestFolder::StoredRows(table);
+        for (const QString& row : rows)
+            numbers.insert(row.section(u',', 0, 0));
+        QCOMPARE(numbers.size(), rows.size());
+    }
+    said.sort();
+    found.sort();
+    QCOMPARE(found, said);
+    QVERIFY(said.size() > 40);
+    QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+    qInfo("%d copies, %d rounds each: %d rows acknowledged, %d found", copies, Rounds, static_cast<int>(said.size()),
+          static_cast<int>(found.size()));
+}
+
 } // namespace
 
 class CopiesTest : public QObject
@@ -57,51 +90,8 @@ class CopiesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void NoRowIsLostNorNumberGivenTwice_data()
-    {
-        QTest::addColumn<int>("copies");
-        QTest::newRow("two copies") << 2;
-        QTest::newRow("three copies") << 3;
-    }
-
-    void NoRowIsLostNorNumberGivenTwice()
-    {
-        QFETCH(int, copies);
-        TestFolder folder(TestFolder::Content::Empty);
-        // The key is derived once, before the copies part.
-        OpenDatabaseFiles();
-        CloseDatabaseFiles();
-        std::vector<std::unique_ptr<ForkedProcess>> processes;
-        processes.reserve(static_cast<size_t>(copies));
-        for (int copy = 0; copy < copies; ++copy)
-            processes.push_back(std::make_unique<ForkedProcess>(
-                [&](const ForkedProcess::Say& say) { UseFolder(static_cast<unsigned>(10 * copies + copy), say); }));
-        QStringList said;
-        for (const auto& process : processes) {
-            const Forked copy = process->Wait();
-            QVERIFY2(copy.signal == 0 && copy.code == 0, qPrintable(copy.Text()));
-            said += copy.lines;
-        }
-        QStringList found;
-        for (const QString& user : TestFolder::StoredRows("users"))
-            found.append("user," + user.section(u',', 1, 1));
-        for (const QString& draw : TestFolder::StoredRows("ukmain"))
-            found.append("draw," + draw.section(u',', 10, 10));
-        for (const char* table : {"users", "entries", "ukmain"}) {
-            QSet<QString> numbers;
-            const QStringList rows = TestFolder::StoredRows(table);
-            for (const QString& row : rows)
-                numbers.insert(row.section(u',', 0, 0));
-            QCOMPARE(numbers.size(), rows.size());
-        }
-        said.sort();
-        found.sort();
-        QCOMPARE(found, said);
-        QVERIFY(said.size() > 40);
-        QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
-        qInfo("%d copies, %d rounds each: %d rows acknowledged, %d found", copies, Rounds,
-              static_cast<int>(said.size()), static_cast<int>(found.size()));
-    }
+    void NoRowIsLostWithTwoCopies() { RunCopies(2); }
+    void NoRowIsLostWithThreeCopies() { RunCopies(3); }
 
     void LastOneOutCompacts()
     {
@@ -128,10 +118,8 @@ private Q_SLOTS:
         TestWindow window;
         AddUser(users, "Ann", 9);
         StoreDraws(MainGame, {"2000-01-01,1,2,3,4,5,6,7,ARTHUR,1"});
-        window.Click("Button3");
-        window.Click("Suboption1");
-        window.Click("Button2");
-        window.Click("Suboption1");
+        window.OpenPage(3, 1);
+        window.OpenPage(2, 1);
         QCOMPARE(window.Find<QListWidget>("F11list")->count(), 1);
         InAnotherCopy(UserDataPath, {}, UsersTable(), [](RecordSet& theirs) { AddUser(theirs, "Ben", 9); });
         InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), [](RecordSet& theirs) {
@@ -139,8 +127,7 @@ private Q_SLOTS:
         });
         window.Click("Suboption1");
         QVERIFY(window.TextOf("F8Mmachine").contains("MERLIN"));
-        window.Click("Button3");
-        window.Click("Suboption1");
+        window.OpenPage(3, 1);
         QCOMPARE(window.Find<QListWidget>("F11list")->count(), 2);
     }
 };

@@ -3,7 +3,6 @@
 
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
-#include "users/user_records.h"
 
 #include <QDir>
 
@@ -46,39 +45,31 @@ class FolderTroublesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void PlayerIsToldAndNothingIsLost_data()
-    {
-        QTest::addColumn<Trouble>("atStart");
-        QTest::addColumn<Trouble>("meanwhile");
-        QTest::addColumn<QString>("told");
-        QTest::addColumn<bool>("stored");
-        const Trouble nothing = [](const QString&) {};
-        const QString refused = "could not be changed, because the file or its folder may not be changed.";
-        QTest::newRow("no trouble") << nothing << nothing << QString() << true;
-        QTest::newRow("folder read-only") << Rights({}, 0555) << nothing << refused << false;
-        QTest::newRow("folder read-only meanwhile") << nothing << Rights({}, 0555) << refused << false;
-        QTest::newRow("file read-only") << Rights("userdata.tv3", 0444) << nothing << refused << false;
-        QTest::newRow("file of another") << Rights("userdata.tv3", ::geteuid() == 0 ? 0644 : 0444, true) << nothing
-                                         << refused << false;
-        QTest::newRow("unreadable file of another")
-            << Rights("userdata.tv3", ::geteuid() == 0 ? 0600 : 0, true) << nothing
-            << "There is a problem with the database files." << false;
-        QTest::newRow("folder moved") << nothing << Trouble([](const QString& folder) {
-            QDir().rename(folder, folder + ".moved");
-        }) << refused << false;
-        QTest::newRow("folder removed") << nothing
-                                        << Trouble([](const QString& folder) { QDir(folder).removeRecursively(); })
-                                        << refused << false;
-        QTest::newRow("clock set back") << nothing << Trouble([](const QString&) { ClockSetBack = 40L * 365 * 86400; })
-                                        << QString() << true;
-    }
-
     void PlayerIsToldAndNothingIsLost()
     {
-        QFETCH(Trouble, atStart);
-        QFETCH(Trouble, meanwhile);
-        QFETCH(QString, told);
-        QFETCH(bool, stored);
+        const Trouble none = [](const QString&) {};
+        const Trouble moved = [](const QString& folder) { QDir().rename(folder, folder + ".moved"); };
+        const Trouble removed = [](const QString& folder) { QDir(folder).removeRecursively(); };
+        const Trouble clockSetBack = [](const QString&) { ClockSetBack = 40L * 365 * 86400; };
+        const QString refused = "could not be changed, because the file or its folder may not be changed.";
+        const bool isRoot = ::geteuid() == 0;
+        // What is wrong at the start and what meanwhile, and what is told of it.
+        for (const auto& [atStart, meanwhile, told] :
+             {std::tuple(none, none, QString()),
+              {Rights({}, 0555), none, refused},
+              {none, Rights({}, 0555), refused},
+              {Rights("userdata.tv3", 0444), none, refused},
+              {Rights("userdata.tv3", isRoot ? 0644 : 0444, true), none, refused},
+              {Rights("userdata.tv3", isRoot ? 0600 : 0, true), none, "There is a problem with the database files."},
+              {none, moved, refused},
+              {none, removed, refused},
+              {none, clockSetBack, {}}})
+            StoreAUser(atStart, meanwhile, told);
+    }
+
+private:
+    static void StoreAUser(const Trouble& atStart, const Trouble& meanwhile, const QString& told)
+    {
         TestWindow window;
         AddUser(users, "Ann", 1);
         CloseDatabaseFiles();
@@ -98,8 +89,7 @@ private Q_SLOTS:
                 ::_exit(0);
             };
             OpenDatabasesAtStart();
-            window.Click("Button3");
-            window.Click("Suboption1");
+            window.OpenPage(3, 1);
             window.Click("F11adduser");
             window.Find<QLineEdit>("F11seluser")->setText("Ben");
             meanwhile(folder);
@@ -119,7 +109,7 @@ private Q_SLOTS:
         Rights("userdata.tv3", 0600)(folder);
         OpenDatabasesAtStart();
         QCOMPARE(TestFolder::StoredRows("users"),
-                 (stored ? QStringList{"1,Ann,1", "2,Ben,0"} : QStringList{"1,Ann,1"}));
+                 (told.isEmpty() ? QStringList{"1,Ann,1", "2,Ben,0"} : QStringList{"1,Ann,1"}));
         QCOMPARE(CloseAndCompactFiles(), QString());
         QCOMPARE(window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
     }

@@ -1,17 +1,11 @@
 #include "support/disk_calls.h"
 #include "support/forked.h"
 #include "support/raw_file.h"
-#include "support/stored_draws.h"
 #include "support/test_window.h"
 
 #include "records/compaction.h"
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
-#include "users/user_records.h"
-
-#include <QComboBox>
-#include <QFileDialog>
-#include <QListWidget>
 
 #include <cerrno>
 
@@ -68,18 +62,18 @@ public:
         };
         const NoPainting blank;
         OpenDatabasesAtStart();
-        Menu(1, 1);
+        window.OpenPage(1, 1);
         for (int ball = 0; ball < 7; ++ball)
             window.Find<QLineEdit>(QStringLiteral("F6MBall1_%1").arg(ball))->setText(QString::number(9 + ball));
         Press("F6Store", say);
-        Menu(4, 1);
-        Choose("F26combo_0", 0);
-        Choose("F26combo_1", 0);
+        window.OpenPage(4, 1);
+        ChooseFirst("F26combo_0");
+        ChooseFirst("F26combo_1");
         window.Find<QLineEdit>("F26text")->setText(QString::number(Batch));
         window.Press("F26text", Qt::Key_Return);
         Press("F26go", say);
         Press("F26store", say);
-        Menu(3, 1);
+        window.OpenPage(3, 1);
         auto* list = window.Find<QListWidget>("F11list");
         list->setCurrentRow(1);
         Press("F11deleteuser", say);
@@ -99,15 +93,10 @@ public:
     QTemporaryDir own;
 
 private:
-    void Menu(int group, int suboption)
+    void ChooseFirst(const QString& list)
     {
-        window.Click(QStringLiteral("Button%1").arg(group));
-        window.Click(QStringLiteral("Suboption%1").arg(suboption));
-    }
-    void Choose(const QString& list, int item)
-    {
-        window.Find<QComboBox>(list)->setCurrentIndex(item);
-        Q_EMIT window.Find<QComboBox>(list)->activated(item);
+        window.Find<QComboBox>(list)->setCurrentIndex(0);
+        Q_EMIT window.Find<QComboBox>(list)->activated(0);
     }
     void Press(const QString& button, const ForkedProcess::Say& say)
     {
@@ -124,10 +113,10 @@ private:
     {
         QTimer::singleShot(0, &dialog, [this, &dialog] {
             const QString name = dialog.objectName();
-            if (auto* save = qobject_cast<QFileDialog*>(&dialog)) {
-                save->findChild<QLineEdit*>("fileNameEdit")->setText(chosen);
-                save->findChild<QLineEdit*>("fileNameEdit")->setFocus();
-                QTest::keyClick(save->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+            if (auto* path = dialog.findChild<QLineEdit*>("fileNameEdit")) {
+                path->setText(chosen);
+                path->setFocus();
+                QTest::keyClick(path, Qt::Key_Return);
             } else if (name == QLatin1String("frmday")) {
                 dialog.findChild<QAbstractButton*>("check1_2")->click();
                 dialog.findChild<QAbstractButton*>("store")->click();
@@ -166,26 +155,16 @@ class InterruptedRunTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void NothingAcknowledgedIsLost_data()
-    {
-        QTest::addColumn<DiskFault>("fault");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<QString>("imported");
-        // Every call meets the fault, or every second or third one.
-        QTest::addColumn<int>("step");
-        QTest::newRow("stopped") << DiskFault::Stop << 0 << "good.tv3" << 1;
-        QTest::newRow("stopped, bad import") << DiskFault::Stop << 0 << "garbage.tv3" << 3;
-        QTest::newRow("one call fails") << DiskFault::OneFailure << EIO << "good.tv3" << 1;
-        QTest::newRow("full from then on") << DiskFault::FailuresFromThen << ENOSPC << "good.tv3" << 3;
-        QTest::newRow("broken from then on") << DiskFault::FailuresFromThen << EIO << "good.tv3" << 3;
-    }
+    // Every call meets the fault, or every third one.
+    void Stopped() { NothingAcknowledgedIsLost(DiskFault::Stop, 0, "good.tv3", 1); }
+    void StoppedWithABadImport() { NothingAcknowledgedIsLost(DiskFault::Stop, 0, "garbage.tv3", 3); }
+    void OneCallFails() { NothingAcknowledgedIsLost(DiskFault::OneFailure, EIO, "good.tv3", 1); }
+    void FullFromThenOn() { NothingAcknowledgedIsLost(DiskFault::FailuresFromThen, ENOSPC, "good.tv3", 3); }
+    void BrokenFromThenOn() { NothingAcknowledgedIsLost(DiskFault::FailuresFromThen, EIO, "good.tv3", 3); }
 
-    void NothingAcknowledgedIsLost()
+private:
+    static void NothingAcknowledgedIsLost(DiskFault fault, int error, const QString& imported, int step)
     {
-        QFETCH(DiskFault, fault);
-        QFETCH(int, error);
-        QFETCH(QString, imported);
-        QFETCH(int, step);
         Run run;
         const QString folder = run.window.files.Path({});
         int call = 1;
@@ -230,8 +209,7 @@ private Q_SLOTS:
                 QVERIFY2(told.contains("could not be") || told.contains("problem with"), qPrintable(found));
         }
         QVERIFY(call > 90);
-        qInfo("%s: %d faults, %d acknowledged changes, all of them found", QTest::currentDataTag(), faults,
-              acknowledged);
+        qInfo("%d faults, %d acknowledged changes, all of them found", faults, acknowledged);
     }
 };
 

@@ -8,12 +8,10 @@
 #include "platform/theme.h"
 #include "shell/about_window.h"
 #include "users/draw_day_window.h"
-#include "users/user_records.h"
 #include "utilities/advanced_window.h"
 #include "walk.h"
 
 #include <QAccessible>
-#include <QCheckBox>
 #include <QFileDialog>
 #include <QVBoxLayout>
 
@@ -53,11 +51,14 @@ struct PlantedDialog : QDialog
     bool answersEscape = true;
 };
 
-using Plant = void (*)(PlantedDialog&);
+void MakePale(QWidget& widget, QPalette::ColorRole role)
+{
+    QPalette pale;
+    pale.setColor(role, role == QPalette::WindowText ? QColor(128, 136, 150) : QColor(150, 150, 150));
+    widget.setPalette(pale);
+}
 
 } // namespace
-
-Q_DECLARE_METATYPE(Plant)
 
 /// Run once for each scale, and once with a larger font, by the tests' own environment.
 class LookTest : public QObject
@@ -67,62 +68,85 @@ class LookTest : public QObject
 private Q_SLOTS:
     void cleanup() { SetAppearance(Appearance::FromDesktop); }
 
-    void APlantedFaultIsFound_data()
-    {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<Plant>("plant");
-        const auto row = [](const char* name, const char* kind, Plant plant) { QTest::newRow(name) << kind << plant; };
-        row("none", "", [](PlantedDialog&) {});
-        row("no name", "name", [](PlantedDialog& dialog) { dialog.first->setAccessibleName({}); });
-        row("text cut", "fit", [](PlantedDialog& dialog) { dialog.caption->setMaximumWidth(20); });
-        row("button cut", "fit", [](PlantedDialog& dialog) { dialog.store->setMaximumWidth(30); });
-        row("field cut", "fit", [](PlantedDialog& dialog) { dialog.first->setMaximumHeight(8); });
-        row("overlap", "overlap", [](PlantedDialog& dialog) {
-            dialog.layout()->removeWidget(dialog.tick);
-            dialog.tick->move(dialog.store->pos());
-        });
-        row("order", "order", [](PlantedDialog& dialog) { QWidget::setTabOrder(dialog.second, dialog.first); });
-        row("no default", "default", [](PlantedDialog& dialog) { dialog.store->setDefault(false); });
-        row("no Escape", "escape", [](PlantedDialog& dialog) { dialog.answersEscape = false; });
-        row("pale text", "contrast", [](PlantedDialog& dialog) {
-            QPalette pale;
-            pale.setColor(QPalette::WindowText, QColor(128, 136, 150));
-            dialog.caption->setPalette(pale);
-        });
-        row("pale outline", "contrast outline", [](PlantedDialog& dialog) {
-            QPalette pale;
-            pale.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
-            dialog.tick->setPalette(pale);
-        });
-        row("fixed", "fixed", [](PlantedDialog& dialog) { dialog.setFixedSize(dialog.sizeHint()); });
-    }
-
     void APlantedFaultIsFound()
     {
-        QFETCH(QString, kind);
-        QFETCH(Plant, plant);
-        PlantedDialog dialog;
-        dialog.show();
-        plant(dialog);
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        QStringList faults = LayoutFaults(dialog) + ContrastFaults(dialog);
-        faults += DialogFaults(dialog);
-        QVERIFY2(kind.isEmpty() ? faults.isEmpty() : !faults.isEmpty(), qPrintable(faults.join('\n')));
-        for (const QString& fault : faults)
-            QVERIFY2(fault.startsWith(kind), qPrintable(fault));
+        using Plant = void (*)(PlantedDialog&);
+        const std::pair<QString, Plant> rows[] = {
+            {"", [](PlantedDialog&) {}},
+            {"name", [](PlantedDialog& dialog) { dialog.first->setAccessibleName({}); }},
+            {"fit", [](PlantedDialog& dialog) { dialog.caption->setMaximumWidth(20); }},
+            {"fit", [](PlantedDialog& dialog) { dialog.store->setMaximumWidth(30); }},
+            {"fit", [](PlantedDialog& dialog) { dialog.first->setMaximumHeight(8); }},
+            {"overlap",
+             [](PlantedDialog& dialog) {
+                 dialog.layout()->removeWidget(dialog.tick);
+                 dialog.tick->move(dialog.store->pos());
+             }},
+            {"order", [](PlantedDialog& dialog) { QWidget::setTabOrder(dialog.second, dialog.first); }},
+            {"default", [](PlantedDialog& dialog) { dialog.store->setDefault(false); }},
+            {"escape", [](PlantedDialog& dialog) { dialog.answersEscape = false; }},
+            {"contrast", [](PlantedDialog& dialog) { MakePale(*dialog.caption, QPalette::WindowText); }},
+            {"contrast outline", [](PlantedDialog& dialog) { MakePale(*dialog.tick, QPalette::PlaceholderText); }},
+            {"fixed", [](PlantedDialog& dialog) { dialog.setFixedSize(dialog.sizeHint()); }}};
+        for (const auto& [kind, plant] : rows) {
+            PlantedDialog dialog;
+            dialog.show();
+            plant(dialog);
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+            QStringList faults = LayoutFaults(dialog) + ContrastFaults(dialog);
+            faults += DialogFaults(dialog);
+            QVERIFY2(kind.isEmpty() == faults.isEmpty(), qPrintable(kind + ": " + faults.join('\n')));
+            for (const QString& fault : faults)
+                QVERIFY2(fault.startsWith(kind), qPrintable(fault));
+        }
     }
 
-    void EveryPageAndWindow_data()
+    void EveryPageAndWindowInTheLight() { LookAtAll(Appearance::Light); }
+    void EveryPageAndWindowInTheDark() { LookAtAll(Appearance::Dark); }
+
+    void GridsAndReportAreReadAloud()
     {
-        QTest::addColumn<bool>("dark");
-        QTest::newRow("light") << false;
-        QTest::newRow("dark") << true;
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        window.Window().ChooseMenu(2, 3);
+        QAccessibleTableInterface* grid =
+            QAccessible::queryAccessibleInterface(window.Find("F10Grid1"))->tableInterface();
+        QCOMPARE(grid->rowCount(), 2065);
+        QCOMPARE(grid->columnDescription(0), QString("Date"));
+        QCOMPARE(grid->cellAt(0, 0)->text(QAccessible::Name), QString("07/10/2015"));
+        window.Window().ChooseMenu(3, 4);
+        window.Find<QPushButton>("F12check")->click();
+        QAccessibleTextInterface* report =
+            QAccessible::queryAccessibleInterface(window.Find("F12text"))->textInterface();
+        QVERIFY(report->text(0, report->characterCount()).contains("There are no user entries stored."));
     }
 
-    void EveryPageAndWindow()
+    void EveryDialogHasADefaultAndAnswersEscape()
     {
-        QFETCH(bool, dark);
-        SetAppearance(dark ? Appearance::Dark : Appearance::Light);
+        const TestFolder files(TestFolder::Content::Starter);
+        OpenDatabaseFiles();
+        QStringList faults;
+        BuilderState state;
+        DaySet days{};
+        NumberWindow numbers(state, nullptr);
+        DrawDayWindow drawDays(days, nullptr);
+        DrawPrompt prompt("main", nullptr);
+        AdvancedWindow advanced(nullptr);
+        AboutWindow about(nullptr);
+        GraphWindow chart(nullptr);
+        chart.PrepareChart(1);
+        for (QDialog* dialog :
+             std::initializer_list<QDialog*>{&numbers, &drawDays, &prompt, &advanced, &about, &chart}) {
+            dialog->show();
+            faults += DialogFaults(*dialog);
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+private:
+    static void LookAtAll(Appearance appearance)
+    {
+        SetAppearance(appearance);
         const TestFolder files(TestFolder::Content::Starter);
         OpenDatabaseFiles();
         MainWindow window;
@@ -153,46 +177,6 @@ private Q_SLOTS:
         for (const QString& fault : faults)
             qWarning("%s", qPrintable(fault));
         QCOMPARE(faults.size(), 0);
-    }
-
-    void GridsAndReportAreReadAloud()
-    {
-        TestWindow window(TestFolder::Content::Starter);
-        AddUser(users, "Ann", 10);
-        window.Window().ChooseMenu(2, 3);
-        QAccessibleTableInterface* grid =
-            QAccessible::queryAccessibleInterface(window.Find("F10Grid1"))->tableInterface();
-        QCOMPARE(grid->rowCount(), 2065);
-        QCOMPARE(grid->columnDescription(0), QString("Date"));
-        QCOMPARE(grid->cellAt(0, 0)->text(QAccessible::Name), QString("07/10/2015"));
-        window.Window().ChooseMenu(3, 4);
-        window.Find<QPushButton>("F12check")->click();
-        QAccessibleTextInterface* report =
-            QAccessible::queryAccessibleInterface(window.Find("F12text"))->textInterface();
-        QVERIFY(report->text(0, report->characterCount()).contains("There are no user entries stored."));
-    }
-
-    void EveryDialogHasADefaultAndAnswersEscape()
-    {
-        const TestFolder files(TestFolder::Content::Starter);
-        OpenDatabaseFiles();
-        QStringList faults;
-        const auto look = [&faults](QDialog& dialog) {
-            dialog.show();
-            faults += DialogFaults(dialog);
-        };
-        BuilderState state;
-        DaySet days{};
-        NumberWindow numbers(state, nullptr);
-        DrawDayWindow drawDays(days, nullptr);
-        DrawPrompt prompt("main", nullptr);
-        AdvancedWindow advanced(nullptr);
-        AboutWindow about(nullptr);
-        GraphWindow chart(nullptr);
-        chart.PrepareChart(1);
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&numbers, &drawDays, &prompt, &advanced, &about, &chart})
-            look(*dialog);
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
 };
 

@@ -42,17 +42,17 @@ QRect PlaceOf(const QWidget& widget)
     return {widget.mapTo(widget.window(), QPoint()), widget.size()};
 }
 
-bool Rolls(const QWidget* widget)
+template <typename... Kinds>
+bool IsOneOf(const QWidget* widget)
 {
-    return qobject_cast<const QScrollArea*>(widget) != nullptr;
+    return ((qobject_cast<const Kinds*>(widget) != nullptr) || ...);
 }
 
 /// Whether a widget is a part of one of the toolkit's own compound controls.
 bool IsPart(const QWidget& widget)
 {
     for (const QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget())
-        if ((qobject_cast<const QAbstractScrollArea*>(outer) != nullptr && !Rolls(outer)) ||
-            qobject_cast<const QComboBox*>(outer) != nullptr || qobject_cast<const QAbstractSpinBox*>(outer) != nullptr)
+        if (IsOneOf<QAbstractScrollArea, QComboBox, QAbstractSpinBox>(outer) && !IsOneOf<QScrollArea>(outer))
             return true;
     return false;
 }
@@ -87,15 +87,13 @@ bool Fits(const QSize& needed, const QSize& given)
 
 bool CellsFit(const QAbstractItemView& view)
 {
-    const auto fits = [&view](const QString& text, int width) {
-        return view.fontMetrics().horizontalAdvance(text) <= width;
-    };
     const QAbstractItemModel& model = *view.model();
     for (int row = 0; row < qMin(model.rowCount(), LookedAtRows); ++row)
         for (int column = 0; column < model.columnCount(); ++column)
-            if (const QRect place = view.visualRect(model.index(row, column)); place.isValid())
-                if (!fits(model.index(row, column).data().toString(), place.width()))
-                    return false;
+            if (const QRect place = view.visualRect(model.index(row, column));
+                place.isValid() &&
+                view.fontMetrics().horizontalAdvance(model.index(row, column).data().toString()) > place.width())
+                return false;
     for (const auto* header : view.findChildren<QHeaderView*>())
         for (int section = 0; header->isVisible() && section < header->count(); ++section)
             if (!header->isSectionHidden(section) &&
@@ -138,14 +136,13 @@ bool TextFits(const QWidget& widget)
 bool IsCut(const QWidget& widget)
 {
     const QWidget* outer = widget.parentWidget();
-    return !outer->rect().contains(widget.geometry()) && !Rolls(outer->parentWidget());
+    return !outer->rect().contains(widget.geometry()) && !IsOneOf<QScrollArea>(outer->parentWidget());
 }
 
 bool MayOverlap(const QWidget& widget)
 {
     // A page lies over the others; a frame that is drawn around a control lets the mouse through.
-    return qobject_cast<const PageArea*>(widget.parentWidget()) != nullptr ||
-           widget.testAttribute(Qt::WA_TransparentForMouseEvents);
+    return IsOneOf<PageArea>(widget.parentWidget()) || widget.testAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 /// Whether the eye, which reads columns from top to bottom and rows from left to right, comes to `next` before `now`.
@@ -202,15 +199,10 @@ double StrongestContrast(const QImage& picture, const QRect& part)
 
 QString ShownText(const QWidget& widget)
 {
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text();
-    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
-        return edit->text();
-    if (const auto* list = qobject_cast<const QComboBox*>(&widget))
-        return list->currentText();
     // The title of a screen is told above the screens.
-    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
-    return button != nullptr && qobject_cast<const ScreenButton*>(button) == nullptr ? button->text() : QString();
+    if (IsOneOf<ScreenButton>(&widget))
+        return {};
+    return widget.property(IsOneOf<QComboBox>(&widget) ? "currentText" : "text").toString();
 }
 
 /// Where the rows of a column are seen. A single figure may be too fine to show its full colour.
@@ -225,11 +217,8 @@ QRect ColumnPlace(const QAbstractItemView& view, int column)
 /// Whether nothing but an outline tells the player where the control is.
 bool HasOutline(const QWidget& widget)
 {
-    return (qobject_cast<const QLineEdit*>(&widget) != nullptr && !widget.property(BareProperty).toBool()) ||
-           qobject_cast<const QComboBox*>(&widget) != nullptr || qobject_cast<const QCheckBox*>(&widget) != nullptr ||
-           qobject_cast<const QRadioButton*>(&widget) != nullptr ||
-           qobject_cast<const QPushButton*>(&widget) != nullptr ||
-           qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr;
+    return (IsOneOf<QLineEdit>(&widget) && !widget.property(BareProperty).toBool()) ||
+           IsOneOf<QComboBox, QCheckBox, QRadioButton, QPushButton, QAbstractSpinBox>(&widget);
 }
 
 } // namespace
@@ -249,7 +238,7 @@ QStringList LayoutFaults(QWidget& window)
                 faults.append("overlap " + NameOf(*widget) + " and " + NameOf(*other));
     }
     // The toolkit's own message box is as large as its message and has nothing that would grow.
-    if (qobject_cast<QMessageBox*>(&window) == nullptr &&
+    if (!IsOneOf<QMessageBox>(&window) &&
         (window.maximumWidth() < QWIDGETSIZE_MAX || window.maximumHeight() < QWIDGETSIZE_MAX))
         faults.append("fixed " + NameOf(window));
     return faults + OrderFaults(seen, window);

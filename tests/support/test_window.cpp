@@ -1,19 +1,11 @@
 #include "support/test_window.h"
 
-#include "draws/draw_tables.h"
-#include "draws/game.h"
 #include "platform/style.h"
 #include "records/database_creation.h"
-#include "records/record_set.h"
 #include "shell/shut_down.h"
-#include "users/user_tables.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
+#include <QListView>
 
 ModalWindows::ModalWindows()
 {
@@ -172,6 +164,7 @@ TestWindow::TestWindow(TestFolder::Content content) : files(content)
 TestWindow::~TestWindow()
 {
     window.reset();
+    QVERIFY2(modals.AllCame(), "A window was not foreseen, or a foreseen one did not come");
 }
 
 void TestWindow::Settle()
@@ -193,6 +186,22 @@ QString TestWindow::TextOf(const QString& name) const
     if (const auto* button = qobject_cast<QAbstractButton*>(Find(name)))
         return button->text();
     return Find(name)->property("text").toString();
+}
+
+QString TestWindow::TextsOf(const QStringList& names) const
+{
+    QStringList texts;
+    for (const QString& name : names)
+        texts.append(TextOf(name));
+    return texts.join(u'|');
+}
+
+QString TestWindow::TextsOf(const QString& array, const QString& elements) const
+{
+    QStringList texts;
+    for (const QChar element : elements)
+        texts.append(TextOf(array + u'_' + element));
+    return texts.join(u' ');
 }
 
 void TestWindow::Click(const QString& name)
@@ -228,6 +237,18 @@ void TestWindow::TypeInTurn(const QString& firstField, const QStringList& texts)
     }
 }
 
+void TestWindow::Choose(const QString& list, int item)
+{
+    auto* combo = Find<QComboBox>(list);
+    QTest::mouseClick(combo, Qt::LeftButton);
+    QVERIFY(combo->view()->isVisible());
+    QTest::keyClick(combo->view(), Qt::Key_Home);
+    for (int step = 0; step < item; ++step)
+        QTest::keyClick(combo->view(), Qt::Key_Down);
+    QTest::keyClick(combo->view(), Qt::Key_Return);
+    Settle();
+}
+
 void TestWindow::OpenPage(int group, int suboption)
 {
     Click(QString("Button%1").arg(group));
@@ -254,6 +275,14 @@ QString TestWindow::FocusedName() const
 QColor TestWindow::ColourOf(const QString& name, QPalette::ColorRole role) const
 {
     return Find(name)->palette().color(role);
+}
+
+QString TestWindow::ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const
+{
+    QStringList colours;
+    for (const QChar element : elements)
+        colours.append(ColourOf(array + u'_' + element, role).name().toUpper());
+    return colours.join(u' ');
 }
 
 void PressIn(const QDialog& dialog, const QString& name)

@@ -1,14 +1,22 @@
 #pragma once
 
-#include "shell/main_window.h"
-#include "shell/open_databases.h"
+#include "support/stored_draws.h"
 
+#include "draws/draw_tables.h"
+#include "shell/main_window.h"
+#include "users/user_records.h"
+#include "users/user_tables.h"
+
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -91,7 +99,8 @@ private:
     QTemporaryDir folder;
 };
 
-/// The real main window on the files of one test, with what is needed to press its keys and read its labels.
+/// The real main window on the files of one test, with what is needed to press its keys and read its labels. The test
+/// fails when it ends before every foreseen modal window has come, or after one that nobody foresaw.
 class TestWindow
 {
 public:
@@ -111,6 +120,10 @@ public:
         return found;
     }
     QString TextOf(const QString& name) const;
+    /// The texts of several controls, with "|" between them.
+    QString TextsOf(const QStringList& names) const;
+    /// The texts of a control array's elements, with blanks between them; "1230" is element 1, 2, 3 and 0.
+    QString TextsOf(const QString& array, const QString& elements) const;
     bool IsShown(const QString& name) const { return Find(name)->isVisible(); }
     void Click(const QString& name);
     /// Clicks a control and answers the message boxes that follow, in order; what they said comes back.
@@ -119,12 +132,16 @@ public:
     void Type(const QString& name, const QString& text);
     /// Types the texts into the fields through which the Enter key leads, and presses it in the last one too.
     void TypeInTurn(const QString& firstField, const QStringList& texts);
+    /// Chooses an item of a list as a player does, also when it is chosen already.
+    void Choose(const QString& list, int item);
     /// Chooses a group of the menu and one of its sub-options.
     void OpenPage(int group, int suboption);
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void PressFocused(Qt::Key key);
     QString FocusedName() const;
     QColor ColourOf(const QString& name, QPalette::ColorRole role) const;
+    /// The same of a control array's elements, as "#RRGGBB" with blanks between them.
+    QString ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const;
 
     TestFolder files;
     ModalWindows modals;

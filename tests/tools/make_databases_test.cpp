@@ -1,6 +1,6 @@
+#include "support/file_bytes.h"
 #include "support/test_window.h"
 
-#include <QFile>
 #include <QProcess>
 
 namespace {
@@ -12,10 +12,8 @@ struct Run
     {
         QStringList arguments;
         const auto write = [&](const QString& name, const QByteArray& content) {
-            QFile file(folder.filePath(name));
-            if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-                qFatal("A list could not be written");
-            arguments.append(file.fileName());
+            arguments.append(folder.filePath(name));
+            WriteBytes(arguments.last(), content);
         };
         write("main.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Ball6,Bonus,Machine,BallSet\n" + mainRows);
         write("thunderball.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Thunderball\n" + thunderballRows);

@@ -1,12 +1,6 @@
-#include "support/stored_draws.h"
 #include "support/test_window.h"
 
 #include "users/draw_day_window.h"
-#include "users/user_records.h"
-#include "users/user_tables.h"
-
-#include <QCheckBox>
-#include <QComboBox>
 
 namespace {
 
@@ -29,29 +23,18 @@ void Open(TestWindow& window, const QList<std::pair<QString, int>>& newUsers = {
     window.OpenPage(3, 2);
 }
 
-void Choose(TestWindow& window, const QString& list, int item)
+QString Numbers(const TestWindow& window)
 {
-    auto* combo = window.Find<QComboBox>(list);
-    combo->setFocus();
-    for (int steps = item - combo->currentIndex(); steps != 0; steps += steps < 0 ? 1 : -1)
-        QTest::keyClick(combo, steps > 0 ? Qt::Key_Down : Qt::Key_Up);
+    return window.TextsOf("F18ent", "123456");
 }
 
-QStringList Numbers(const TestWindow& window)
+void CompareColours(const TestWindow& window, const QString& colours)
 {
-    QStringList numbers;
-    for (int box = 1; box <= 6; ++box)
-        numbers.append(window.TextOf(QString("F18ent_%1").arg(box)));
-    return numbers;
+    QCOMPARE(window.ColoursOf("F18ent", "123456", QPalette::Base), colours);
+    QCOMPARE(window.ColoursOf("F18ball", "123456", QPalette::Window), colours);
 }
 
-void CompareColours(const TestWindow& window, const QStringList& colours)
-{
-    for (int box = 1; box <= 6; ++box) {
-        QCOMPARE(window.ColourOf(QString("F18ent_%1").arg(box), QPalette::Base), QColor(colours[box - 1]));
-        QCOMPARE(window.ColourOf(QString("F18ball_%1").arg(box), QPalette::Window), QColor(colours[box - 1]));
-    }
-}
+const QString NoNumbers(5, u' ');
 
 } // namespace
 
@@ -60,99 +43,63 @@ class AddEntriesPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void WithoutUsersTheUserPageOpens()
-    {
-        TestWindow window;
-        window.modals.WillPress(QMessageBox::Ok);
-        Open(window);
-        const QList<SeenBox> seen = window.modals.TakeSeen();
-        QCOMPARE(seen.size(), 1);
-        QCOMPARE(seen[0].text, QString("You cannot store entries until you have created a user profile."));
-        QCOMPARE(seen[0].title, QString("Tavenor 3"));
-        QCOMPARE(seen[0].icon, QMessageBox::NoIcon);
-        QVERIFY(window.IsShown("F11storenu") && !window.IsShown("Frame_18"));
-    }
-
-    void EntryIsStoredSorted_data()
-    {
-        QTest::addColumn<QStringList>("numbers");
-        QTest::addColumn<QString>("row");
-        QTest::addColumn<QStringList>("colours");
-        QTest::newRow("Main") << QStringList{"40", "3", "17", "25", "9", "33"}
-                              << "1,1,1,3,9,17,25,33,40,-1,0,0,0,0,0,-1"
-                              << QStringList{"#FFFFFF", "#FFFFFF", "#80FFFF", "#FF8080", "#80FF80", "#FFFF80"};
-        QTest::newRow("Thunderball") << QStringList{"30", "2", "15", "7", "21", "2"}
-                                     << "1,1,2,2,7,15,21,30,2,-1,0,0,0,0,0,-1"
-                                     << (QStringList(5, "#000080") << "#FF0000");
-    }
-
     void EntryIsStoredSorted()
     {
-        QFETCH(QStringList, numbers);
-        QFETCH(QString, row);
-        QFETCH(QStringList, colours);
-        const int type = row.section(',', 2, 2).toInt() - 1;
-        TestWindow window;
-        Open(window, {{"Ann", 10}});
-        QCOMPARE(window.TextOf("F18userdata_0"), QString("This user has no entries stored."));
-        QCOMPARE(window.TextOf("F18userdata_1"), QString("Your limit is 10 entries."));
-        QCOMPARE(window.TextOf("F18userdata_2"), QString("To alter limit, goto \"User Details\""));
-        Choose(window, "F18type", type);
-        QCOMPARE(window.TextOf("F18blab_6"), type == 0 ? QString("Ball 6") : QString("Thunderball"));
-        window.TypeInTurn("F18ent_1", numbers);
-        QCOMPARE(window.FocusedName(), QString("F18store"));
-        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{NoDay});
-        QCOMPARE(Numbers(window).join(','), row.section(',', 3, 8));
-        CompareColours(window, colours);
-        window.Find<QCheckBox>("F18day_0")->click();
-        window.Find<QCheckBox>("F18day_6")->click();
-        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Stored});
-        QCOMPARE(TestFolder::StoredRows("entries"), QStringList{row});
-        QCOMPARE(Numbers(window), QStringList(6, QString()));
-        CompareColours(window, QStringList(6, "#404040"));
-        QVERIFY(!window.Find<QCheckBox>("F18day_6")->isChecked());
-        QCOMPARE(window.Find<QComboBox>("F18type")->currentIndex(), type);
-        QCOMPARE(window.TextOf("F18userdata_0"), QString("This user has 1 entries stored."));
+        const QString grey = "#404040 #404040 #404040 #404040 #404040 #404040";
+        for (const auto& [type, typed, sorted, colours] :
+             {std::tuple(0, "40 3 17 25 9 33", "3 9 17 25 33 40", "#FFFFFF #FFFFFF #80FFFF #FF8080 #80FF80 #FFFF80"),
+              {1, "30 2 15 7 21 2", "2 7 15 21 30 2", "#000080 #000080 #000080 #000080 #000080 #FF0000"}}) {
+            TestWindow window;
+            Open(window, {{"Ann", 10}});
+            QCOMPARE(window.TextsOf({"F18userdata_0", "F18userdata_1", "F18userdata_2"}),
+                     QString("This user has no entries stored.|Your limit is 10 entries.|"
+                             "To alter limit, goto \"User Details\""));
+            window.Choose("F18type", type);
+            QCOMPARE(window.TextOf("F18blab_6"), type == 0 ? QString("Ball 6") : QString("Thunderball"));
+            window.TypeInTurn("F18ent_1", QString(typed).split(u' '));
+            QCOMPARE(window.FocusedName(), QString("F18store"));
+            QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{NoDay});
+            QCOMPARE(Numbers(window), QString(sorted));
+            CompareColours(window, colours);
+            window.Click("F18day_0");
+            window.Click("F18day_6");
+            QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Stored});
+            QCOMPARE(TestFolder::StoredRows("entries"),
+                     QStringList{QString("1,1,%1,%2,-1,0,0,0,0,0,-1").arg(type + 1).arg(sorted).replace(u' ', u',')});
+            QCOMPARE(Numbers(window), NoNumbers);
+            CompareColours(window, grey);
+            QVERIFY(!window.Find<QCheckBox>("F18day_6")->isChecked());
+            QCOMPARE(window.Find<QComboBox>("F18type")->currentIndex(), type);
+            QCOMPARE(window.TextOf("F18userdata_0"), QString("This user has 1 entries stored."));
+        }
     }
 
     /// A box that is refused says so when it is left, all others when they are stored.
-    void RefusedNumbersAreTold_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QStringList>("numbers");
-        QTest::addColumn<QStringList>("boxMessage");
-        const auto row = [](const char* name, int type, const QStringList& numbers,
-                            const QStringList& boxMessage = {}) {
-            QTest::newRow(name) << type << numbers << boxMessage;
-        };
-        row("two equal numbers", 0, {"1", "2", "3", "4", "5", "5"});
-        row("an empty box", 0, {"1", "2", "3", "4", "5", ""});
-        row("50", 0, {"1", "2", "3", "4", "5", "50"}, {"Ball values must be between 1 and 49"});
-        row("two equal Thunderball numbers", 1, {"1", "2", "3", "4", "4", "5"});
-        row("half a thunderball", 1, {"1", "2", "3", "4", "5", "0.5"});
-        row("a main number of 35", 1, {"1", "2", "3", "4", "35"}, {"Main ball values must be between 1 and 34"});
-        row("15", 1, {"1", "2", "3", "4", "5", "15"}, {"Thunderball value must be between 1 and 14"});
-    }
-
     void RefusedNumbersAreTold()
     {
-        QFETCH(int, type);
-        QFETCH(QStringList, numbers);
-        QFETCH(QStringList, boxMessage);
-        TestWindow window;
-        Open(window, {{"Ann", 10}});
-        Choose(window, "F18type", type);
-        if (!boxMessage.isEmpty())
-            window.modals.WillPress(QMessageBox::Ok);
-        window.TypeInTurn("F18ent_1", numbers);
-        QCOMPARE(window.modals.TakeTexts(), boxMessage);
-        const QString last = QString("F18ent_%1").arg(numbers.size());
-        QCOMPARE(window.FocusedName(), boxMessage.isEmpty() ? "F18store" : last);
-        QCOMPARE(window.TextOf(last), boxMessage.isEmpty() ? numbers.last() : QString());
-        window.Click("F18selallday");
-        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Refused});
-        QCOMPARE(window.TextOf("F18ent_1"), QString("1"));
-        QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
+        using Row = std::tuple<int, const char*, const char*>;
+        for (const auto& [type, typed, boxMessage] :
+             {Row{0, "1 2 3 4 5 5", ""}, Row{0, "1 2 3 4 5 ", ""},
+              Row{0, "1 2 3 4 5 50", "Ball values must be between 1 and 49"}, Row{1, "1 2 3 4 4 5", ""},
+              Row{1, "1 2 3 4 5 0.5", ""}, Row{1, "1 2 3 4 35", "Main ball values must be between 1 and 34"},
+              Row{1, "1 2 3 4 5 15", "Thunderball value must be between 1 and 14"}}) {
+            const QStringList numbers = QString(typed).split(u' ');
+            const bool passes = *boxMessage == '\0';
+            TestWindow window;
+            Open(window, {{"Ann", 10}});
+            window.Choose("F18type", type);
+            if (!passes)
+                window.modals.WillPress(QMessageBox::Ok);
+            window.TypeInTurn("F18ent_1", numbers);
+            QCOMPARE(window.modals.TakeTexts().join(u'|'), QString(boxMessage));
+            const QString last = QString("F18ent_%1").arg(numbers.size());
+            QCOMPARE(window.FocusedName(), passes ? "F18store" : last);
+            QCOMPARE(window.TextOf(last), passes ? numbers.last() : QString());
+            window.Click("F18selallday");
+            QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Refused});
+            QCOMPARE(window.TextOf("F18ent_1"), QString("1"));
+            QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
+        }
     }
 
     void LimitIsKept()
@@ -165,13 +112,13 @@ private Q_SLOTS:
         window.TypeInTurn("F18ent_1", {"1", "2", "3", "4", "5", "7"});
         window.Click("F18selallday");
         QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{NotStored});
-        QCOMPARE(Numbers(window), (QStringList{"1", "2", "3", "4", "5", "7"}));
-        Choose(window, "F18user", 1);
+        QCOMPARE(Numbers(window), QString("1 2 3 4 5 7"));
+        window.Choose("F18user", 1);
         QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Stored});
         QCOMPARE(TestFolder::StoredRows("entries"),
                  (QStringList{"1,1,1,1,2,3,4,5,6,-1,-1,-1,-1,-1,-1,-1", "2,2,1,1,2,3,4,5,7,-1,-1,-1,-1,-1,-1,-1"}));
         window.modals.WillPress(QMessageBox::Ok);
-        Choose(window, "F18user", 0);
+        window.Choose("F18user", 0);
         QCOMPARE(window.modals.TakeTexts(), QStringList{UpToLimit});
     }
 
@@ -181,7 +128,7 @@ private Q_SLOTS:
     {
         TestWindow window;
         Open(window, {{"Ann", 10}, {"Bob", 10}});
-        Choose(window, "F18user", 1);
+        window.Choose("F18user", 1);
         window.TypeInTurn("F18ent_1", {"1", "2", "3", "4", "5", "6"});
         window.Click("F18selallday");
         for (const bool deletes : {false, true}) {
@@ -194,10 +141,10 @@ private Q_SLOTS:
                                             : "The entry could not be stored, because the user's spend limit"));
         }
         QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
-        QCOMPARE(Numbers(window).join(' '), QString("1 2 3 4 5 6"));
-        Choose(window, "F18user", 0);
+        QCOMPARE(Numbers(window), QString("1 2 3 4 5 6"));
+        window.Choose("F18user", 0);
         window.modals.WillPress(QMessageBox::Ok);
-        Choose(window, "F18user", 1);
+        window.Choose("F18user", 1);
         QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be chosen, because another copy"));
         QCOMPARE(window.Find<QComboBox>("F18user")->currentText(), QString("Ann"));
     }
@@ -206,8 +153,8 @@ private Q_SLOTS:
     {
         TestWindow window;
         Open(window, {{"Ann", 10}});
-        const QStringList typed{"1", "2", "3", "4", "5", "6"};
-        window.TypeInTurn("F18ent_1", typed);
+        const QString typed = "1 2 3 4 5 6";
+        window.TypeInTurn("F18ent_1", typed.split(u' '));
         window.Click("F18selallday");
         window.Find<QComboBox>("F18type")->activated(0);
         QCOMPARE(Numbers(window), typed);
@@ -215,15 +162,15 @@ private Q_SLOTS:
         Open(window);
         QCOMPARE(Numbers(window), typed);
         QVERIFY(!window.Find<QCheckBox>("F18day_3")->isChecked());
-        Choose(window, "F18type", 1);
-        QCOMPARE(Numbers(window), QStringList(6, QString()));
-        window.TypeInTurn("F18ent_1", typed);
+        window.Choose("F18type", 1);
+        QCOMPARE(Numbers(window), NoNumbers);
+        window.TypeInTurn("F18ent_1", typed.split(u' '));
         window.Click("F18reset");
-        QCOMPARE(Numbers(window), QStringList(6, QString()));
+        QCOMPARE(Numbers(window), NoNumbers);
         QCOMPARE(window.FocusedName(), QString("F18ent_1"));
-        window.TypeInTurn("F18ent_1", typed);
+        window.TypeInTurn("F18ent_1", typed.split(u' '));
         Open(window);
-        QCOMPARE(Numbers(window), QStringList(6, QString()));
+        QCOMPARE(Numbers(window), NoNumbers);
         QCOMPARE(window.TextOf("F18blab_6"), QString("Ball 6"));
     }
 

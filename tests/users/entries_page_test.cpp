@@ -1,12 +1,4 @@
 #include "support/grid_driver.h"
-#include "support/stored_draws.h"
-
-#include "users/user_records.h"
-#include "users/user_tables.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QRadioButton>
 
 namespace {
 
@@ -29,8 +21,7 @@ public:
         AddEntry(entries, {6, 1, 2, {3, 15, 22, 30, 34, 14}, days});
         AddEntry(entries, {7, 1, 1, {7, 15, 22, 38, 41, 49}, days});
         transaction.Commit();
-        Click("Button3");
-        Click("Suboption3");
+        OpenPage(3, 3);
     }
 
     GridDriver Grid() { return {*this, "F13grid"}; }
@@ -50,16 +41,6 @@ class EntriesPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void WithoutUsersTheUserPageIsShown()
-    {
-        TestWindow window;
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Window().ChooseMenu(3, 3);
-        QCOMPARE(window.modals.TakeTexts(),
-                 QStringList{"You cannot view or edit entries until you have created a user profile."});
-        QVERIFY(window.IsShown("Frame_11") && !window.IsShown("Frame_13"));
-    }
-
     void ListsTheEntriesOfOneUserAndGame()
     {
         Entries window;
@@ -71,7 +52,6 @@ private Q_SLOTS:
         const QModelIndex entryCell = grid.view->model()->index(1, 1);
         QCOMPARE(entryCell.data(Qt::BackgroundRole).value<QColor>(), QColor("#5B74D7"));
         QCOMPARE(entryCell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));
-
         window.Click("F13typethunder");
         QCOMPARE(grid.Rows(), 1);
         QCOMPARE(grid.Row(0), QString("6,1,3,15,22,30,34,14"));
@@ -115,14 +95,11 @@ private Q_SLOTS:
         grid.Press(Qt::Key_Return);
         QCOMPARE(window.TextOf("F19user") + ' ' + window.TextOf("F19type"), QString("Ann Main"));
         QVERIFY(!window.IsShown("F19thunderlabel"));
-        QString shown;
-        for (int ball = 1; ball <= 6; ++ball)
-            shown += window.TextOf(QString("F19num_%1").arg(ball)) +
-                     window.ColourOf(QString("F19ball_%1").arg(ball), QPalette::Window).name() + ' ';
-        QCOMPARE(shown, QString("3#ffffff 15#80ffff 22#ff8080 38#80ff80 41#ffff80 49#ffff80 "));
-        for (int day = 0; day < 7; ++day)
-            QCOMPARE(window.ColourOf(QString("F19day_%1").arg(day), QPalette::WindowText),
-                     day == 0 || day == 6 ? QColor("#000000") : QColor("#808080"));
+        QCOMPARE(window.TextsOf("F19num", "123456"), QString("3 15 22 38 41 49"));
+        QCOMPARE(window.ColoursOf("F19ball", "123456", QPalette::Window),
+                 QString("#FFFFFF #80FFFF #FF8080 #80FF80 #FFFF80 #FFFF80"));
+        QCOMPARE(window.ColoursOf("F19day", "0123456", QPalette::WindowText),
+                 QString("#000000 #808080 #808080 #808080 #808080 #808080 #000000"));
         window.PressFocused(Qt::Key_Escape);
         QVERIFY(!window.IsShown("Frame_19") && window.IsShown("F13grid"));
 
@@ -131,8 +108,7 @@ private Q_SLOTS:
         QCOMPARE(window.TextOf("F19type"), QString("Thunderball"));
         QVERIFY(window.IsShown("F19thunderlabel"));
         QCOMPARE(window.Find("F19num_6")->accessibleName(), QString("Thunderball 14"));
-        QCOMPARE(window.ColourOf("F19ball_5", QPalette::Window), QColor("#000080"));
-        QCOMPARE(window.ColourOf("F19ball_6", QPalette::Window), QColor("#FF0000"));
+        QCOMPARE(window.ColoursOf("F19ball", "56", QPalette::Window), QString("#000080 #FF0000"));
     }
 
     void EditedMainEntryIsStoredInOrder()
@@ -158,10 +134,7 @@ private Q_SLOTS:
         Entries window;
         window.Edit(true, 0);
         QVERIFY(window.IsShown("F20thunderlabel"));
-        const QStringList numbers{"34", "30", "22", "15", "3", "3"};
-        for (int box = 1; box <= 6; ++box)
-            window.Type(QString("F20num_%1").arg(box), numbers[box - 1]);
-        window.PressFocused(Qt::Key_Return);
+        window.TypeInTurn("F20num_1", {"34", "30", "22", "15", "3", "3"});
         QCOMPARE(window.FocusedName(), QString("F20store"));
         QCOMPARE(window.ColourOf("F20ball_6", QPalette::Window), QColor("#FF0000"));
         QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});

@@ -1,10 +1,4 @@
-#include "support/stored_draws.h"
 #include "support/test_window.h"
-
-#include "users/user_records.h"
-#include "users/user_tables.h"
-
-#include <QListWidget>
 
 namespace {
 
@@ -48,6 +42,25 @@ class UserDetailsPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void PagesThatNeedAUserLeadHere()
+    {
+        const QString missing = " until you have created a user profile.";
+        const QString missingForCheck = " until you have\r\ncreated a user profile and created entries.";
+        for (const auto& [group, suboption, page, message] : {std::tuple(3, 2, "Frame_18", "store entries" + missing),
+                                                              {3, 3, "Frame_13", "view or edit entries" + missing},
+                                                              {3, 4, "Frame_12", "check entries" + missingForCheck},
+                                                              {4, 1, "Frame_26", "store entries" + missing}}) {
+            TestWindow window;
+            window.modals.WillPress(QMessageBox::Ok);
+            window.OpenPage(group, suboption);
+            const SeenBox box = window.modals.TakeSeen().value(0);
+            QCOMPARE(box.text, "You cannot " + message);
+            QCOMPARE(box.title, QString("Tavenor 3"));
+            QCOMPARE(box.icon, QMessageBox::NoIcon);
+            QVERIFY(window.IsShown("Frame_11") && !window.IsShown(page));
+        }
+    }
+
     void OpenPageCountsAndListsTheUsers()
     {
         TestWindow window;
@@ -71,12 +84,10 @@ private Q_SLOTS:
         TestWindow window;
         OpenWith(window, {"Ann", "Bob"}, 3);
         Select(window, 0);
-        QCOMPARE(window.TextOf("F11seluser"), QString("Ann"));
-        QCOMPARE(window.TextOf("F11spend"), QString("10"));
-        QCOMPARE(window.TextOf("F11entrycount"), QString("3"));
+        const QStringList fields{"F11seluser", "F11spend", "F11entrycount"};
+        QCOMPARE(window.TextsOf(fields), QString("Ann|10|3"));
         window.Press("F11list", Qt::Key_Down);
-        QCOMPARE(window.TextOf("F11seluser"), QString("Bob"));
-        QCOMPARE(window.TextOf("F11entrycount"), QString("0"));
+        QCOMPARE(window.TextsOf(fields), QString("Bob|10|0"));
         window.Click("F11adduser");
         CompareMode(window, Add);
         QCOMPARE(window.FocusedName(), QString("F11seluser"));
@@ -111,49 +122,37 @@ private Q_SLOTS:
             window.Click("F11storenu");
         }
         QCOMPARE(TestFolder::StoredRows("users"), (QStringList{"1,Ann,10", "2,ann,0", "3,,0", "4,Cid,0"}));
-        QVERIFY(window.modals.AllCame());
-    }
-
-    void ChangesAreCheckedAndStored_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("limit");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("stored");
-        const auto row = [](const char* given, const QString& name, const QString& limit, const QString& message,
-                            const QString& stored) { QTest::newRow(given) << name << limit << message << stored; };
-        const QString tooLow = "This user already has more entries than you have specified as the maximum.\r\n"
-                               "Change the maximum limit or delete some entries, then retry.";
-        row("a limit equal to the entry count", "Ann", "3", {}, "1,Ann,3");
-        row("a limit one below it", "Ann", "2", tooLow, "1,Ann,10");
-        row("no limit", "Ann", {}, tooLow, "1,Ann,10");
-        row("a limit with a fraction", "Ann", "3.5", {}, "1,Ann,3.5");
-        row("a name in another case", "ann", "10", {}, "1,ann,10");
-        row("an empty name", {}, "10", "Invalid user name, please retry.", "1,Ann,10");
-        row("another user's name", "Bob", "10", "This user name has already been used, please retry", "1,Ann,10");
     }
 
     void ChangesAreCheckedAndStored()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, limit);
-        QFETCH(QString, message);
-        QFETCH(QString, stored);
-        TestWindow window;
-        OpenWith(window, {"Ann", "Bob"}, 3);
-        Select(window, 0);
-        window.Click("F11edituser");
-        CompareMode(window, Edit);
-        QCOMPARE(window.FocusedName(), QString("F11seluser"));
-        window.Type("F11spend", {});
-        window.TypeInTurn("F11seluser", {name, limit});
-        QCOMPARE(window.FocusedName(), QString("F11storech"));
-        if (message.isEmpty())
+        const QString tooLow = "This user already has more entries than you have specified as the maximum.\r\n"
+                               "Change the maximum limit or delete some entries, then retry.";
+        const QString taken = "This user name has already been used, please retry";
+        // The limit may be as low as the number of entries, which is 3.
+        for (const auto& [name, limit, stored, message] : {std::tuple("Ann", "3", "1,Ann,3", QString()),
+                                                           {"Ann", "2", "1,Ann,10", tooLow},
+                                                           {"Ann", "", "1,Ann,10", tooLow},
+                                                           {"Ann", "3.5", "1,Ann,3.5", {}},
+                                                           {"ann", "10", "1,ann,10", {}},
+                                                           {"", "10", "1,Ann,10", "Invalid user name, please retry."},
+                                                           {"Bob", "10", "1,Ann,10", taken}}) {
+            TestWindow window;
+            OpenWith(window, {"Ann", "Bob"}, 3);
+            Select(window, 0);
+            window.Click("F11edituser");
+            CompareMode(window, Edit);
+            QCOMPARE(window.FocusedName(), QString("F11seluser"));
+            window.Type("F11spend", {});
+            window.TypeInTurn("F11seluser", {name, limit});
+            QCOMPARE(window.FocusedName(), QString("F11storech"));
+            if (!message.isEmpty())
+                window.modals.WillPress(QMessageBox::Ok);
             window.Click("F11storech");
-        else
-            QCOMPARE(window.Click("F11storech", {QMessageBox::Ok}), QStringList{message});
-        CompareMode(window, message.isEmpty() ? View : Edit);
-        QCOMPARE(TestFolder::StoredRows("users"), (QStringList{stored, "2,Bob,10"}));
+            QCOMPARE(window.modals.TakeTexts().join(u'|'), message);
+            CompareMode(window, message.isEmpty() ? View : Edit);
+            QCOMPARE(TestFolder::StoredRows("users"), (QStringList{stored, "2,Bob,10"}));
+        }
     }
 
     /// Passing the list with the Tab key chooses nobody.
@@ -197,7 +196,7 @@ private Q_SLOTS:
     void UserGoneInAnotherCopyIsNotMistakenForAnother()
     {
         TestWindow window;
-        OpenWith(window, {"Ann", "Bob"}, 3);
+        OpenWith(window, {"Ann", "<b>Bob</b>"}, 3);
         Select(window, 0);
         InAnotherCopy(UserDataPath, {}, UsersTable(), [](RecordSet& table) {
             table.MoveLast();
@@ -206,7 +205,9 @@ private Q_SLOTS:
         window.modals.WillPress(QMessageBox::Ok);
         Select(window, 1);
         QTRY_VERIFY(window.modals.AllCame());
-        QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be shown, because another copy"));
+        const SeenBox box = window.modals.TakeSeen().value(0);
+        QVERIFY(box.text.startsWith("The user could not be shown, because another copy"));
+        QVERIFY(box.text.contains("<b>Bob</b>") && box.format == Qt::PlainText);
         QCOMPARE(window.Find<QListWidget>("F11list")->count(), 1);
         QCOMPARE(window.TextOf("F11seluser"), QString());
         QCOMPARE(window.Click("F11deleteuser", {QMessageBox::Ok}), QStringList{"Select a user first."});

@@ -1,15 +1,14 @@
+#include "support/file_bytes.h"
 #include "support/full_disk.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
 #include "records/file_lock.h"
 #include "shell/start_up.h"
-#include "users/user_records.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QLineEdit>
 
 namespace {
 
@@ -29,18 +28,6 @@ struct Kind
 const Kind Kinds[] = {
     {"draw", "A copy of the draw record database has been stored.", "The draw record database has been replaced."},
     {"user", "A copy of the user entry database has been stored.", "The user entry database has been replaced."}};
-
-QByteArray Bytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
-}
-
-void Write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
 
 /// The program with a user, entries and draws in it, some of them deleted, and a folder for the player's own files.
 class Utilities
@@ -80,7 +67,7 @@ public:
         });
         for (const auto answer : answers)
             window.modals.WillPress(answer);
-        Finish();
+        window.Click("advanced");
     }
 
     /// The same with something else done in the dialog.
@@ -94,12 +81,6 @@ public:
             });
         });
         window.modals.WillDo([inDialog](QDialog& dialog) { inDialog(dynamic_cast<QFileDialog&>(dialog)); });
-    }
-
-    void Finish()
-    {
-        window.Click("advanced");
-        QVERIFY(window.modals.AllCame());
     }
 
     /// Ends the program and starts it again in the same folder.
@@ -127,27 +108,26 @@ private Q_SLOTS:
         QStringList seen;
         utilities.window.modals.WillDo([&](QDialog& advanced) {
             seen = {advanced.objectName(), advanced.windowTitle()};
-            for (const QString label : {"Label_0", "Label_1", "Label_2"})
-                seen.append(advanced.findChild<QLabel*>(label)->text());
-            for (const QString button : {"exportdraw", "importdraw", "exportuser", "importuser", "back"})
-                seen.append(advanced.findChild<QPushButton*>(button)->text());
+            for (const char* name :
+                 {"Label_0", "Label_1", "Label_2", "exportdraw", "importdraw", "exportuser", "importuser", "back"})
+                seen.append(advanced.findChild<QWidget*>(name)->property("text").toString());
             PressIn(advanced, "back");
         });
-        utilities.Finish();
+        utilities.window.Click("advanced");
         QCOMPARE(seen.join('|'), QString("frmadvanced|Tavenor 3 --- Advanced Options|Database Utilities|Draw Records|"
                                          "User Entries|Backup Draw Database|Import Updated Draw Database|"
                                          "Backup User Entry Database|Import User Entry Database|BACK"));
-        const QByteArray draws = Bytes(utilities.Live("draw"));
+        const QByteArray draws = BytesOf(utilities.Live("draw"));
         for (const QString button : {"exportdraw", "importdraw", "exportuser", "importuser"}) {
             utilities.Choose(button, [&](QFileDialog& dialog) {
                 seen = QStringList{dialog.objectName(), dialog.findChild<QLineEdit*>("fileNameEdit")->text()} +
                        dialog.nameFilters();
                 dialog.reject();
             });
-            utilities.Finish();
+            utilities.window.Click("advanced");
             QCOMPARE(seen, (QStringList{"CommonDialog1", button.mid(6) + "data.tv3", "Tavenor 3 Files (*.tv3)"}));
         }
-        QCOMPARE(Bytes(utilities.Live("draw")), draws);
+        QCOMPARE(BytesOf(utilities.Live("draw")), draws);
     }
 
     void BackupEqualsTheCompactedLiveFile()
@@ -158,7 +138,7 @@ private Q_SLOTS:
             const qint64 before = QFileInfo(live).size();
             utilities.Do("export" + kind.name, utilities.Own("copy"), {QMessageBox::Ok});
             QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{kind.stored});
-            QCOMPARE(Bytes(utilities.Own("copy.tv3")), Bytes(live));
+            QCOMPARE(BytesOf(utilities.Own("copy.tv3")), BytesOf(live));
             QVERIFY(QFileInfo(live).size() < before);
             QCOMPARE(utilities.window.files.Files(), BothFiles);
             QCOMPARE(utilities.rows, Utilities::Rows());
@@ -172,30 +152,29 @@ private Q_SLOTS:
         const QString copy = utilities.Own("copy.tv3");
         // Beside the new file it would be taken for a journal of that one.
         const QString journal = utilities.Own("copy.tv3-journal");
-        Write(copy, "old");
-        Write(journal, "old");
+        WriteBytes(copy, "old");
+        WriteBytes(journal, "old");
         // A backup that fails half-way keeps the older one.
         QVERIFY(QDir(copy + ".new").mkpath("."));
         utilities.Do("exportuser", copy, {QMessageBox::Yes, QMessageBox::Ok});
         QVERIFY(utilities.window.modals.TakeTexts().last().startsWith(UserNotStored + "\r\n"));
-        QCOMPARE(Bytes(copy), QByteArray("old"));
+        QCOMPARE(BytesOf(copy), QByteArray("old"));
         QVERIFY(QDir().rmdir(copy + ".new"));
         utilities.Do("exportuser", copy, {QMessageBox::No});
-        QVERIFY(Bytes(copy) == "old" && QFile::exists(journal));
+        QVERIFY(BytesOf(copy) == "old" && QFile::exists(journal));
         utilities.Do("exportuser", copy, {QMessageBox::Yes, QMessageBox::Ok});
-        QVERIFY(Bytes(copy) != "old" && !QFile::exists(journal));
+        QVERIFY(BytesOf(copy) != "old" && !QFile::exists(journal));
     }
 
     void LiveFilesAreRefused()
     {
         Utilities utilities;
-        const QList<QByteArray> bytes{Bytes(utilities.Live("draw")), Bytes(utilities.Live("user"))};
+        const QList<QByteArray> bytes{BytesOf(utilities.Live("draw")), BytesOf(utilities.Live("user"))};
         const auto refused = [&](const QString& button, const QString& path, const QString& message) {
-            const bool asked = button.startsWith("export") && QFile::exists(path);
-            if (asked)
-                utilities.Do(button, path, {QMessageBox::Yes, QMessageBox::Ok});
-            else
-                utilities.Do(button, path, {QMessageBox::Ok});
+            QList<QMessageBox::StandardButton> answers{QMessageBox::Ok};
+            if (button.startsWith("export") && QFile::exists(path))
+                answers.prepend(QMessageBox::Yes);
+            utilities.Do(button, path, answers);
             QVERIFY(utilities.window.modals.TakeTexts().last().startsWith(message));
         };
         for (const QString& live : {utilities.Live("draw"), utilities.Live("user")}) {
@@ -209,17 +188,17 @@ private Q_SLOTS:
         for (const QString own : {"drawdata.tp0", "userdata.tp2", "userdata.tv3.new", "userdata.tv3-journal"})
             refused("exportdraw", utilities.window.files.Path(own), DrawNotStored + "\r\n");
         QFile::copy(TAVENOR_STARTER "/userdata.tv3", utilities.Own("unfinished.tv3"));
-        Write(utilities.Own("unfinished.tv3-journal"), "rows");
+        WriteBytes(utilities.Own("unfinished.tv3-journal"), "rows");
         refused("importuser", utilities.Own("unfinished.tv3"),
                 UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because the chosen file");
-        QCOMPARE((QList<QByteArray>{Bytes(utilities.Live("draw")), Bytes(utilities.Live("user"))}), bytes);
+        QCOMPARE((QList<QByteArray>{BytesOf(utilities.Live("draw")), BytesOf(utilities.Live("user"))}), bytes);
     }
 
     void LeftoversAreClearedAwayWhereTheyCan()
     {
         Utilities utilities;
         QVERIFY(QDir().mkdir(utilities.window.files.Path("drawdata.tp1")));
-        Write(utilities.window.files.Path("drawdata.tp2"), "left");
+        WriteBytes(utilities.window.files.Path("drawdata.tp2"), "left");
         Utilities::StartAgain();
         QVERIFY(!utilities.window.ended);
         QCOMPARE(utilities.window.files.Files(), BothFiles);
@@ -234,11 +213,11 @@ private Q_SLOTS:
             const QString chosen = utilities.Own("chosen.tv3");
             QFile::copy(TAVENOR_STARTER "/" + kind.name + "data.tv3", chosen);
             QFile::setPermissions(chosen, QFile::ReadOwner);
-            const QByteArray untouched = Bytes(other);
+            const QByteArray untouched = BytesOf(other);
             utilities.Do("import" + kind.name, chosen, {QMessageBox::Ok});
             QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{kind.replaced});
-            QCOMPARE(Bytes(utilities.Live(kind.name)), Bytes(chosen));
-            QCOMPARE(Bytes(other), untouched);
+            QCOMPARE(BytesOf(utilities.Live(kind.name)), BytesOf(chosen));
+            QCOMPARE(BytesOf(other), untouched);
             QVERIFY(QFile::permissions(utilities.Live(kind.name)) & QFile::WriteOwner);
             QCOMPARE(utilities.window.files.Files(), BothFiles);
             AddUser(users, "Bob", 1);
@@ -250,15 +229,15 @@ private Q_SLOTS:
 
     void BadFileCostsOneStartAndNoData()
     {
-        const QByteArray draws = Bytes(TAVENOR_STARTER "/drawdata.tv3");
-        const QByteArray people = Bytes(TAVENOR_STARTER "/userdata.tv3");
+        const QByteArray draws = BytesOf(TAVENOR_STARTER "/drawdata.tv3");
+        const QByteArray people = BytesOf(TAVENOR_STARTER "/userdata.tv3");
         QByteArray damaged = draws;
         damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
         const auto costs = [](const char* name, const QString& kind, const QByteArray& bytes, const char* sql = "",
                               const std::string& connect = {}) {
             Utilities utilities;
             const QString bad = utilities.Own("bad.tv3");
-            Write(bad, bytes);
+            WriteBytes(bad, bytes);
             RunSql(bad.toStdString(), connect, sql);
             utilities.Do("import" + kind, bad, {QMessageBox::Ok});
             const QList<SeenBox> seen = utilities.window.modals.TakeSeen();
@@ -290,7 +269,7 @@ private Q_SLOTS:
             Utilities utilities;
             const QString file = utilities.Own("file.tv3");
             if (importedBytes > 0)
-                Write(file, QByteArray(importedBytes, 'g'));
+                WriteBytes(file, QByteArray(importedBytes, 'g'));
             {
                 const FullDisk full(room);
                 utilities.Do(button, file, {QMessageBox::Ok});
@@ -315,7 +294,7 @@ private Q_SLOTS:
         const QString live = utilities.Live("user");
         FileLock otherCopy;
         otherCopy.Share(live.toStdString(), "The other copy could not open the file");
-        const QByteArray bytes = Bytes(live);
+        const QByteArray bytes = BytesOf(live);
         const auto told = [&](const QString& button) {
             utilities.Do(button, utilities.Own("copy.tv3"), {QMessageBox::Ok});
             return utilities.window.modals.TakeTexts().value(0);
@@ -324,7 +303,7 @@ private Q_SLOTS:
         QVERIFY(told("importuser")
                     .startsWith(UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because another "
                                                  "copy of the program"));
-        QCOMPARE(Bytes(live), bytes);
+        QCOMPARE(BytesOf(live), bytes);
         QCOMPARE(utilities.window.files.Files(), BothFiles);
         otherCopy.Release();
         QCOMPARE(told("importuser"), Kinds[1].replaced);

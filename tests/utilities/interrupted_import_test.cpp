@@ -1,10 +1,10 @@
 #include "support/failure_of.h"
+#include "support/file_bytes.h"
 #include "support/forked.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
 #include "shell/start_up.h"
-#include "users/user_records.h"
 #include "utilities/database_file.h"
 #include "utilities/import.h"
 
@@ -43,8 +43,7 @@ private Q_SLOTS:
         QVERIFY(LeaveUnfinishedChange());
         QVERIFY(QFile::exists(folder.Path("userdata.tv3-journal")));
         const QTemporaryDir own;
-        QFile garbage(own.filePath("garbage.tv3"));
-        QVERIFY(garbage.open(QIODevice::WriteOnly) && garbage.write("garbage") > 0 && garbage.flush());
+        WriteBytes(own.filePath("garbage.tv3"), "garbage");
         {
             const Import import(UserDatabaseFile(), own.filePath("garbage.tv3").toStdString());
             QVERIFY(!QFile::exists(folder.Path("userdata.tv3-journal")));

@@ -43,14 +43,6 @@ void AddLink(const QStringList& fields)
     links.Update();
 }
 
-QStringList Shown(const TestWindow& window)
-{
-    QStringList texts;
-    for (int index = 0; index < 5; ++index)
-        texts.append(window.TextOf(QString("F25link_%1").arg(index)));
-    return texts;
-}
-
 } // namespace
 
 class LinksPageTest : public QObject
@@ -78,8 +70,8 @@ private Q_SLOTS:
             window.Click("F0links");
             for (const QString& step : row.steps)
                 window.Click(step);
-            QCOMPARE(Shown(window), row.records == 0 ? QStringList(5, QString())
-                                                     : (QStringList{row.shown, "web", "mail", "one", "two"}));
+            QCOMPARE(window.TextsOf("F25link", "01234"),
+                     row.records == 0 ? QString(4, u' ') : row.shown + " web mail one two");
             QVERIFY(window.IsShown("Frame_25") && !window.Find("Frame_0")->isEnabled() && window.modals.AllCame());
             window.Press("F25next", Qt::Key_Escape);
             QVERIFY(!window.IsShown("Frame_25") && window.Find("Frame_0")->isEnabled());
@@ -144,7 +136,8 @@ private Q_SLOTS:
             window.Click("F0links");
             window.Click("F25next");
             QVERIFY(clock.elapsed() < 3000);
-            QVERIFY(Shown(window) == QStringList(5, text));
+            for (const char* name : {"F25link_0", "F25link_1", "F25link_2", "F25link_3", "F25link_4"})
+                QVERIFY(window.TextOf(name) == text);
             QCOMPARE(window.Window().size(), size);
             QVERIFY(window.Find("F25back")->geometry().bottom() < window.Find("Frame_25")->height());
             QVERIFY(window.Find("Frame_25")->minimumSizeHint().width() < 800);
