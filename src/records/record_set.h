@@ -92,10 +92,6 @@ private:
     void Step(int direction);
     void TakeBackChanges();
     void KeepChanges() { changed = false; }
-    StoredRows ReadRows() const;
-    void ProveOrder() const;
-    void ProveLayout() const;
-    std::string ReadStatement() const;
     void StoreNewRow();
     void StoreCurrentRow();
     std::string Doing(const char* failed) const;
