@@ -208,9 +208,7 @@ void RecordSet::StoreNewRow()
     insertRow->Step();
     insertRow->Reset();
     const bool first = Count() == 0;
-    rows.BeginRow(sqlite3_last_insert_rowid(database->engine));
-    for (const Value& value : edited)
-        rows.AddField(value);
+    rows.Add(sqlite3_last_insert_rowid(database->engine), edited);
     if (first)
         current = rows.Places() - 1;
 }

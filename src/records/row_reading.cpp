@@ -98,24 +98,26 @@ StoredRows ReadRows(sqlite3* engine, const TableLayout& layout, const std::strin
     if (layout.IsList())
         ProveOrder(engine, layout, doing);
     StoredRows read(columns);
-    std::vector<bool> isText;
-    for (const ColumnLayout& column : layout.columns)
-        isText.push_back(column.type == "TEXT");
-    std::string number;
+    std::vector<Value> fields(layout.columns.size());
+    std::vector<std::string> numbers(layout.columns.size());
     RowIdOrder order;
     Statement query(engine, ReadStatement(layout), doing);
     try {
         while (query.Step()) {
+            const std::int64_t rowId = query.WholeNumber(0);
             if (!layout.IsList())
-                order.Prove(query.WholeNumber(0), doing);
-            read.BeginRow(query.WholeNumber(0));
+                order.Prove(rowId, doing);
             for (int column = 0; column < columns; ++column) {
-                const Value field = query.Column(column + 1);
-                read.AddField(isText[static_cast<std::size_t>(column)] ? AsText(field, number) : field);
+                const auto place = static_cast<std::size_t>(column);
+                fields[place] = query.Column(column + 1);
+                if (layout.columns[place].type == "TEXT")
+                    fields[place] = AsText(fields[place], numbers[place]);
             }
+            read.Add(rowId, fields);
         }
     } catch (const std::length_error& failure) {
         throw Failure(doing, "its texts are too long", failure.what());
     }
+    read.Shrink();
     return read;
 }
