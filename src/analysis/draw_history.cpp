@@ -25,9 +25,9 @@ void ReadOn(RecordSet& draws, DrawnBalls& balls, int most)
     auto number = balls.numbers.begin();
     for (int draw = 0; draw < most && !draws.Eof(); ++draw, draws.MoveNext()) {
         for (int slot = balls.slots.first; slot < balls.slots.end; ++slot, ++number) {
-            const std::int64_t* whole = draws.WholeNumber(DrawField::FirstBall + slot);
-            if (whole != nullptr && *whole >= 1 && *whole <= HighestBall) {
-                *number = static_cast<std::uint16_t>(*whole);
+            std::int64_t whole = 0;
+            if (draws.WholeNumber(DrawField::FirstBall + slot, whole) && whole >= 1 && whole <= HighestBall) {
+                *number = static_cast<std::uint16_t>(whole);
                 continue;
             }
             const double ball = draws.Number(DrawField::FirstBall + slot);

@@ -4,50 +4,9 @@
 #include "platform/numbers.h"
 #include "records/database.h"
 #include "records/engine.h"
+#include "records/row_reading.h"
 
 #include <algorithm>
-#include <optional>
-#include <stdexcept>
-
-namespace {
-
-std::string ColumnNames(const TableLayout& layout)
-{
-    std::string names;
-    for (const ColumnLayout& column : layout.columns)
-        names += (names.empty() ? "" : ", ") + Quoted(column.name);
-    return names;
-}
-
-/// A field of a column of texts. A number, which a file of unknown origin may hold there, is written out; `room` keeps
-/// its digits.
-Value AsText(const Value& field, std::string& room)
-{
-    if (const auto* whole = std::get_if<std::int64_t>(&field))
-        room = std::to_string(*whole);
-    else if (const auto* real = std::get_if<double>(&field))
-        room = PlainNumber(*real).toStdString();
-    else
-        return field;
-    return std::string_view(room);
-}
-
-/// Proves that the rows of a walk come in the ascending order of their numbers.
-class RowIdOrder
-{
-public:
-    void Prove(std::int64_t rowId, const std::string& doing)
-    {
-        if (last && rowId <= *last)
-            throw Failure(doing, "the file is damaged or is not one of this program's files", "rows out of order");
-        last = rowId;
-    }
-
-private:
-    std::optional<std::int64_t> last;
-};
-
-} // namespace
 
 RecordSet::RecordSet() = default;
 
@@ -62,7 +21,7 @@ void RecordSet::Open(Database& owner, const TableLayout& tableLayout)
     database = &owner;
     layout = tableLayout;
     try {
-        ProveLayout();
+        ProveLayout(owner.engine, layout, Doing("opened"));
     } catch (...) {
         database = nullptr;
         throw;
@@ -90,81 +49,6 @@ std::string RecordSet::Doing(const char* failed) const
     return "The table " + layout.name + " could not be " + failed;
 }
 
-void RecordSet::ProveLayout() const
-{
-    const std::string doing = Doing("opened");
-    const char* const wanted = layout.IsList() ? "view" : "table";
-    // A virtual table says that it is a table, but has no page of its own.
-    Statement kind(database->engine,
-                   "SELECT 1 FROM sqlite_master WHERE name = ?1 AND type = ?2 AND (rootpage > 0) = (type = 'table')",
-                   doing);
-    kind.Bind(1, Value(std::string_view(layout.name)));
-    kind.Bind(2, Value(std::string_view(wanted)));
-    if (!kind.Step())
-        throw Failure(doing, "it is missing in the file", std::string("no such ") + wanted);
-    Statement columns(database->engine, "PRAGMA table_xinfo(" + Quoted(layout.name) + ")", doing);
-    constexpr int nameColumn = 1;
-    constexpr int hiddenColumn = 6;
-    std::size_t found = 0;
-    for (; columns.Step(); ++found) {
-        if (found >= layout.columns.size() || columns.Text(nameColumn) != layout.columns[found].name ||
-            columns.WholeNumber(hiddenColumn) != 0)
-            throw Failure(doing, "its columns are not as this program made them",
-                          std::string(columns.Text(nameColumn)));
-    }
-    if (found != layout.columns.size())
-        throw Failure(doing, "its columns are not as this program made them", "columns missing");
-    // The file's own word for what is a table is not enough: the engine must be ready to read it as one.
-    const Statement readable(database->engine, ReadStatement(), doing);
-}
-
-std::string RecordSet::ReadStatement() const
-{
-    // A stored query is what its table holds, newest first. Its own text, which in a file of unknown origin may say
-    // anything, is never run: the table is read in that order.
-    return "SELECT rowid, " + ColumnNames(layout) + " FROM " +
-           Quoted(layout.IsList() ? layout.listedTable : layout.name) + " ORDER BY " +
-           (layout.IsList() ? layout.listOrder : "rowid");
-}
-
-void RecordSet::ProveOrder() const
-{
-    // Where a damaged page leads to others twice, a small file seems to have rows without end.
-    Statement query(database->engine, "SELECT rowid FROM " + Quoted(layout.listedTable) + " ORDER BY rowid",
-                    Doing("read"));
-    RowIdOrder order;
-    while (query.Step())
-        order.Prove(query.WholeNumber(0), Doing("read"));
-}
-
-StoredRows RecordSet::ReadRows() const
-{
-    const int columns = layout.ColumnCount();
-    if (layout.IsList())
-        ProveOrder();
-    StoredRows read(columns);
-    std::vector<bool> isText;
-    for (const ColumnLayout& column : layout.columns)
-        isText.push_back(column.type == "TEXT");
-    std::string number;
-    RowIdOrder order;
-    Statement query(database->engine, ReadStatement(), Doing("read"));
-    try {
-        while (query.Step()) {
-            if (!layout.IsList())
-                order.Prove(query.WholeNumber(0), Doing("read"));
-            read.BeginRow(query.WholeNumber(0));
-            for (int column = 0; column < columns; ++column) {
-                const Value field = query.Column(column + 1);
-                read.AddField(isText[static_cast<std::size_t>(column)] ? AsText(field, number) : field);
-            }
-        }
-    } catch (const std::length_error& failure) {
-        throw Failure(Doing("read"), "its texts are too long", failure.what());
-    }
-    return read;
-}
-
 void RecordSet::Load()
 {
     if (loaded)
@@ -173,7 +57,7 @@ void RecordSet::Load()
         throw Failure(Doing("read"), "the file is not open", "record set closed");
     // The version is taken first: a change that comes between the two is then seen once more, not missed.
     loadedVersion = database->ChangesByOthers();
-    rows = ReadRows();
+    rows = ReadRows(database->engine, layout, Doing("read"));
     loaded = true;
     current = rows.Places() == 0 ? -1 : 0;
 }
@@ -324,9 +208,7 @@ void RecordSet::StoreNewRow()
     insertRow->Step();
     insertRow->Reset();
     const bool first = Count() == 0;
-    rows.BeginRow(sqlite3_last_insert_rowid(database->engine));
-    for (const Value& value : edited)
-        rows.AddField(value);
+    rows.Add(sqlite3_last_insert_rowid(database->engine), edited);
     if (first)
         current = rows.Places() - 1;
 }

@@ -48,10 +48,10 @@ public:
     Value Field(int position) const;
     /// The same field as a number: a text by its leading number, nothing as 0.
     double Number(int position) const;
-    /// The same field where it holds a whole number, otherwise nullptr; it lives until the rows change.
-    const std::int64_t* WholeNumber(int position) const
+    /// Puts the same field into `number` where it holds a whole number; otherwise false.
+    bool WholeNumber(int position, std::int64_t& number) const
     {
-        return OnRecord() ? rows.WholeNumber(current, position) : nullptr;
+        return OnRecord() && rows.WholeNumber(current, position, number);
     }
     /// The same field as a text; in a column of texts a number of a foreign file has become one. Empty otherwise.
     std::string_view Text(int position) const;
@@ -92,10 +92,6 @@ private:
     void Step(int direction);
     void TakeBackChanges();
     void KeepChanges() { changed = false; }
-    StoredRows ReadRows() const;
-    void ProveOrder() const;
-    void ProveLayout() const;
-    std::string ReadStatement() const;
     void StoreNewRow();
     void StoreCurrentRow();
     std::string Doing(const char* failed) const;
@@ -120,6 +116,6 @@ private:
 // In the header, for nearly every field that a walk reads is a whole number.
 inline double RecordSet::Number(int position) const
 {
-    const std::int64_t* whole = WholeNumber(position);
-    return whole != nullptr ? static_cast<double>(*whole) : OtherNumber(position);
+    std::int64_t whole = 0;
+    return WholeNumber(position, whole) ? static_cast<double>(whole) : OtherNumber(position);
 }

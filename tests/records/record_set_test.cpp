@@ -112,6 +112,63 @@ private Q_SLOTS:
         QCOMPARE(Walk(f.list), QString("7"));
     }
 
+    void FieldsComeBackAsTheyWereStored()
+    {
+        // Each kind of field follows ones that need less room. The rows in memory and those read anew must agree.
+        std::vector<std::string> words{"seven", "", "seven"};
+        for (int number = 0; number < 20000; ++number)
+            words.push_back("word " + std::to_string(number));
+        std::vector<Value> values{std::int64_t{0}, std::int64_t{-1}, std::int64_t{63}, std::int64_t{-64}};
+        const auto addWords = [&](std::size_t first, std::size_t last) {
+            values.insert(values.end(), words.begin() + static_cast<int>(first),
+                          words.begin() + static_cast<int>(last));
+        };
+        addWords(0, 3);
+        for (const std::int64_t number : {std::int64_t{64}, std::int64_t{-65}, std::int64_t{16383}})
+            values.emplace_back(number);
+        addWords(3, 100);
+        values.insert(values.end(), {Value(), 2.5, Value(), std::string_view(), -0.5});
+        addWords(100, words.size());
+        for (const std::int64_t number : {std::int64_t{1} << 30, -(std::int64_t{1} << 30), INT64_MIN, INT64_MAX})
+            values.emplace_back(number);
+        static const TableLayout untyped{"untyped", {{"Field", ""}}, {}};
+        const QTemporaryDir folder;
+        const std::string path = folder.filePath("untyped.db").toStdString();
+        CreateDatabase(path, {}, {untyped}, {});
+        Database database;
+        database.Open(path);
+        RecordSet set;
+        set.Open(database, untyped);
+        Transaction transaction(database, "The fields could not be stored");
+        for (const Value& value : values) {
+            set.AddNew();
+            set.SetField(0, value);
+            set.Update();
+        }
+        transaction.Commit();
+        const auto prove = [&] {
+            std::int64_t whole = 0;
+            set.MoveFirst();
+            for (std::size_t row = 0; row < values.size(); ++row, set.MoveNext()) {
+                QVERIFY2(set.Field(0) == values[row], qPrintable(QString::number(row)));
+                QCOMPARE(set.WholeNumber(0, whole), std::holds_alternative<std::int64_t>(values[row]));
+            }
+            QVERIFY(set.Eof());
+        };
+        prove();
+        set.Requery();
+        prove();
+        // A row that needs more room, and rows that move up into the places of deleted ones.
+        After(set, "F D");
+        values.erase(values.begin());
+        set.MoveFirst();
+        set.Edit();
+        set.SetField(0, 1e300);
+        set.Update();
+        values.front() = 1e300;
+        prove();
+    }
+
     void EditKeepsTheFieldsThatAreNotSet()
     {
         Fixture f;
