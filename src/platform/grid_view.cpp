@@ -81,7 +81,6 @@ void GridView::LayOutColumns()
     if (model() == nullptr || available <= 0)
         return;
     const auto columns = std::min(static_cast<size_t>(model()->columnCount()), shares.size());
-    TakeFont(1);
     std::vector<double> texts(columns);
     double room = available;
     double textsTogether = 0;
@@ -95,8 +94,7 @@ void GridView::LayOutColumns()
         sharesSuffice = sharesSuffice && texts[column] + CellMargins <= available * shares[column];
     }
     const double factor = std::min(1.0, std::max(room, 1.0) / textsTogether);
-    if (!sharesSuffice)
-        TakeFont(factor);
+    TakeFont(sharesSuffice ? 1 : factor);
     int left = available;
     for (size_t column = 0; column < columns; ++column) {
         const double width =
@@ -126,14 +124,29 @@ QSize GridView::minimumSizeHint() const
 double GridView::TextWidth(int column) const
 {
     // The widest texts of a column are known from its first rows and, where it counts the rows, from its last.
-    constexpr int looked = 40;
+    constexpr int looked = 4;
+    if (const QFont strong = FontFor(TextRole::Strong); strong != measuredFont) {
+        measuredWidths.clear();
+        measuredFont = strong;
+    }
     const int rows = model()->rowCount();
-    const QFontMetricsF metrics(FontFor(TextRole::Strong));
     const QString heading = model()->headerData(column, Qt::Horizontal).toString();
     double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
     for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
-        widest = std::max(widest, metrics.horizontalAdvance(model()->index(row, column).data().toString()));
+        widest = std::max(widest, MeasuredWidth(model()->index(row, column).data().toString()));
     return widest;
+}
+
+double GridView::MeasuredWidth(const QString& text) const
+{
+    // The same few texts come again and again, and measuring one takes longer than all else that is done for its row.
+    constexpr int most = 1000;
+    if (measuredWidths.size() > most)
+        measuredWidths.clear();
+    const auto known = measuredWidths.constFind(text);
+    if (known != measuredWidths.constEnd())
+        return *known;
+    return *measuredWidths.insert(text, QFontMetricsF(measuredFont).horizontalAdvance(text));
 }
 
 void GridView::TakeFont(double factor)

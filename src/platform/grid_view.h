@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QFont>
+#include <QHash>
 #include <QTableView>
 
 #include <vector>
@@ -55,11 +57,14 @@ private:
     void LayOutColumns();
     /// The width of the widest text of a column.
     double TextWidth(int column) const;
+    double MeasuredWidth(const QString& text) const;
     void TakeFont(double factor);
     int FirstShownColumn() const;
     void CopySelectedRows() const;
 
     std::vector<double> shares;
+    mutable QHash<QString, double> measuredWidths;
+    mutable QFont measuredFont;
 };
 
 /// The model of such a grid. A model of this kind holds its rows as plain values; the text of a cell is made when it is
