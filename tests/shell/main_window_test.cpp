@@ -106,6 +106,22 @@ private Q_SLOTS:
         }
     }
 
+    void AltAndALetterPressAButtonWhoseCaptionStandsAsItIs()
+    {
+        TestWindow window;
+        for (const auto& [letter, group] : {std::pair(Qt::Key_R, "2"), {Qt::Key_Y, "3"}, {Qt::Key_A, "1"}}) {
+            window.Press("Logo", letter, Qt::AltModifier);
+            // The toolkit shows the button pressed for a moment.
+            QTRY_COMPARE(ShownPage(window), QString(group));
+        }
+        QCOMPARE(window.TextOf("Button1"), QString("Add Draws"));
+        window.Click("Suboption1");
+        window.Type("F6MBall1_0", "7");
+        window.Press("F6MBall1_0", Qt::Key_E, Qt::AltModifier);
+        QTRY_COMPARE(window.TextOf("F6MBall1_0"), QString());
+        QCOMPARE(window.TextOf("F6Reset"), QString("Reset"));
+    }
+
     void AboutWindowTellsTheVersion()
     {
         TestWindow window;
