@@ -28,6 +28,8 @@ BallRow::BallRow(const BallFields::Names& names, const QStringList& captions, QW
         if (!names.caption.isEmpty()) {
             captionLabels.push_back(
                 MakeLabel(captions[slot], TextRole::Caption, ElementName(names.caption, slot), this));
+            // With a large font the captions are wider than the balls, and must not run together.
+            captionLabels.back()->setContentsMargins(Spacing::Inside / 2, 0, Spacing::Inside / 2, 0);
             column->addWidget(captionLabels.back(), 0, Qt::AlignHCenter);
         }
         row->addLayout(column);
