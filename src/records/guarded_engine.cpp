@@ -6,13 +6,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <ctime>
+#include <system_error>
 
 namespace {
 
 constexpr std::string_view PlainFileStart = "SQLite format 3";
 // Several times what any field of the program takes.
 constexpr int LongestFieldBytes = 1024 * 1024;
+// More than a million draws or entries. A file of another kind could take all the computer's memory while it is read.
+constexpr std::uintmax_t LargestFileBytes = std::uintmax_t{64} * 1024 * 1024;
 constexpr int BusyMilliseconds = 3000;
 constexpr int InstructionsBetweenLooks = 100000;
 constexpr double LongestStatementSeconds = 1.5;
@@ -134,6 +138,9 @@ std::string PasswordOf(const std::string& connect)
 sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
                      const std::string& doing)
 {
+    std::error_code missing;
+    if (const auto bytes = std::filesystem::file_size(file, missing); !missing && bytes > LargestFileBytes)
+        throw Failure(doing, "it is far larger than any file of this program", std::to_string(bytes) + " bytes");
     sqlite3* engine = nullptr;
     const int code = sqlite3_open_v2(file.c_str(), &engine, SQLITE_OPEN_READWRITE, nullptr);
     try {

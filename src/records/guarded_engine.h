@@ -11,7 +11,8 @@ struct sqlite3;
 inline constexpr std::size_t SaltBytes = 16;
 
 /// Opens an existing file in the engine with every guard against what a file of unknown origin may carry, and proves
-/// the key by reading. `firstBytes` are the first bytes of the file. Throws Failure with the given clause.
+/// the key by reading. `firstBytes` are the first bytes of the file. Throws Failure with the given clause, also where
+/// the file has more than 64 MiB.
 sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
                      const std::string& doing);
 

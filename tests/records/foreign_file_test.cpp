@@ -164,6 +164,13 @@ private Q_SLOTS:
         QVERIFY(clock.elapsed() < 10000);
     }
 
+    void FileFarTooLargeIsRefused()
+    {
+        const ForeignFiles files("");
+        std::filesystem::resize_file(UserDataPath, 65ULL * 1024 * 1024);
+        QCOMPARE(FailureOf(OpenDatabaseFiles).reason, QString("it is far larger than any file of this program"));
+    }
+
     void OddValuesAreShownAndCrashNothing()
     {
         TestWindow window;
