@@ -20,7 +20,7 @@ TracelessStart::TracelessStart(const QString& scratch)
     const bool noCache = !HasFontCache();
     if (!noSession && !noCache)
         return;
-    folder.emplace(QDir(scratch).filePath(QStringLiteral(".tavenor3-XXXXXX")));
+    folder.emplace(QDir(scratch).filePath(QStringLiteral(".tavenor3-")));
     if (!folder->isValid())
         return;
     if (noSession)

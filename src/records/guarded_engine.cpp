@@ -66,7 +66,8 @@ int AdmitRecords(void* /*unused*/, int action, const char* first, const char* se
     case SQLITE_FUNCTION:
         return IsOneOf(second, {"count"}) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_PRAGMA:
-        return IsOneOf(first, {"cell_size_check", "cipher_log_level", "data_version", "synchronous", "table_xinfo"}) ||
+        return IsOneOf(first, {"cell_size_check", "cipher_log_level", "data_version", "max_page_count", "page_size",
+                               "synchronous", "table_xinfo"}) ||
                        (IsOneOf(first, {"journal_mode"}) && IsOneOf(second, {"delete"}))
                    ? SQLITE_OK
                    : SQLITE_DENY;
@@ -127,6 +128,15 @@ void ApplyKey(sqlite3* engine, const std::string& password, std::string_view fir
         ThrowEngineFailure(engine, code, doing);
 }
 
+/// A change that would make the file too large to be opened again is refused.
+void LimitGrowth(sqlite3* engine, const std::string& doing)
+{
+    Statement pageSize(engine, "PRAGMA page_size", doing);
+    pageSize.Step();
+    const auto pages = static_cast<std::int64_t>(LargestFileBytes) / std::max<std::int64_t>(pageSize.WholeNumber(0), 1);
+    Execute(engine, "PRAGMA max_page_count = " + std::to_string(pages), doing);
+}
+
 } // namespace
 
 std::string PasswordOf(const std::string& connect)
@@ -156,6 +166,7 @@ sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& conne
         // cut.
         Execute(engine, "PRAGMA synchronous = EXTRA", doing);
         Execute(engine, "SELECT count(*) FROM sqlite_master", doing);
+        LimitGrowth(engine, doing);
         // Another tool may have had the file keep a log beside it. Its locks last as long as the file is open, and the
         // closing of any other descriptor of the file would drop them. Where the tool still has it open, the log stays.
         sqlite3_exec(engine, "PRAGMA journal_mode = delete", nullptr, nullptr, nullptr);

@@ -171,6 +171,23 @@ private Q_SLOTS:
         QCOMPARE(FailureOf(OpenDatabaseFiles).reason, QString("it is far larger than any file of this program"));
     }
 
+    void NoFileGrowsBeyondWhatCanBeOpened()
+    {
+        const ForeignFiles files("WITH RECURSIVE n(i) AS (SELECT 2 UNION ALL SELECT i + 1 FROM n WHERE i < 74)"
+                                 "INSERT INTO users SELECT i, zeroblob(900000), 1 FROM n");
+        OpenDatabaseFiles();
+        int stored = 0;
+        const auto storeMany = [&] {
+            for (; stored < 100; ++stored)
+                AddUser(users, QString(100'000, u'a'), 1);
+        };
+        QVERIFY(!FailureOf(storeMany).reason.isEmpty());
+        CloseDatabaseFiles();
+        OpenDatabaseFiles();
+        QVERIFY(stored > 0);
+        QCOMPARE(users.Count(), 74 + stored);
+    }
+
     void OddValuesAreShownAndCrashNothing()
     {
         TestWindow window;
