@@ -1,17 +1,19 @@
 #include "bench_data.h"
 
-#include "draws/draw_records.h"
-#include "draws/draw_tables.h"
-#include "draws/game.h"
+#include "game/game.h"
 #include "records/database_creation.h"
 #include "records/record_set.h"
-#include "shell/open_databases.h"
-#include "users/user_records.h"
-#include "users/user_tables.h"
+#include "store/draw_records.h"
+#include "store/draw_tables.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
+#include "store/user_tables.h"
 
 #include <algorithm>
 #include <numeric>
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -98,7 +100,7 @@ void MakeUsers(const DataSize& size, int entriesOfFirstUser, const std::filesyst
     Chance chance(4);
     Transaction transaction(database, "The entries could not be stored");
     for (int user = 1; user <= size.users; ++user)
-        AddUser(userTable, QStringLiteral("Player %1").arg(user), 1000000);
+        AddUser(userTable, u"Player %1"_s.arg(user), 1000000);
     for (int number = 1; number <= size.entries; ++number) {
         const bool ofFirstUser = number <= entriesOfFirstUser;
         EntryRow entry = MakeEntry(ofFirstUser || chance.Below(4) != 0 ? MainGame : ThunderballGame, chance);

@@ -2,13 +2,15 @@
 
 #include "player.h"
 #include "shell/main_window.h"
-#include "shell/open_databases.h"
+#include "store/open_databases.h"
 
 #include <QApplication>
 
 #include <algorithm>
 #include <cstdio>
 #include <stdexcept>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,10 +44,8 @@ void TakeAll(std::vector<TimedStep>& timed, const std::filesystem::path& data, c
              {std::pair("first", Openings()), std::pair("again", Openings()), std::pair("then", Handlers())}) {
             for (const Step& step : steps) {
                 if (place == timed.size())
-                    timed.push_back({QLatin1String(when) + QStringLiteral(": ") + step.what + QStringLiteral(" (") +
-                                         step.control + u')',
-                                     {},
-                                     {}});
+                    timed.push_back(
+                        {QLatin1String(when) + u": "_s + step.what + u" ("_s + step.control + u')', {}, {}});
                 const Wait wait = player.Take(step);
                 timed[place].waits.push_back(wait.whole);
                 timed[place++].processor.push_back(wait.processor);

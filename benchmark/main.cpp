@@ -1,10 +1,10 @@
 // Measures what a player waits for, each beside a floor: bench [--runs N] [--rows TEXT] [--size N]
 
 #include "bench_data.h"
-#include "platform/style.h"
+#include "look/style.h"
 #include "rows.h"
 #include "shell/main_window.h"
-#include "shell/open_databases.h"
+#include "store/open_databases.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -13,9 +13,11 @@
 #include <algorithm>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString HandlersRow = QStringLiteral("handlers");
+const QString HandlersRow = u"handlers"_s;
 
 struct Wishes
 {

@@ -14,6 +14,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int SettlingMilliseconds = 200;
@@ -50,19 +52,19 @@ private:
     void Painted(QWidget& window)
     {
         Tell("painted");
-        if (task == QLatin1String("start"))
+        if (task == "start"_L1)
             ::_exit(0);
         QTimer::singleShot(SettlingMilliseconds, this, [this, &window] { GoOn(window); });
     }
 
     void GoOn(QWidget& window)
     {
-        if (task == QLatin1String("end")) {
+        if (task == "end"_L1) {
             Tell("closing");
             window.close();
             return;
         }
-        if (task == QLatin1String("visit")) {
+        if (task == "visit"_L1) {
             Player player(window);
             for (const Step& step : Openings())
                 player.Take(step);

@@ -1,20 +1,23 @@
 #include "rows.h"
 
 #include "bench_data.h"
-#include "draws/draw_tables.h"
-#include "draws/game.h"
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
+#include "game/game.h"
 #include "shell/main_window.h"
-#include "shell/open_databases.h"
-#include "users/user_tables.h"
+#include "store/draw_tables.h"
+#include "store/open_databases.h"
+#include "store/user_tables.h"
 #include "walk.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTextEdit>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -66,9 +69,9 @@ private:
 
 double ShowReport(MainWindow& window)
 {
-    window.findChild<QPushButton*>(QStringLiteral("F12clear"))->click();
+    window.findChild<QPushButton*>(u"F12clear"_s)->click();
     QApplication::processEvents();
-    auto* check = window.findChild<QPushButton*>(QStringLiteral("F12check"));
+    auto* check = window.findChild<QPushButton*>(u"F12check"_s);
     return Milliseconds([check] {
         check->click();
         QApplication::processEvents();
@@ -79,8 +82,8 @@ Row CheckRow(MainWindow& window)
 {
     window.ShowPage(12);
     ShowReport(window);
-    const auto finished = std::make_shared<FinishedText>(*window.findChild<QTextEdit*>(QStringLiteral("F12text")));
-    return {QStringLiteral("\"Check Now\", report shown"), 1.3,
+    const auto finished = std::make_shared<FinishedText>(*window.findChild<QTextEdit*>(u"F12text"_s));
+    return {u"\"Check Now\", report shown"_s, 1.3,
             [&window] {
                 window.ShowPage(12);
                 return ShowReport(window);
@@ -115,9 +118,7 @@ Row GridsRow(MainWindow& window, Lists lists)
         if (lists == Lists::OnFile)
             LeaveListsOnFile();
     };
-    return {lists == Lists::OnFile ? QStringLiteral("page 10 filled, lists read from the file")
-                                   : QStringLiteral("page 10 filled again"),
-            1.5,
+    return {lists == Lists::OnFile ? u"page 10 filled, lists read from the file"_s : u"page 10 filled again"_s, 1.5,
             [&window, prepare] {
                 PageFrame* page = window.Page(10);
                 prepare();
@@ -158,11 +159,11 @@ Row EntriesRow(MainWindow& window)
     WalkedFields fields;
     for (int field = EntryField::EntryId; field < EntryField::Monday; ++field)
         fields.numbers.push_back(field);
-    return {QStringLiteral("entries list of a user with 10,000 entries"), 1.5,
+    return {u"entries list of a user with 10,000 entries"_s, 1.5,
             [&window] {
                 const FirstUserEntries owned;
                 window.ShowPage(13);
-                auto* user = window.findChild<QComboBox*>(QStringLiteral("F13user"));
+                auto* user = window.findChild<QComboBox*>(u"F13user"_s);
                 const double time = Milliseconds([user] { Q_EMIT user->activated(0); });
                 QApplication::processEvents();
                 return time;

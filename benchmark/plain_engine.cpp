@@ -1,8 +1,8 @@
 #include "plain_engine.h"
 
 #include "records/engine.h"
-#include "records/guarded_engine.h"
 #include "records/key_store.h"
+#include "records/statement.h"
 
 #include <fstream>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "users/entry_row.h"
+#include "game/entry_row.h"
 
 #include <cstdint>
 #include <filesystem>

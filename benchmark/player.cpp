@@ -12,6 +12,8 @@
 #include <ctime>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Wait Now()
@@ -25,23 +27,23 @@ Wait Now()
 
 void OpenFromMenu(std::vector<Step>& steps, int group, const QStringList& pages)
 {
-    steps.push_back({QStringLiteral("open the group %1").arg(group), QStringLiteral("Button%1").arg(group)});
+    steps.push_back({u"open the group %1"_s.arg(group), u"Button%1"_s.arg(group)});
     for (int number = 1; number <= pages.size(); ++number)
-        steps.push_back({QStringLiteral("open ") + pages[number - 1], QStringLiteral("Suboption%1").arg(number)});
+        steps.push_back({u"open "_s + pages[number - 1], u"Suboption%1"_s.arg(number)});
 }
 
 void OpenByButtons(std::vector<Step>& steps, const QStringList& buttons)
 {
     for (const QString& button : buttons)
-        steps.push_back({QStringLiteral("press ") + button, button});
+        steps.push_back({u"press "_s + button, button});
 }
 
 void FillBalls(std::vector<Step>& steps, const QString& field, const QList<int>& indices)
 {
     int number = 11;
     for (const int index : indices)
-        steps.push_back({QStringLiteral("type into ") + field, field + u'_' + QString::number(index),
-                         QString::number(--number), Qt::Key_Return});
+        steps.push_back({u"type into "_s + field, field + u'_' + QString::number(index), QString::number(--number),
+                         Qt::Key_Return});
 }
 
 /// The button by which a modal window of the program's own is left.
@@ -70,11 +72,11 @@ std::vector<Step> Openings()
     OpenFromMenu(steps, 4, {"Entry Generator"});
     for (const auto& [suboption, page, charts] : {std::tuple(1, 21, 6), std::tuple(2, 22, 4)}) {
         steps.push_back({"open the group 5", "Button5"});
-        steps.push_back({"open Draw Analysis", QStringLiteral("Suboption%1").arg(suboption)});
+        steps.push_back({"open Draw Analysis", u"Suboption%1"_s.arg(suboption)});
         for (int screen = 1; screen <= charts; ++screen)
-            steps.push_back({QStringLiteral("open a chart"), QStringLiteral("F%1screen_%2").arg(page).arg(screen)});
-        steps.push_back({"open the ball data", QStringLiteral("F%1screen_%2").arg(page).arg(charts + 1)});
-        steps.push_back({"leave the ball data", QStringLiteral("F%1back").arg(page + 2)});
+            steps.push_back({u"open a chart"_s, u"F%1screen_%2"_s.arg(page).arg(screen)});
+        steps.push_back({"open the ball data", u"F%1screen_%2"_s.arg(page).arg(charts + 1)});
+        steps.push_back({"leave the ball data", u"F%1back"_s.arg(page + 2)});
     }
     OpenByButtons(steps, {"Logo", "about", "F0links", "F25back", "advanced"});
     return steps;
@@ -85,7 +87,7 @@ std::vector<Step> Handlers()
     std::vector<Step> steps;
     const auto add = [&steps](const char* control, const QString& text = {}, Qt::Key key = {}) {
         const QString name = QLatin1String(control);
-        steps.push_back({QStringLiteral("use ") + name, name, text, key});
+        steps.push_back({u"use "_s + name, name, text, key});
     };
     OpenFromMenu(steps, 1, {"Add Main Draw"});
     FillBalls(steps, "F6MBall1", {1, 2, 3, 4, 5, 6, 0});

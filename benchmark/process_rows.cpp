@@ -1,8 +1,8 @@
 #include "rows.h"
 
 #include "bench_data.h"
-#include "records/guarded_engine.h"
-#include "shell/open_databases.h"
+#include "records/engine.h"
+#include "store/open_databases.h"
 
 #include <array>
 #include <chrono>
@@ -14,6 +14,8 @@
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -137,12 +139,12 @@ std::vector<Row> ProcessRows(const std::filesystem::path& data, const std::files
         std::filesystem::copy(data, work / folder);
     const auto own = work / "program";
     const auto other = work / "floor";
-    return {{QStringLiteral("start: process start to first paint"), 1.2, [=] { return Start(program, own); },
+    return {{u"start: process start to first paint"_s, 1.2, [=] { return Start(program, own); },
              [=] { return Start(BENCH_BARE_WINDOW, other); }},
-            {QStringLiteral("end: close to process end"), 1.3, [=] { return End(program, own); },
+            {u"end: close to process end"_s, 1.3, [=] { return End(program, own); },
              [=] { return End(BENCH_BARE_WINDOW, other); }},
-            {QStringLiteral("memory at the start page"), 1.3, [=] { return Memory(program, own, "rest"); },
+            {u"memory at the start page"_s, 1.3, [=] { return Memory(program, own, "rest"); },
              [=] { return Memory(BENCH_BARE_CHART, other, "rest"); }, "MiB"},
-            {QStringLiteral("memory after visiting every page"), 1.3, [=] { return Memory(program, own, "visit"); },
+            {u"memory after visiting every page"_s, 1.3, [=] { return Memory(program, own, "visit"); },
              [=] { return Memory(BENCH_BARE_CHART, other, "rest"); }, "MiB"}};
 }

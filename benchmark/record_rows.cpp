@@ -1,23 +1,25 @@
 #include "rows.h"
 
 #include "analysis/draw_history.h"
+#include "base/dates.h"
 #include "bench_data.h"
-#include "builder/built_entries.h"
 #include "checking/check_report.h"
-#include "draws/draw_records.h"
-#include "draws/draw_tables.h"
-#include "draws/game.h"
+#include "game/game.h"
 #include "plain_engine.h"
-#include "platform/dates.h"
-#include "records/guarded_engine.h"
-#include "shell/open_databases.h"
-#include "users/user_records.h"
+#include "records/engine.h"
+#include "store/draw_records.h"
+#include "store/draw_tables.h"
+#include "store/entry_changes.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 #include "walk.h"
 
 #include <QStringList>
 
 #include <memory>
 #include <stdexcept>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -61,11 +63,11 @@ std::string CountingQuery(const CheckedDraw& draw)
     const QString bonus = drawn.takeLast();
     QStringList matches;
     for (int ball = 1; ball <= MainGame.mainBalls; ++ball)
-        matches.append(QStringLiteral("(Ball%1 IN (%2))").arg(ball).arg(drawn.join(u',')));
-    return QStringLiteral("SELECT count(*), sum(%1), sum(%2 IN (Ball1,Ball2,Ball3,Ball4,Ball5,Ball6)) FROM entries "
-                          "WHERE DrawType = 1 AND %3 <> 0")
-        .arg(matches.join(u'+'), bonus, DayNames.at(static_cast<size_t>(DaySetIndex(draw.date))))
-        .toStdString();
+        matches.append(u"(Ball%1 IN (%2))"_s.arg(ball).arg(drawn.join(u',')));
+    return u"SELECT count(*), sum(%1), sum(%2 IN (Ball1,Ball2,Ball3,Ball4,Ball5,Ball6)) FROM entries "
+           u"WHERE DrawType = 1 AND %3 <> 0"_s
+               .arg(matches.join(u'+'), bonus, DayNames.at(static_cast<size_t>(DaySetIndex(draw.date))))
+               .toStdString();
 }
 
 Row ComparisonRow(const std::filesystem::path& work)
@@ -74,7 +76,7 @@ Row ComparisonRow(const std::filesystem::path& work)
     const CheckedDraw draw = NewestMainDraw();
     if (CompareAll(draw) != engine->FirstRow(CountingQuery(draw)))
         throw std::runtime_error("The comparison and the engine's query count differently");
-    return {QStringLiteral("comparison of all entries, without the text"), 0.2,
+    return {u"comparison of all entries, without the text"_s, 0.2,
             [draw] { return Milliseconds([&] { CompareAll(draw); }); },
             [engine, query = CountingQuery(draw)] { return Milliseconds([&] { engine->FirstRow(query); }); }};
 }
@@ -88,7 +90,7 @@ Row ChartRow(const Chart& chart)
         fields.numbers.push_back(DrawField::FirstBall + slot);
     if (slots.Count() == 0)
         fields.texts = {chart.subject == ChartSubject::Machines ? DrawField::Machine : DrawField::BallSet};
-    return {QStringLiteral("chart %1 computed").arg(chart.number), 1.5,
+    return {u"chart %1 computed"_s.arg(chart.number), 1.5,
             [&chart] { return Milliseconds([&] { CountChart(chart).Bars(chart.ballType); }); },
             [&draws, fields] { return Milliseconds([&] { Walk(draws, fields); }); }};
 }
@@ -96,7 +98,7 @@ Row ChartRow(const Chart& chart)
 Row RequeryRow(const std::filesystem::path& work)
 {
     const auto engine = OpenPlainly(work / "drawdata.tv3", DrawConnect);
-    return {QStringLiteral("requery of the Main list after a change"), 1.3,
+    return {u"requery of the Main list after a change"_s, 1.3,
             [] {
                 ukmain.MoveFirst();
                 Transaction transaction(DrawDb, "The draw could not be stored");
@@ -127,7 +129,7 @@ Row StoringRow(const std::filesystem::path& work)
 {
     const auto engine = OpenPlainly(work / "userdata.tv3", {});
     const std::vector<EntryRow> lines = MakeLines(BuiltLines);
-    return {QStringLiteral("storing %1 built lines").arg(BuiltLines), 1.5,
+    return {u"storing %1 built lines"_s.arg(BuiltLines), 1.5,
             [lines] {
                 users.MoveFirst();
                 const QString user = ReadUser(users).name;

@@ -2,7 +2,7 @@
 //
 // With another picture of that size it says instead whether the two look the same: make_icon --compare PICTURE.png
 
-#include "platform/artwork.h"
+#include "look/artwork.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // Shows one message in the program's own box, for the launcher, which may have no terminal: tell_failure MESSAGE
 
-#include "platform/application.h"
-#include "platform/message_box.h"
+#include "controls/message_box.h"
+#include "look/application.h"
 
 #include <QDir>
 

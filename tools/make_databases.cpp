@@ -5,17 +5,17 @@
 // Draws go in by date, numbered from 1. A row that cannot be a draw stops it with file, line and reason; files of an
 // earlier run in the folder are replaced only when everything is right.
 
-#include "draws/draw_records.h"
-#include "draws/draw_tables.h"
-#include "draws/game.h"
-#include "platform/dates.h"
-#include "platform/files.h"
-#include "platform/numbers.h"
+#include "base/dates.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "game/game.h"
 #include "records/database.h"
 #include "records/database_creation.h"
 #include "records/record_set.h"
-#include "shell/open_databases.h"
-#include "users/user_tables.h"
+#include "store/draw_records.h"
+#include "store/draw_tables.h"
+#include "store/open_databases.h"
+#include "store/user_tables.h"
 
 #include <QFile>
 #include <QStringList>

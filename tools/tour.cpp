@@ -1,10 +1,10 @@
 // Walks the real program through its main job, its pages and its windows, and writes a picture of each:
 // tour STARTER-FOLDER PICTURE-FOLDER [dark] [large]
 
-#include "platform/style.h"
-#include "platform/theme.h"
+#include "look/style.h"
+#include "look/theme.h"
 #include "shell/main_window.h"
-#include "shell/open_databases.h"
+#include "store/open_databases.h"
 #include "walk.h"
 
 #include <QApplication>
@@ -15,6 +15,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 int main(int count, char** arguments)
 {
     QApplication application(count, arguments);
@@ -24,11 +26,11 @@ int main(int count, char** arguments)
         return 2;
     }
     QApplication::setStyle(new Style);
-    if (given.contains(QLatin1String("dark")))
+    if (given.contains("dark"_L1))
         SetAppearance(Appearance::Dark);
     // The size of most desktops, where a screen without a display has a smaller one.
     QFont desktop = QApplication::font();
-    desktop.setPointSizeF(given.contains(QLatin1String("large")) ? 10.5 * 1.5 : 10.5);
+    desktop.setPointSizeF(given.contains("large"_L1) ? 10.5 * 1.5 : 10.5);
     QApplication::setFont(desktop);
     const QTemporaryDir folder;
     for (const char* name : {"drawdata.tv3", "userdata.tv3"})
@@ -36,7 +38,7 @@ int main(int count, char** arguments)
     SetProgramDir(folder.path().toStdString());
     OpenDatabaseFiles();
     const QDir pictures(given[2]);
-    pictures.mkpath(QStringLiteral("."));
+    pictures.mkpath(u"."_s);
     MainWindow window;
     window.show();
     const Walk walk(window, [&pictures](const QString& name, QWidget& shown) {
@@ -44,7 +46,7 @@ int main(int count, char** arguments)
         if (qobject_cast<QFileDialog*>(&shown) != nullptr)
             return;
         // The smallest files that the format can have.
-        shown.grab().save(pictures.filePath(name + QStringLiteral(".png")), "PNG", 0);
+        shown.grab().save(pictures.filePath(name + u".png"_s), "PNG", 0);
     });
     walk.MainJob();
     walk.EverythingElse();

@@ -2,8 +2,9 @@
 
 #include "analysis/charts.h"
 #include "analysis/graph_window.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
 #include "draws/draw_prompt.h"
-#include "platform/page_frame.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
 
@@ -14,6 +15,8 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -72,75 +75,75 @@ void PressIn(const QWidget& shown, const QString& name)
 void Walk::MainJob() const
 {
     window.ShowStartPage();
-    Show(QStringLiteral("start"));
+    Show(u"start"_s);
     AddDraw();
     AddUserAndEntries();
     GenerateEntries();
     window.ChooseMenu(3, 4);
-    Press(QStringLiteral("F12check"));
-    Show(QStringLiteral("check_entries"));
+    Press(u"F12check"_s);
+    Show(u"check_entries"_s);
     window.ChooseMenu(5, 1);
-    Foresee(QStringLiteral("chart_1"));
-    Press(QStringLiteral("F21screen_1"));
+    Foresee(u"chart_1"_s);
+    Press(u"F21screen_1"_s);
 }
 
 void Walk::AddDraw() const
 {
     window.ChooseMenu(1, 1);
-    Show(QStringLiteral("add_main_empty"));
+    Show(u"add_main_empty"_s);
     const QStringList balls{"3", "15", "22", "38", "41", "44"};
     for (int ball = 0; ball < balls.size(); ++ball)
-        Type(ElementName(QStringLiteral("F6MBall1"), ball + 1), balls[ball]);
-    Type(QStringLiteral("F6MBall1_0"), QStringLiteral("7"));
-    Choose(QStringLiteral("F6Mmachine"), 2);
-    Choose(QStringLiteral("F6Mballset"), 3);
-    Show(QStringLiteral("add_main"));
-    Foresee(QStringLiteral("draw_stored"));
-    Press(QStringLiteral("F6Store"));
+        Type(ElementName(u"F6MBall1"_s, ball + 1), balls[ball]);
+    Type(u"F6MBall1_0"_s, u"7"_s);
+    Choose(u"F6Mmachine"_s, 2);
+    Choose(u"F6Mballset"_s, 3);
+    Show(u"add_main"_s);
+    Foresee(u"draw_stored"_s);
+    Press(u"F6Store"_s);
 }
 
 void Walk::AddUserAndEntries() const
 {
     window.ChooseMenu(3, 1);
-    Type(QStringLiteral("F11seluser"), QStringLiteral("Ann"));
-    Type(QStringLiteral("F11spend"), QStringLiteral("60"));
-    Show(QStringLiteral("new_user"));
-    Press(QStringLiteral("F11storenu"));
-    QTest::keyClick(Find(QStringLiteral("F11list")), Qt::Key_Down);
-    Show(QStringLiteral("user_details"));
+    Type(u"F11seluser"_s, u"Ann"_s);
+    Type(u"F11spend"_s, u"60"_s);
+    Show(u"new_user"_s);
+    Press(u"F11storenu"_s);
+    QTest::keyClick(Find(u"F11list"_s), Qt::Key_Down);
+    Show(u"user_details"_s);
     const QList<QStringList> lines{{"3", "15", "22", "30", "36", "49"}, {"5", "9", "17", "23", "34", "14"}};
     for (int game = 0; game < lines.size(); ++game) {
         window.ChooseMenu(3, 2);
-        Choose(QStringLiteral("F18type"), game);
+        Choose(u"F18type"_s, game);
         for (int ball = 0; ball < lines[game].size(); ++ball)
-            Type(ElementName(QStringLiteral("F18ent"), ball + 1), lines[game][ball]);
-        Press(QStringLiteral("F18selallday"));
-        Show(game == 0 ? QStringLiteral("add_entries") : QStringLiteral("add_thunderball_entries"));
+            Type(ElementName(u"F18ent"_s, ball + 1), lines[game][ball]);
+        Press(u"F18selallday"_s);
+        Show(game == 0 ? u"add_entries"_s : u"add_thunderball_entries"_s);
         Foresee({});
-        Press(QStringLiteral("F18store"));
+        Press(u"F18store"_s);
     }
 }
 
 void Walk::GenerateEntries() const
 {
     window.ChooseMenu(4, 1);
-    Show(QStringLiteral("generator_opened"));
-    Choose(QStringLiteral("F26combo_0"), 0);
-    Choose(QStringLiteral("F26combo_1"), 2);
-    Choose(QStringLiteral("F26combo_2"), 1);
-    Foresee(QStringLiteral("number_window"), QStringLiteral("store"), [](QDialog& dialog) {
-        PressIn(dialog, QStringLiteral("random"));
-        FindIn(dialog, QStringLiteral("n_25"))->setFocus();
+    Show(u"generator_opened"_s);
+    Choose(u"F26combo_0"_s, 0);
+    Choose(u"F26combo_1"_s, 2);
+    Choose(u"F26combo_2"_s, 1);
+    Foresee(u"number_window"_s, u"store"_s, [](QDialog& dialog) {
+        PressIn(dialog, u"random"_s);
+        FindIn(dialog, u"n_25"_s)->setFocus();
     });
-    Press(QStringLiteral("F26choose"));
-    Foresee(QStringLiteral("generator_description"));
-    Press(QStringLiteral("F26go"));
-    Show(QStringLiteral("generator"));
-    Foresee(QStringLiteral("draw_days"), QStringLiteral("store"), [this](QDialog& dialog) {
-        PressIn(dialog, QStringLiteral("selall"));
+    Press(u"F26choose"_s);
+    Foresee(u"generator_description"_s);
+    Press(u"F26go"_s);
+    Show(u"generator"_s);
+    Foresee(u"draw_days"_s, u"store"_s, [this](QDialog& dialog) {
+        PressIn(dialog, u"selall"_s);
         Foresee({});
     });
-    Press(QStringLiteral("F26store"));
+    Press(u"F26store"_s);
 }
 
 void Walk::EverythingElse() const
@@ -157,12 +160,12 @@ void Walk::EverythingElse() const
         Show(QLatin1String(stop.picture));
     }
     window.ChooseMenu(2, 2);
-    QTest::keyClick(Find(QStringLiteral("F9Cal"))->findChild<QAbstractItemView*>(), Qt::Key_Left);
-    Show(QStringLiteral("draw_browser_without_draws"));
+    QTest::keyClick(Find(u"F9Cal"_s)->findChild<QAbstractItemView*>(), Qt::Key_Left);
+    Show(u"draw_browser_without_draws"_s);
     window.ChooseMenu(3, 4);
-    Press(QStringLiteral("F12dateselect"));
-    Press(QStringLiteral("F12check"));
-    Show(QStringLiteral("check_entries_of_a_date"));
+    Press(u"F12dateselect"_s);
+    Press(u"F12check"_s);
+    Show(u"check_entries_of_a_date"_s);
     OtherBuildTypes();
     Charts();
     StartPageWindows();
@@ -171,48 +174,48 @@ void Walk::EverythingElse() const
 void Walk::OtherBuildTypes() const
 {
     window.ChooseMenu(4, 1);
-    Choose(QStringLiteral("F26combo_0"), 0);
-    Choose(QStringLiteral("F26combo_1"), 0);
-    Show(QStringLiteral("generator_random"));
-    Type(QStringLiteral("F26text"), QStringLiteral("200"));
+    Choose(u"F26combo_0"_s, 0);
+    Choose(u"F26combo_1"_s, 0);
+    Show(u"generator_random"_s);
+    Type(u"F26text"_s, u"200"_s);
     Foresee({});
-    Press(QStringLiteral("F26go"));
-    Show(QStringLiteral("generator_200_lines"));
-    Choose(QStringLiteral("F26combo_1"), 3);
-    Show(QStringLiteral("generator_full"));
+    Press(u"F26go"_s);
+    Show(u"generator_200_lines"_s);
+    Choose(u"F26combo_1"_s, 3);
+    Show(u"generator_full"_s);
 }
 
 void Walk::Charts() const
 {
     window.ChooseMenu(5, 1);
-    Find(QStringLiteral("F21screen_2"))->setFocus(Qt::TabFocusReason);
-    Show(QStringLiteral("analysis_main_focused"));
+    Find(u"F21screen_2"_s)->setFocus(Qt::TabFocusReason);
+    Show(u"analysis_main_focused"_s);
     for (const Chart& chart : AllCharts()) {
         GraphWindow frmgraph(&window);
         frmgraph.PrepareChart(chart.number);
         frmgraph.show();
-        Show(QStringLiteral("chart_%1").arg(chart.number), frmgraph);
+        Show(u"chart_%1"_s.arg(chart.number), frmgraph);
     }
 }
 
 void Walk::StartPageWindows() const
 {
     window.ShowStartPage();
-    Foresee(QStringLiteral("about"), QStringLiteral("back"));
-    Press(QStringLiteral("about"));
-    Foresee(QStringLiteral("advanced"), QStringLiteral("back"), [this](QDialog& advanced) {
-        Foresee(QStringLiteral("file_dialog"));
-        PressIn(advanced, QStringLiteral("exportdraw"));
+    Foresee(u"about"_s, u"back"_s);
+    Press(u"about"_s);
+    Foresee(u"advanced"_s, u"back"_s, [this](QDialog& advanced) {
+        Foresee(u"file_dialog"_s);
+        PressIn(advanced, u"exportdraw"_s);
     });
-    Press(QStringLiteral("advanced"));
-    Foresee(QStringLiteral("exit"));
-    Press(QStringLiteral("Exit"));
-    DrawPrompt frmmsgbox1(QStringLiteral("main"), &window);
+    Press(u"advanced"_s);
+    Foresee(u"exit"_s);
+    Press(u"Exit"_s);
+    DrawPrompt frmmsgbox1(u"main"_s, &window);
     frmmsgbox1.show();
-    Show(QStringLiteral("draw_prompt"), frmmsgbox1);
+    Show(u"draw_prompt"_s, frmmsgbox1);
     SplashWindow frmsplash;
     frmsplash.ShowAtOnce();
-    Show(QStringLiteral("splash"), frmsplash);
+    Show(u"splash"_s, frmsplash);
 }
 
 void Walk::Show(const QString& name) const

@@ -3,14 +3,18 @@
 #include "analysis/analysis_screens.h"
 #include "analysis/graph_window.h"
 #include "analysis/screen_button.h"
-#include "draws/game.h"
-#include "platform/guard.h"
-#include "shell/page_switch.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/page_switch.h"
+#include "game/game.h"
+#include "look/theme.h"
 
 #include <QGridLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +36,7 @@ int BallDataPageOf(const Game& game)
 
 QString TitleOf(const Game& game)
 {
-    return game.name + QStringLiteral(" Draw Analysis");
+    return game.name + u" Draw Analysis"_s;
 }
 
 /// The frame around the screen under the pointer.
@@ -68,8 +72,8 @@ AnalysisPage::AnalysisPage(const Game& drawGame, PageSwitch& pageSwitch)
 
 void AnalysisPage::BuildHead()
 {
-    title = MakeLabel(QStringLiteral("Ball Frequency"), TextRole::Title, ControlName("title"));
-    label = MakeLabel(QStringLiteral("Information about this option."), TextRole::Body, ControlName("label"));
+    title = MakeLabel(u"Ball Frequency"_s, TextRole::Title, ControlName("title"));
+    label = MakeLabel(u"Information about this option."_s, TextRole::Body, ControlName("label"));
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setForegroundRole(QPalette::PlaceholderText);
@@ -77,7 +81,7 @@ void AnalysisPage::BuildHead()
     label->setMinimumHeight(DescriptionLines * label->fontMetrics().lineSpacing());
     for (QLabel* clickable : {title, label})
         clickable->installEventFilter(this);
-    loading = MakeLabel(QStringLiteral("Loading..."), TextRole::Strong, ControlName("loading"));
+    loading = MakeLabel(u"Loading..."_s, TextRole::Strong, ControlName("loading"));
     QSizePolicy keepsRoom = loading->sizePolicy();
     keepsRoom.setRetainSizeWhenHidden(true);
     loading->setSizePolicy(keepsRoom);
@@ -86,7 +90,7 @@ void AnalysisPage::BuildHead()
     Body()->addWidget(title);
     Body()->addWidget(label);
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeLabel(QStringLiteral("Click on a screen"), TextRole::Caption));
+    row->addWidget(MakeLabel(u"Click on a screen"_s, TextRole::Caption));
     row->addStretch(1);
     row->addWidget(loading);
     Body()->addLayout(row);
@@ -123,8 +127,8 @@ void AnalysisPage::Prepare()
     for (QLabel* clickable : {title, label})
         clickable->unsetCursor();
     title->setText(TitleOf(game));
-    label->setText(QStringLiteral("Move the pointer over the different screenshots to see a description of it, then "
-                                  "click to go to it."));
+    label->setText(u"Move the pointer over the different screenshots to see a description of it, then "
+                   u"click to go to it."_s);
     show();
 }
 
@@ -195,5 +199,5 @@ bool AnalysisPage::eventFilter(QObject* watched, QEvent* event)
 
 QString AnalysisPage::ControlName(const char* name) const
 {
-    return QStringLiteral("F%1%2").arg(PageOf(game)).arg(QLatin1String(name));
+    return u"F%1%2"_s.arg(PageOf(game)).arg(QLatin1String(name));
 }

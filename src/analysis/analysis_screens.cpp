@@ -1,6 +1,8 @@
 #include "analysis/analysis_screens.h"
 
-#include "draws/game.h"
+#include "game/game.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -57,7 +59,7 @@ constexpr AnalysisScreen ThunderballScreens[] = {
 QString AnalysisScreen::Description() const
 {
     const QString text = QLatin1String(firstSentence);
-    return *secondSentence == '\0' ? text : text + QStringLiteral("\r\n") + QLatin1String(secondSentence);
+    return *secondSentence == '\0' ? text : text + u"\r\n"_s + QLatin1String(secondSentence);
 }
 
 std::span<const AnalysisScreen> ScreensOf(const Game& game)

@@ -1,20 +1,22 @@
 #include "analysis/ball_data.h"
 
-#include "draws/game.h"
-#include "platform/dates.h"
-#include "platform/numbers.h"
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "game/game.h"
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 BallRole MainBallRole(const Game& game)
 {
-    return {SlotsOf(game, BallType::MainBalls), QStringLiteral("a main ball")};
+    return {SlotsOf(game, BallType::MainBalls), u"a main ball"_s};
 }
 
 BallRole ExtraBallRole(const Game& game)
 {
     return {SlotsOf(game, BallType::ExtraBall),
-            game.drawType == MainGame.drawType ? QStringLiteral("the bonus ball") : QStringLiteral("the thunderball")};
+            game.drawType == MainGame.drawType ? u"the bonus ball"_s : u"the thunderball"_s};
 }
 
 BallAppearances FindBall(const DrawnBalls& balls, SlotRange slots, int ball)
@@ -44,21 +46,20 @@ std::optional<int> TypedBall(const Game& game, const QString& text)
 
 QString TwoDigits(int ball)
 {
-    return QStringLiteral("%1").arg(ball, 2, 10, QChar(u'0'));
+    return u"%1"_s.arg(ball, 2, 10, QChar(u'0'));
 }
 
 QString LastDrawnSentence(const BallRole& role, std::optional<int> drawsAgo, const QString& day, QDate date)
 {
     if (!drawsAgo)
-        return QStringLiteral("This ball has never been drawn as %1.").arg(role.name);
-    return QStringLiteral("This ball was last drawn as ") + role.name + SpacedNumber(*drawsAgo) +
-           QStringLiteral(" draws ago, on ") + day + u' ' + DateInWords(date) + u'.';
+        return u"This ball has never been drawn as %1."_s.arg(role.name);
+    return u"This ball was last drawn as "_s + role.name + SpacedNumber(*drawsAgo) + u" draws ago, on "_s + day + u' ' +
+           DateInWords(date) + u'.';
 }
 
 QString CountSentence(const BallRole& role, int count)
 {
     if (count == 0)
         return {};
-    return QStringLiteral("This ball has been drawn") + SpacedNumber(count) + QStringLiteral(" times as ") + role.name +
-           u'.';
+    return u"This ball has been drawn"_s + SpacedNumber(count) + u" times as "_s + role.name + u'.';
 }

@@ -1,16 +1,21 @@
 #include "analysis/ball_data_page.h"
 
 #include "analysis/draw_history.h"
-#include "draws/ball_colours.h"
-#include "draws/draw_records.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/dates.h"
-#include "platform/guard.h"
-#include "shell/open_databases.h"
+#include "base/dates.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "game/ball_colours.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,7 +49,7 @@ void ShowIn(const LabelledBall& disc, const Game& game, int slot, int ball)
 } // namespace
 
 BallDataPage::BallDataPage(const Game& drawGame)
-    : PageFrame(PageOf(drawGame), QStringLiteral("Individual Ball Data")),
+    : PageFrame(PageOf(drawGame), u"Individual Ball Data"_s),
       game(drawGame),
       enter(new QLineEdit),
       mainBall(MakeLabelledBall(ControlName("ball"), ControlName("number"), nullptr))
@@ -52,7 +57,7 @@ BallDataPage::BallDataPage(const Game& drawGame)
     if (!game.extraFromSameMachine)
         extraBall = MakeLabelledBall(ControlName("ball2"), ControlName("number2"), nullptr);
     BuildCards();
-    Button* backButton = AddFooterButton(QStringLiteral("BACK"), ControlName("back"));
+    Button* backButton = AddFooterButton(u"BACK"_s, ControlName("back"));
     SetBackButton(backButton);
     ConnectGuarded(enter, &QLineEdit::textChanged, this, [this] { enter_Change(); });
     ConnectGuarded(enter, &QLineEdit::returnPressed, this, [this] { enter_KeyPress(); });
@@ -62,19 +67,19 @@ BallDataPage::BallDataPage(const Game& drawGame)
 
 void BallDataPage::BuildCards()
 {
-    QLabel* subtitle = MakeLabel(game.name + QStringLiteral(" Draw"), TextRole::Heading, ControlName("titlelabel2"));
+    QLabel* subtitle = MakeLabel(game.name + u" Draw"_s, TextRole::Heading, ControlName("titlelabel2"));
     subtitle->setForegroundRole(QPalette::PlaceholderText);
     Body()->addWidget(subtitle);
 
     enter->setObjectName(ControlName("enter"));
-    enter->setAccessibleName(QStringLiteral("Ball Number"));
+    enter->setAccessibleName(u"Ball Number"_s);
     enter->setFont(FontFor(TextRole::Heading));
     enter->setAlignment(Qt::AlignCenter);
     enter->setFixedWidth(enter->fontMetrics().averageCharWidth() * 12);
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing::Between);
-    row->addWidget(MakeLabel(QStringLiteral("Enter"), TextRole::Body, ControlName("label1")));
-    row->addWidget(MakeLabel(QStringLiteral("Ball Number"), TextRole::Strong, ControlName("label2")));
+    row->addWidget(MakeLabel(u"Enter"_s, TextRole::Body, ControlName("label1")));
+    row->addWidget(MakeLabel(u"Ball Number"_s, TextRole::Strong, ControlName("label2")));
     row->addWidget(enter);
     row->addSpacing(Spacing::Page);
     row->addWidget(mainBall.disc);
@@ -104,7 +109,7 @@ void BallDataPage::Prepare()
 {
     // A text that does not change would fill nothing.
     enter->clear();
-    enter->setText(QStringLiteral("1"));
+    enter->setText(u"1"_s);
     enter->clear();
     ShowInFront();
     enter->setFocus();
@@ -153,5 +158,5 @@ void BallDataPage::ShowRole(const BallRole& role, const DrawnBalls& balls, int b
 
 QString BallDataPage::ControlName(const char* name) const
 {
-    return QStringLiteral("F%1%2").arg(PageOf(game)).arg(QLatin1String(name));
+    return u"F%1%2"_s.arg(PageOf(game)).arg(QLatin1String(name));
 }

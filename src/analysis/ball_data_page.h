@@ -1,8 +1,10 @@
 #pragma once
 
 #include "analysis/ball_data.h"
-#include "platform/ball_disc.h"
-#include "platform/page_frame.h"
+#include "balls/ball_disc.h"
+#include "controls/page_frame.h"
+
+#include <QLabel>
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 #include "analysis/bar_colours.h"
 #include "analysis/chart_texts.h"
-#include "platform/theme.h"
+#include "look/theme.h"
 
 #include <QAccessibleWidget>
 #include <QBarCategoryAxis>
@@ -19,6 +19,8 @@
 
 #include <algorithm>
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,7 +69,7 @@ void BarChart::ShowBars(std::vector<ChartBar> shownBars)
     QStringList lines;
     for (const ChartBar& bar : bars) {
         highest = qMax(highest, bar.value);
-        lines.append(bar.label + QStringLiteral(": ") + QString::number(bar.value));
+        lines.append(bar.label + u": "_s + QString::number(bar.value));
     }
     axisStep = StepFor(highest);
     axisEnd = (highest + axisStep - 1) / axisStep * axisStep;
@@ -249,8 +251,8 @@ void BarChart::mouseMoveEvent(QMouseEvent* event)
         return;
     }
     const ChartBar& pointed = bars[static_cast<size_t>(bar)];
-    QToolTip::showText(event->globalPosition().toPoint(),
-                       pointed.label + QStringLiteral(": ") + QString::number(pointed.value), viewport());
+    QToolTip::showText(event->globalPosition().toPoint(), pointed.label + u": "_s + QString::number(pointed.value),
+                       viewport());
 }
 
 void BarChart::drawForeground(QPainter* painter, const QRectF& rect)

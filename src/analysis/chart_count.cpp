@@ -1,7 +1,7 @@
 #include "analysis/chart_count.h"
 
-#include "draws/game.h"
-#include "platform/numbers.h"
+#include "base/numbers.h"
+#include "game/game.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "analysis/chart_texts.h"
 
-#include "platform/theme.h"
+#include "look/theme.h"
 
 #include <QFontMetricsF>
 #include <QGraphicsSimpleTextItem>

@@ -1,9 +1,11 @@
 #include "analysis/charts.h"
 
-#include "draws/ball_colours.h"
-#include "draws/game.h"
+#include "game/ball_colours.h"
+#include "game/game.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,12 +19,12 @@ QString NumberLabel(int bar)
 
 QString BandLabel(int bar)
 {
-    return QStringLiteral("%1 - %2").arg(bar == 1 ? 1 : 10 * (bar - 1)).arg(10 * bar - 1);
+    return u"%1 - %2"_s.arg(bar == 1 ? 1 : 10 * (bar - 1)).arg(10 * bar - 1);
 }
 
 QString OddOrEvenLabel(int bar)
 {
-    return bar == 1 ? QStringLiteral("Odd") : QStringLiteral("Even");
+    return bar == 1 ? u"Odd"_s : u"Even"_s;
 }
 
 QString MachineLabel(int bar)
@@ -33,7 +35,7 @@ QString MachineLabel(int bar)
 
 QString BallSetLabel(int bar)
 {
-    return QStringLiteral("Set %1").arg(bar);
+    return u"Set %1"_s.arg(bar);
 }
 
 BarColour ColourOfBand(int bar)
@@ -110,7 +112,7 @@ constexpr Chart Charts[] = {
 
 QString Chart::Title() const
 {
-    return game->name + QStringLiteral(" Draw");
+    return game->name + u" Draw"_s;
 }
 
 QString Chart::Description(BallType type) const

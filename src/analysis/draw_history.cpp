@@ -1,7 +1,7 @@
 #include "analysis/draw_history.h"
 
-#include "draws/draw_tables.h"
-#include "shell/open_databases.h"
+#include "store/draw_tables.h"
+#include "store/open_databases.h"
 
 namespace {
 

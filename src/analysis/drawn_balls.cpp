@@ -1,6 +1,6 @@
 #include "analysis/drawn_balls.h"
 
-#include "draws/game.h"
+#include "game/game.h"
 
 SlotRange SlotsOf(const Game& game, BallType type)
 {

@@ -2,14 +2,19 @@
 
 #include "analysis/bar_chart.h"
 #include "analysis/draw_history.h"
-#include "platform/card.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/page_frame.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/theme.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,21 +24,21 @@ constexpr QSize DefaultSize(1000, 640);
 
 GraphWindow::GraphWindow(QWidget* parent)
     : QDialog(parent),
-      title(MakeLabel({}, TextRole::Title, QStringLiteral("title"))),
-      description(MakeLabel({}, TextRole::Body, QStringLiteral("description"))),
-      typelabel(MakeLabel(QStringLiteral("Ball type to count"), TextRole::Caption, QStringLiteral("typelabel"))),
+      title(MakeLabel({}, TextRole::Title, u"title"_s)),
+      description(MakeLabel({}, TextRole::Body, u"description"_s)),
+      typelabel(MakeLabel(u"Ball type to count"_s, TextRole::Caption, u"typelabel"_s)),
       balltype(new QComboBox),
       graph(new BarChart),
-      back(new Button(QStringLiteral("BACK"), QStringLiteral("back")))
+      back(new Button(u"BACK"_s, u"back"_s))
 {
-    setObjectName(QStringLiteral("frmgraph"));
+    setObjectName(u"frmgraph"_s);
     setWindowTitle(ApplicationTitle);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     description->setWordWrap(true);
     description->setForegroundRole(QPalette::PlaceholderText);
-    balltype->setObjectName(QStringLiteral("balltype"));
+    balltype->setObjectName(u"balltype"_s);
     balltype->setAccessibleName(typelabel->text());
-    graph->setObjectName(QStringLiteral("graph"));
+    graph->setObjectName(u"graph"_s);
     BuildLayout();
     resize(DefaultSize);
     ConnectGuarded(balltype, &QComboBox::currentIndexChanged, this, [this](int index) { balltype_Click(index); });
@@ -81,13 +86,12 @@ void GraphWindow::PrepareChart(int chartNumber)
     {
         const QSignalBlocker unheard(balltype);
         balltype->clear();
-        balltype->addItems(
-            {QStringLiteral("Main balls only"), QStringLiteral("Bonus balls only"), QStringLiteral("All balls")});
+        balltype->addItems({u"Main balls only"_s, u"Bonus balls only"_s, u"All balls"_s});
         balltype->setCurrentIndex(static_cast<int>(ballType));
     }
     (hasOption ? static_cast<QWidget*>(balltype) : back)->setFocus();
     title->setText(chart->Title());
-    graph->setAccessibleName(QStringLiteral("Bar chart, %1").arg(chart->Title()));
+    graph->setAccessibleName(u"Bar chart, %1"_s.arg(chart->Title()));
     count = CountChart(*chart);
     ComputeChart();
 }
@@ -97,7 +101,7 @@ void GraphWindow::ComputeChart()
     description->setText(chart->Description(ballType));
     aborted = count->IsEmpty();
     if (aborted) {
-        ShowMessage(QStringLiteral("There are no draws in the database."));
+        ShowMessage(u"There are no draws in the database."_s);
         reject();
         return;
     }

@@ -2,9 +2,10 @@
 
 #include "analysis/analysis_screens.h"
 #include "analysis/bar_colours.h"
-#include "draws/ball_colours.h"
-#include "draws/game.h"
-#include "platform/theme.h"
+#include "game/ball_colours.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
 
 #include <QFocusEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/enter_button.h"
+#include "look/button.h"
 
 struct AnalysisScreen;
 struct Game;

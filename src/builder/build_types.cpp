@@ -1,64 +1,62 @@
 #include "builder/build_types.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 BuildType RandomType()
 {
-    return {QStringLiteral("Random"),
-            QStringLiteral("1 to 200 entries"),
-            QStringLiteral("How many entries?"),
+    return {u"Random"_s,
+            u"1 to 200 entries"_s,
+            u"How many entries?"_s,
             OptionInput::Count,
             {},
-            {QStringLiteral("With this build type, the numbers in your"),
-             QStringLiteral("entries are chosen purely at random, just like"),
-             QStringLiteral("a lucky dip ticket, so a win is NOT guaranteed.")}};
+            {u"With this build type, the numbers in your"_s, u"entries are chosen purely at random, just like"_s,
+             u"a lucky dip ticket, so a win is NOT guaranteed."_s}};
 }
 
 BuildType KeyNumbersType()
 {
-    return {QStringLiteral("Key Numbers"),
-            QStringLiteral("12 to 23 entries"),
-            QStringLiteral("How many key numbers?"),
+    return {u"Key Numbers"_s,
+            u"12 to 23 entries"_s,
+            u"How many key numbers?"_s,
             OptionInput::Option,
-            {{QStringLiteral("2 Key Numbers (12 entries)"), 2},
-             {QStringLiteral("3 Key Numbers (16 entries)"), 3},
-             {QStringLiteral("4 Key Numbers (23 entries)"), 4}},
-            {QStringLiteral("With this build type, your chosen key numbers are on"),
-             QStringLiteral("every entry and every other number is covered across the entries,"),
-             QStringLiteral("so if two of your key numbers are drawn, you are"),
-             QStringLiteral("guaranteed to win at least 4 x 3match (£40)."),
-             QStringLiteral("If you match 3 of your key numbers, EVERY line wins!!")}};
+            {{u"2 Key Numbers (12 entries)"_s, 2},
+             {u"3 Key Numbers (16 entries)"_s, 3},
+             {u"4 Key Numbers (23 entries)"_s, 4}},
+            {u"With this build type, your chosen key numbers are on"_s,
+             u"every entry and every other number is covered across the entries,"_s,
+             u"so if two of your key numbers are drawn, you are"_s, u"guaranteed to win at least 4 x 3match (£40)."_s,
+             u"If you match 3 of your key numbers, EVERY line wins!!"_s}};
 }
 
 BuildType WheeledPairsType()
 {
-    return {QStringLiteral("Wheeled Pairs"),
-            QStringLiteral("4 to 120 entries"),
-            QStringLiteral("Which wheel option?"),
+    return {u"Wheeled Pairs"_s,
+            u"4 to 120 entries"_s,
+            u"Which wheel option?"_s,
             OptionInput::Option,
-            {{QStringLiteral("8 Number Wheel (4 entries)"), 8},
-             {QStringLiteral("10 Number Wheel (10 entries)"), 10},
-             {QStringLiteral("12 Number Wheel (20 entries)"), 12},
-             {QStringLiteral("14 Number Wheel (35 entries)"), 14},
-             {QStringLiteral("16 Number Wheel (56 entries)"), 16},
-             {QStringLiteral("18 Number Wheel (84 entries)"), 18},
-             {QStringLiteral("20 Number Wheel (120 entries)"), 20}},
-            {QStringLiteral("With this build type, your chosen numbers are put into pairs,"),
-             QStringLiteral("and every pair is matched with every other pair,"),
-             QStringLiteral("so if three of your numbers are drawn,"),
-             QStringLiteral("you are guaranteed to win at least 1 x 3match (£10).")}};
+            {{u"8 Number Wheel (4 entries)"_s, 8},
+             {u"10 Number Wheel (10 entries)"_s, 10},
+             {u"12 Number Wheel (20 entries)"_s, 12},
+             {u"14 Number Wheel (35 entries)"_s, 14},
+             {u"16 Number Wheel (56 entries)"_s, 16},
+             {u"18 Number Wheel (84 entries)"_s, 18},
+             {u"20 Number Wheel (120 entries)"_s, 20}},
+            {u"With this build type, your chosen numbers are put into pairs,"_s,
+             u"and every pair is matched with every other pair,"_s, u"so if three of your numbers are drawn,"_s,
+             u"you are guaranteed to win at least 1 x 3match (£10)."_s}};
 }
 
 BuildType FullSelectionType()
 {
-    return {QStringLiteral("Full Selection"),
-            QStringLiteral("9 entries"),
-            QStringLiteral("No options available"),
+    return {u"Full Selection"_s,
+            u"9 entries"_s,
+            u"No options available"_s,
             OptionInput::Nothing,
             {},
-            {QStringLiteral("With this build type, you are guaranteed to"),
-             QStringLiteral("have every ball drawn, but they may be on"),
-             QStringLiteral("different entries, so a win is NOT guaranteed.")}};
+            {u"With this build type, you are guaranteed to"_s, u"have every ball drawn, but they may be on"_s,
+             u"different entries, so a win is NOT guaranteed."_s}};
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "builder/entry_builders.h"
 
-#include "platform/random_source.h"
+#include "builder/random_source.h"
 
 #include <algorithm>
 #include <cstddef>

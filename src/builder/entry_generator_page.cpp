@@ -1,25 +1,30 @@
 #include "builder/entry_generator_page.h"
 
-#include "builder/built_entries.h"
+#include "base/numbers.h"
+#include "builder/draw_day_window.h"
 #include "builder/number_window.h"
+#include "builder/random_source.h"
 #include "builder/step_card.h"
-#include "draws/game.h"
-#include "platform/card_row.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
-#include "platform/random_source.h"
-#include "platform/rolling_area.h"
-#include "platform/text_box.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
-#include "users/draw_day_window.h"
-#include "users/user_records.h"
+#include "controls/card_row.h"
+#include "controls/guard.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
+#include "controls/scrolling_content.h"
+#include "controls/text_box.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/entry_changes.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QPushButton>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,12 +39,12 @@ std::vector<EntryRow> AsEntries(const std::vector<Line>& lines)
 } // namespace
 
 EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
-    : PageFrame(26, QStringLiteral("Main Draw Entry Generator")),
+    : PageFrame(26, u"Main Draw Entry Generator"_s),
       pages(pageSwitch),
       card(new StepCard),
       F26combo(card->F26combo),
       gridCard(KeepingRoom(new Card)),
-      F26grid(new GridView(QStringLiteral("F26grid"), QStringLiteral("Built entries")))
+      F26grid(new GridView(u"F26grid"_s, u"Built entries"_s))
 {
     F26grid->setModel(&lines);
     F26grid->SetColumnShares(EntryGridModel::ColumnShares());
@@ -51,7 +56,7 @@ EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
     cards->addWidget(card, 5, Qt::AlignTop);
     cards->addWidget(gridCard, 6);
     Body()->addWidget(new RollingArea(both), 1);
-    F26store = KeepingRoom(AddFooterDefault(QStringLiteral("Store Entries"), QStringLiteral("F26store")));
+    F26store = KeepingRoom(AddFooterDefault(u"Store Entries"_s, u"F26store"_s));
     ConnectHandlers();
 }
 
@@ -76,7 +81,7 @@ void EntryGeneratorPage::Prepare()
     const std::vector<UserRow> allUsers = ReadAllUsers(users);
     if (allUsers.empty()) {
         pages.ChooseMenu(3, 1);
-        ShowMessage(QStringLiteral("You cannot store entries until you have created a user profile."));
+        ShowMessage(u"You cannot store entries until you have created a user profile."_s);
         return;
     }
     for (const UserRow& user : allUsers)
@@ -213,15 +218,15 @@ void EntryGeneratorPage::StoreBuiltEntries()
     const QString userName = F26combo[0]->currentText();
     RaiseLimit raise = RaiseLimit::No;
     if (ExceedsSpendLimit(userName, lines.rowCount())) {
-        if (!AskYesNo(QStringLiteral("This users spend limit is to low to allow you to store these entries.") + Crlf +
-                      QStringLiteral("Do you want to raise the spend limit."))) {
-            ShowMessage(QStringLiteral("These entries have NOT been stored."));
+        if (!AskYesNo(u"This users spend limit is to low to allow you to store these entries."_s + Crlf +
+                      u"Do you want to raise the spend limit."_s)) {
+            ShowMessage(u"These entries have NOT been stored."_s);
             return;
         }
         raise = RaiseLimit::Yes;
     }
     DrawDayWindow(state.BuilderDays, this).exec();
     StoreEntriesOfUser(userName, lines.Rows(), state.BuilderDays, raise);
-    ShowMessage(QStringLiteral("The entries have been stored."));
+    ShowMessage(u"The entries have been stored."_s);
     Prepare();
 }

@@ -3,7 +3,7 @@
 #include "builder/builder_state.h"
 #include "builder/builder_steps.h"
 #include "builder/entry_builders.h"
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
 #include "users/entry_grid_model.h"
 
 #include <array>

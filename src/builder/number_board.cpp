@@ -1,14 +1,18 @@
 #include "builder/number_board.h"
 
-#include "draws/ball_colours.h"
-#include "draws/game.h"
-#include "platform/ball_disc.h"
-#include "platform/page_frame.h"
+#include "balls/ball_disc.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "game/ball_colours.h"
+#include "game/game.h"
+#include "look/theme.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,8 +33,8 @@ class NumberToggle : public QCheckBox
 public:
     explicit NumberToggle(int number) : QCheckBox(QString::number(number)), colours(ColoursOfBall(MainGame, 0, number))
     {
-        setObjectName(ElementName(QStringLiteral("n"), number));
-        setAccessibleName(QStringLiteral("Number %1").arg(number));
+        setObjectName(ElementName(u"n"_s, number));
+        setAccessibleName(u"Number %1"_s.arg(number));
         setFocusPolicy(Qt::ClickFocus);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         connect(this, &QCheckBox::toggled, this, &NumberToggle::TakeColours);
@@ -103,7 +107,7 @@ private:
 NumberBoard::NumberBoard(QWidget* parent) : QWidget(parent)
 {
     auto* grid = new QGridLayout(this);
-    setAccessibleName(QStringLiteral("Numbers 1 to 49"));
+    setAccessibleName(u"Numbers 1 to 49"_s);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(Spacing::Inside / 2);
     for (int number = 1; number <= HighestNumber; ++number) {

@@ -1,25 +1,30 @@
 #include "builder/number_window.h"
 
 #include "builder/number_board.h"
-#include "platform/card.h"
-#include "platform/guard.h"
-#include "platform/page_frame.h"
-#include "platform/random_source.h"
+#include "builder/random_source.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/theme.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     : QDialog(parent),
       state(builderState),
       board(new NumberBoard),
-      countLabel(MakeLabel({}, TextRole::Body, QStringLiteral("Label_1"))),
-      store(new Button(QStringLiteral("Store"), QStringLiteral("store")))
+      countLabel(MakeLabel({}, TextRole::Body, u"Label_1"_s)),
+      store(new Button(u"Store"_s, u"store"_s))
 {
-    setObjectName(QStringLiteral("frmnumsel"));
-    setWindowTitle(QStringLiteral("Tavenor 3 --- Number Selection"));
+    setObjectName(u"frmnumsel"_s);
+    setWindowTitle(u"Tavenor 3 --- Number Selection"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
     layout->setSpacing(Spacing::Between);
@@ -48,8 +53,7 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     store->setDefault(true);
     board->setFocus();
 
-    layout->addWidget(MakeLabel(QStringLiteral("Select %1 numbers.").arg(state.NumbersRequired), TextRole::Heading,
-                                QStringLiteral("Label_0")));
+    layout->addWidget(MakeLabel(u"Select %1 numbers."_s.arg(state.NumbersRequired), TextRole::Heading, u"Label_0"_s));
     layout->addWidget(countLabel);
     layout->addWidget(card);
     layout->addLayout(fillRow);
@@ -67,8 +71,8 @@ void NumberWindow::UpdateSelectionCount()
 {
     const int count = static_cast<int>(board->TickedNumbers().size());
     store->setVisible(count == state.NumbersRequired);
-    countLabel->setText(count == 1 ? QStringLiteral("Your have 1 number selected.")
-                                   : QStringLiteral("Your have %1 numbers selected.").arg(count));
+    countLabel->setText(count == 1 ? u"Your have 1 number selected."_s
+                                   : u"Your have %1 numbers selected."_s.arg(count));
 }
 
 void NumberWindow::random_Click()

@@ -1,18 +1,23 @@
 #include "builder/step_card.h"
 
-#include "platform/page_frame.h"
-#include "platform/text_box.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "controls/text_box.h"
+#include "look/button.h"
+#include "look/theme.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 QComboBox* MakeList(int index, const QString& caption)
 {
     auto* list = KeepingRoom(new QComboBox);
-    list->setObjectName(ElementName(QStringLiteral("F26combo"), index));
+    list->setObjectName(ElementName(u"F26combo"_s, index));
     list->setAccessibleName(caption);
     // A long name is cut off in the list; it does not widen the page.
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -23,8 +28,8 @@ QComboBox* MakeList(int index, const QString& caption)
 TextBox* MakeCountBox()
 {
     auto* box = KeepingRoom(new TextBox);
-    box->setObjectName(QStringLiteral("F26text"));
-    box->setText(QStringLiteral("200"));
+    box->setObjectName(u"F26text"_s);
+    box->setText(u"200"_s);
     box->setFixedWidth(box->fontMetrics().averageCharWidth() * 16);
     return box;
 }
@@ -36,14 +41,13 @@ Button* MakeButton(const char* caption, const char* name)
 
 QLabel* MakeStepLabel(const char* caption, TextRole role, int index)
 {
-    return KeepingRoom(MakeLabel(QLatin1String(caption), role, ElementName(QStringLiteral("Label"), index)));
+    return KeepingRoom(MakeLabel(QLatin1String(caption), role, ElementName(u"Label"_s, index)));
 }
 
 } // namespace
 
 StepCard::StepCard()
-    : F26combo{MakeList(0, QStringLiteral("Select User")), MakeList(1, QStringLiteral("Select Build Type")),
-               MakeList(2, QStringLiteral("Select Options"))},
+    : F26combo{MakeList(0, u"Select User"_s), MakeList(1, u"Select Build Type"_s), MakeList(2, u"Select Options"_s)},
       F26text(MakeCountBox()),
       F26info(MakeButton("i", "F26info")),
       F26choose(MakeButton("Choose Numbers", "F26choose")),
@@ -52,7 +56,7 @@ StepCard::StepCard()
       promptLabel(MakeStepLabel("How many entries? (1 - 200)", TextRole::Caption, 9)),
       noNumbersLabel(MakeStepLabel("No numbers needed", TextRole::Body, 12))
 {
-    F26info->setAccessibleName(QStringLiteral("About this build type"));
+    F26info->setAccessibleName(u"About this build type"_s);
     F26info->setFixedWidth(F26info->sizeHint().height());
     F26go->MakeAccent();
     Content()->setSpacing(Spacing::Inside);

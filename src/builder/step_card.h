@@ -1,7 +1,7 @@
 #pragma once
 
 #include "builder/builder_steps.h"
-#include "platform/card.h"
+#include "controls/card.h"
 
 #include <array>
 

@@ -1,14 +1,17 @@
 #include "checking/check_page.h"
 
-#include "draws/draw_records.h"
-#include "platform/card.h"
-#include "platform/card_row.h"
-#include "platform/dates.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
-#include "users/user_records.h"
+#include "base/dates.h"
+#include "controls/card.h"
+#include "controls/card_row.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -19,9 +22,11 @@
 #include <QTextCursor>
 #include <QTextEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString AllUsers = QStringLiteral("All Users");
+const QString AllUsers = u"All Users"_s;
 
 QRadioButton* MakeOption(const QString& caption, const QString& name)
 {
@@ -60,35 +65,35 @@ void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRad
 } // namespace
 
 CheckPage::CheckPage(PageSwitch& pageSwitch)
-    : PageFrame(12, QStringLiteral("Check Entries")),
+    : PageFrame(12, u"Check Entries"_s),
       pages(pageSwitch),
       F12user(new QComboBox),
-      F12typem(MakeOption(QStringLiteral("Main"), QStringLiteral("F12typem"))),
-      F12typet(MakeOption(QStringLiteral("Thunderball"), QStringLiteral("F12typet"))),
-      F12typeb(MakeOption(QStringLiteral("Both"), QStringLiteral("F12typeb"))),
-      F12datelatest(MakeOption(QStringLiteral("Latest Draw"), QStringLiteral("F12datelatest"))),
-      F12dateselect(MakeOption(QStringLiteral("Select Date"), QStringLiteral("F12dateselect"))),
+      F12typem(MakeOption(u"Main"_s, u"F12typem"_s)),
+      F12typet(MakeOption(u"Thunderball"_s, u"F12typet"_s)),
+      F12typeb(MakeOption(u"Both"_s, u"F12typeb"_s)),
+      F12datelatest(MakeOption(u"Latest Draw"_s, u"F12datelatest"_s)),
+      F12dateselect(MakeOption(u"Select Date"_s, u"F12dateselect"_s)),
       F12cal(new QDateEdit),
       F12text(new QTextEdit)
 {
     BuildCards();
-    F12clear = AddFooterButton(QStringLiteral("Clear"), QStringLiteral("F12clear"));
-    F12print = AddFooterButton(QStringLiteral("Print"), QStringLiteral("F12print"));
-    F12check = AddFooterDefault(QStringLiteral("Check Now"), QStringLiteral("F12check"));
+    F12clear = AddFooterButton(u"Clear"_s, u"F12clear"_s);
+    F12print = AddFooterButton(u"Print"_s, u"F12print"_s);
+    F12check = AddFooterDefault(u"Check Now"_s, u"F12check"_s);
     ConnectHandlers();
 }
 
 void CheckPage::BuildCards()
 {
-    F12user->setObjectName(QStringLiteral("F12user"));
-    F12user->setAccessibleName(QStringLiteral("User"));
+    F12user->setObjectName(u"F12user"_s);
+    F12user->setAccessibleName(u"User"_s);
     F12user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     F12user->setMinimumContentsLength(7);
-    F12cal->setObjectName(QStringLiteral("F12cal"));
-    F12cal->setAccessibleName(QStringLiteral("Date of the draw"));
+    F12cal->setObjectName(u"F12cal"_s);
+    F12cal->setAccessibleName(u"Date of the draw"_s);
     F12cal->setCalendarPopup(true);
-    F12text->setObjectName(QStringLiteral("F12text"));
-    F12text->setAccessibleName(QStringLiteral("Report"));
+    F12text->setObjectName(u"F12text"_s);
+    F12text->setAccessibleName(u"Report"_s);
     F12text->setReadOnly(true);
     F12text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     F12text->setUndoRedoEnabled(false);
@@ -98,12 +103,12 @@ void CheckPage::BuildCards()
     digits.setPointSizeF(FontFor(TextRole::Body).pointSizeF());
     F12text->setFont(digits);
 
-    Card* userCard = MakeGroup(QStringLiteral("User"), QStringLiteral("F12label1"), QStringLiteral("F12shape1"));
+    Card* userCard = MakeGroup(u"User"_s, u"F12label1"_s, u"F12shape1"_s);
     userCard->Content()->addWidget(F12user);
-    Card* typeCard = MakeGroup(QStringLiteral("Draw Type"), QStringLiteral("F12label2"), QString());
-    AddOptions(typeCard, QStringLiteral("F12frame1"), {F12typem, F12typet, F12typeb});
-    Card* dateCard = MakeGroup(QStringLiteral("Date"), QStringLiteral("F12label3"), QStringLiteral("F12shape2"));
-    AddOptions(dateCard, QStringLiteral("F12frame2"), {F12datelatest, F12dateselect});
+    Card* typeCard = MakeGroup(u"Draw Type"_s, u"F12label2"_s, QString());
+    AddOptions(typeCard, u"F12frame1"_s, {F12typem, F12typet, F12typeb});
+    Card* dateCard = MakeGroup(u"Date"_s, u"F12label3"_s, u"F12shape2"_s);
+    AddOptions(dateCard, u"F12frame2"_s, {F12datelatest, F12dateselect});
     dateCard->Content()->addWidget(F12cal);
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
@@ -135,8 +140,8 @@ void CheckPage::Prepare()
     users.MoveFirst();
     if (users.IsEmpty()) {
         pages.ChooseMenu(3, 1);
-        ShowMessage(QStringLiteral("You cannot check entries until you have") + Crlf +
-                    QStringLiteral("created a user profile and created entries."));
+        ShowMessage(u"You cannot check entries until you have"_s + Crlf +
+                    u"created a user profile and created entries."_s);
         return;
     }
     FillCheckUserList();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "checking/check_report.h"
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
 
 class PageSwitch;
 class QComboBox;

@@ -1,10 +1,12 @@
 #include "checking/check_report.h"
 
-#include "platform/dates.h"
+#include "base/dates.h"
 
 #include <algorithm>
 #include <charconv>
 #include <unordered_map>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,12 +22,10 @@ struct GameWords
     QLatin1String indent;
 };
 
-const GameWords MainWords{QLatin1String("Main"), QLatin1String(" + bonus. "),
-                          QLatin1String("  No main draw on this date."),
-                          QLatin1String("    No main entries on this date."), QLatin1String(" ")};
-const GameWords ThunderballWords{QLatin1String("Thunderball"), QLatin1String(" + thunderball. "),
-                                 QLatin1String("  No thunderball draw on this date."),
-                                 QLatin1String("    No thunderball entries on this date."), QLatin1String("   ")};
+const GameWords MainWords{"Main"_L1, " + bonus. "_L1, "  No main draw on this date."_L1,
+                          "    No main entries on this date."_L1, " "_L1};
+const GameWords ThunderballWords{"Thunderball"_L1, " + thunderball. "_L1, "  No thunderball draw on this date."_L1,
+                                 "    No thunderball entries on this date."_L1, "   "_L1};
 
 const GameWords& WordsOf(const Game& game)
 {
@@ -62,12 +62,12 @@ void AppendResult(QString& text, const Game& game, const EntryResult& result)
     const GameWords& words = WordsOf(game);
     text += words.indent;
     AppendSpaced(text, result.mainMatches);
-    text += QLatin1String(" main ball");
+    text += " main ball"_L1;
     if (result.mainMatches != 1)
         text += u's';
-    text += result.extraMatched ? words.extraMatched : QLatin1String(". ");
+    text += result.extraMatched ? words.extraMatched : ". "_L1;
     if (IsWin(game, result))
-        text += QLatin1String("<<WIN>>");
+        text += "<<WIN>>"_L1;
     text += LineBreak;
 }
 
@@ -79,15 +79,14 @@ void AppendSection(QString& text, const CheckedGame& checked, const std::vector<
         text += words.noDraw + LineBreak;
         return;
     }
-    text += QLatin1String("  Draw type: ") + words.game + QLatin1String(" (") + ShortDate(checked.draw->date) + u')' +
-            LineBreak;
+    text += "  Draw type: "_L1 + words.game + " ("_L1 + ShortDate(checked.draw->date) + u')' + LineBreak;
     if (played == nullptr) {
         text += words.noEntries + LineBreak;
         return;
     }
     int counter = 1;
     for (const std::size_t index : *played) {
-        text += QLatin1String("   ");
+        text += "   "_L1;
         AppendSpaced(text, counter++);
         text += u'>';
         AppendResult(text, *checked.game, CompareEntry(*checked.game, entries[index], *checked.draw));
@@ -130,13 +129,13 @@ CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const
         report.emphasised.push_back({report.text.size(), line.size()});
         report.text += line;
     };
-    appendEmphasised(QLatin1String("Tavenor v3.0") + LineBreak + LineBreak);
+    appendEmphasised("Tavenor v3.0"_L1 + LineBreak + LineBreak);
     if (entries.empty()) {
-        report.text += QLatin1String("There are no user entries stored.");
+        report.text += "There are no user entries stored."_L1;
         return report;
     }
     for (const CheckedUser& user : users) {
-        appendEmphasised(QLatin1String("User: ") + user.name + LineBreak);
+        appendEmphasised("User: "_L1 + user.name + LineBreak);
         for (std::size_t i = 0; i < games.size(); ++i) {
             const auto found = played[i].find(user.number);
             AppendSection(report.text, games[i], found == played[i].end() ? nullptr : &found->second, entries);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "draws/game.h"
-#include "users/entry_row.h"
+#include "game/entry_row.h"
+#include "game/game.h"
 
 #include <QDate>
 #include <QString>

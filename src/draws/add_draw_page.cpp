@@ -1,19 +1,25 @@
 #include "draws/add_draw_page.h"
 
-#include "draws/draw_controls.h"
+#include "controls/card.h"
+#include "controls/card_row.h"
+#include "controls/guard.h"
+#include "controls/message_box.h"
+#include "controls/month_calendar.h"
 #include "draws/draw_prompt.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/card_row.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/month_calendar.h"
-#include "shell/open_databases.h"
+#include "draws/machine_fields.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/open_databases.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -45,7 +51,7 @@ const PageTexts& TextsOf(const Game& game)
 
 QString ControlName(const Game& game, const char* name)
 {
-    return QStringLiteral("F%1%2").arg(TextsOf(game).page).arg(QLatin1String(name));
+    return u"F%1%2"_s.arg(TextsOf(game).page).arg(QLatin1String(name));
 }
 
 } // namespace
@@ -62,10 +68,10 @@ AddDrawPage::AddDrawPage(const Game& drawGame)
     calendar->setObjectName(QLatin1String(TextsOf(game).calendar));
     balls->SetRule(AddingRule(game));
     if (!game.hasMachine)
-        balls->Caption(0)->setObjectName(QStringLiteral("F7Tabel"));
+        balls->Caption(0)->setObjectName(u"F7Tabel"_s);
     BuildCards();
-    reset = AddFooterButton(QStringLiteral("Reset"), ControlName(game, "Reset"));
-    store = AddFooterDefault(QStringLiteral("Store"), ControlName(game, "Store"));
+    reset = AddFooterButton(u"Reset"_s, ControlName(game, "Reset"));
+    store = AddFooterDefault(u"Store"_s, ControlName(game, "Store"));
     ConnectGuarded(calendar, &MonthCalendar::DateChosen, this, [this] { balls->FocusField(0); });
     ConnectGuarded(balls, &BallFields::Completed, this, [this] {
         (machine != nullptr ? static_cast<QWidget*>(machine) : store)->setFocus(Qt::TabFocusReason);
@@ -83,8 +89,8 @@ void AddDrawPage::BuildCards()
     drawCard->setObjectName(QLatin1String(TextsOf(game).frame));
     drawCard->Content()->addWidget(balls);
     if (game.hasMachine) {
-        machine = MakeEditableList(ControlName(game, "Mmachine"), QStringLiteral("Machine"));
-        ballSet = MakeEditableList(ControlName(game, "Mballset"), QStringLiteral("Set of Balls"));
+        machine = MakeEditableList(ControlName(game, "Mmachine"), u"Machine"_s);
+        ballSet = MakeEditableList(ControlName(game, "Mballset"), u"Set of Balls"_s);
         drawCard->Content()->addSpacing(Spacing::Between);
         drawCard->Content()->addLayout(MakeMachineForm(machine, ballSet, QLatin1String(TextsOf(game).caption)));
     }
@@ -110,14 +116,14 @@ void AddDrawPage::Prepare()
 void AddDrawPage::Store_Click()
 {
     if (!BallsAreValid()) {
-        ShowMessage(QStringLiteral("Error detected in the data that you entered.") + Crlf +
-                    QStringLiteral("Please re-check and press 'Store' again."));
+        ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
+                    u"Please re-check and press 'Store' again."_s);
         return;
     }
     balls->Sort(game.mainBalls);
     balls->Recolour();
     if (!StoreDraw(ReadControls())) {
-        ShowMessage(QStringLiteral("The data has NOT been stored."));
+        ShowMessage(u"The data has NOT been stored."_s);
         return;
     }
     DrawListOf(game).Requery();

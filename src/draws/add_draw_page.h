@@ -1,7 +1,7 @@
 #pragma once
 
-#include "draws/draw_records.h"
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
+#include "store/draw_records.h"
 
 #include <optional>
 

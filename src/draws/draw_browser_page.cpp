@@ -1,17 +1,22 @@
 #include "draws/draw_browser_page.h"
 
-#include "draws/ball_row.h"
-#include "draws/draw_records.h"
+#include "balls/ball_row.h"
+#include "controls/card.h"
+#include "controls/card_row.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/month_calendar.h"
+#include "controls/scrolling_content.h"
 #include "draws/draw_view.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/card_row.h"
-#include "platform/guard.h"
-#include "platform/month_calendar.h"
-#include "platform/rolling_area.h"
-#include "shell/open_databases.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
 
 #include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,7 +27,7 @@ bool IsMain(const Game& game)
 
 QString ControlName(const Game& game, const char* name)
 {
-    return QStringLiteral("F9%1%2").arg(game.name.at(0)).arg(QLatin1String(name));
+    return u"F9%1%2"_s.arg(game.name.at(0)).arg(QLatin1String(name));
 }
 
 QString GameInSentence(const Game& game)
@@ -41,11 +46,11 @@ BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
       draw(new DrawView(game,
                         {QString(), ControlName(game, "ballnum"), ControlName(game, "ball"), ControlName(game, "label"),
                          ControlName(game, "machine"), ControlName(game, "setofballs")},
-                        {QStringLiteral("Machine:  "), QStringLiteral("Set of balls:  ")})),
-      noDraw(MakeLabel(QStringLiteral("There was no %1 draw on this date.").arg(GameInSentence(game)), TextRole::Body,
+                        {u"Machine:  "_s, u"Set of balls:  "_s})),
+      noDraw(MakeLabel(u"There was no %1 draw on this date."_s.arg(GameInSentence(game)), TextRole::Body,
                        ControlName(game, "nodraw"), card)),
-      back(new Button(QStringLiteral("<"), ControlName(game, "back"), card)),
-      forward(new Button(QStringLiteral(">"), ControlName(game, "forward"), card))
+      back(new Button(u"<"_s, ControlName(game, "back"), card)),
+      forward(new Button(u">"_s, ControlName(game, "forward"), card))
 {
     draw->Balls()->MakeCompact();
     AddArrows();
@@ -64,8 +69,8 @@ BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
 void BrowserSection::AddArrows()
 {
     auto* heading = new QHBoxLayout;
-    heading->addWidget(MakeLabel(IsMain(game) ? QStringLiteral("Main Draw") : QStringLiteral("Thunderball Draw"),
-                                 TextRole::Heading, ControlName(game, "labelmain")),
+    heading->addWidget(MakeLabel(IsMain(game) ? u"Main Draw"_s : u"Thunderball Draw"_s, TextRole::Heading,
+                                 ControlName(game, "labelmain")),
                        1);
     for (Button* arrow : {back, forward}) {
         QSizePolicy keepsItsPlace = arrow->sizePolicy();
@@ -74,9 +79,9 @@ void BrowserSection::AddArrows()
         arrow->setMaximumHeight(arrow->fontMetrics().height() + Spacing::Between);
         heading->addWidget(arrow);
     }
-    const QString which = QStringLiteral("%1 %2 draw of this date");
-    back->setAccessibleName(which.arg(QStringLiteral("Previous"), GameInSentence(game)));
-    forward->setAccessibleName(which.arg(QStringLiteral("Next"), GameInSentence(game)));
+    const QString which = u"%1 %2 draw of this date"_s;
+    back->setAccessibleName(which.arg(u"Previous"_s, GameInSentence(game)));
+    forward->setAccessibleName(which.arg(u"Next"_s, GameInSentence(game)));
     card->Content()->addLayout(heading);
 }
 
@@ -126,12 +131,12 @@ void BrowserSection::ShowDraw()
 }
 
 DrawBrowserPage::DrawBrowserPage()
-    : PageFrame(9, QStringLiteral("View Any Single Draw")),
+    : PageFrame(9, u"View Any Single Draw"_s),
       F9Cal(new MonthCalendar(this)),
       mainSection(new BrowserSection(MainGame, this)),
       thunderballSection(new BrowserSection(ThunderballGame, this))
 {
-    F9Cal->setObjectName(QStringLiteral("F9Cal"));
+    F9Cal->setObjectName(u"F9Cal"_s);
     auto* dateCard = new Card(this);
     dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(F9Cal);

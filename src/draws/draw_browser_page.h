@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
 
 #include <QDate>
+#include <QLabel>
 
 class Card;
 class DrawView;

@@ -1,11 +1,16 @@
 #include "draws/draw_detail_page.h"
 
-#include "draws/draw_records.h"
+#include "controls/card.h"
+#include "controls/guard.h"
 #include "draws/draw_view.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/guard.h"
-#include "shell/open_databases.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
+
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,13 +21,12 @@ int PageOf(const Game& game)
 
 QString TitleOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? QStringLiteral("Main Lottery Draw")
-                                              : QStringLiteral("Thunderball Draw");
+    return game.drawType == MainGame.drawType ? u"Main Lottery Draw"_s : u"Thunderball Draw"_s;
 }
 
 QString ControlName(const Game& game, const char* name)
 {
-    return QStringLiteral("F%1%2").arg(PageOf(game)).arg(QLatin1String(name));
+    return u"F%1%2"_s.arg(PageOf(game)).arg(QLatin1String(name));
 }
 
 } // namespace
@@ -33,8 +37,8 @@ DrawDetailPage::DrawDetailPage(const Game& drawGame)
       draw(new DrawView(game,
                         {ControlName(game, "date"), ControlName(game, "number"), ControlName(game, "ball"),
                          ControlName(game, "label"), ControlName(game, "machine"), ControlName(game, "ballset")},
-                        {QStringLiteral("Machine used: "), QStringLiteral("Set of balls used: ")})),
-      back(AddFooterDefault(QStringLiteral("BACK"), ControlName(game, "back")))
+                        {u"Machine used: "_s, u"Set of balls used: "_s})),
+      back(AddFooterDefault(u"BACK"_s, ControlName(game, "back")))
 {
     auto* card = new Card;
     card->Content()->addWidget(draw);

@@ -1,14 +1,16 @@
 #include "draws/draw_grid_model.h"
 
-#include "draws/draw_records.h"
-#include "draws/draw_tables.h"
-#include "draws/game.h"
-#include "platform/dates.h"
-#include "platform/numbers.h"
-#include "platform/texts.h"
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "base/texts.h"
+#include "game/game.h"
 #include "records/record_set.h"
+#include "store/draw_records.h"
+#include "store/draw_tables.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,8 +20,7 @@ constexpr int FirstBallColumn = 2;
 
 std::vector<GridModel::Column> ColumnsOf(const Game& game)
 {
-    std::vector<GridModel::Column> columns{{QStringLiteral("Date"), Qt::AlignRight | Qt::AlignVCenter},
-                                           {QStringLiteral("Day")}};
+    std::vector<GridModel::Column> columns{{u"Date"_s, Qt::AlignRight | Qt::AlignVCenter}, {u"Day"_s}};
     for (int slot = 0; slot < game.BallCount(); ++slot)
         columns.push_back({game.BallCaption(slot)});
     return columns;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/grid_view.h"
+#include "controls/grid_model.h"
+#include "controls/grid_view.h"
 
 #include <array>
 #include <cstdint>

@@ -1,17 +1,22 @@
 #include "draws/draw_grids_page.h"
 
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
 #include "draws/draw_detail_page.h"
 #include "draws/draw_grid_model.h"
-#include "draws/draw_records.h"
 #include "draws/edit_draw_page.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
 
 #include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -47,8 +52,8 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
       model(new DrawGridModel(game, this)),
       card(new Card),
       grid(new GridView(QLatin1String(TextsOf(game).grid), QLatin1String(TextsOf(game).title))),
-      noDraws(MakeLabel(QLatin1String(TextsOf(game).noDraws), TextRole::Body,
-                        ElementName(QStringLiteral("Label"), TextsOf(game).index)))
+      noDraws(
+          MakeLabel(QLatin1String(TextsOf(game).noDraws), TextRole::Body, ElementName(u"Label"_s, TextsOf(game).index)))
 {
     grid->setModel(model);
     grid->SetColumnShares(DrawGridModel::ColumnShares(game));
@@ -60,7 +65,7 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Spacing::Inside);
     layout->addWidget(MakeLabel(QLatin1String(TextsOf(game).title), TextRole::Heading,
-                                ElementName(QStringLiteral("labeltitle"), TextsOf(game).index)));
+                                ElementName(u"labeltitle"_s, TextsOf(game).index)));
     layout->addWidget(card, 1);
     BuildButtons();
     ConnectGuarded(grid, &GridView::Opened, this, [this] { View_Click(); });
@@ -70,11 +75,11 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
 void DrawGridSection::BuildButtons()
 {
     const auto name = [this](const char* action) {
-        return QStringLiteral("F10%1%2button").arg(QLatin1String(TextsOf(game).inNames), QLatin1String(action));
+        return u"F10%1%2button"_s.arg(QLatin1String(TextsOf(game).inNames), QLatin1String(action));
     };
-    view = new Button(QStringLiteral("View in Detail"), name("view"));
-    edit = new Button(QStringLiteral("Edit"), name("edit"));
-    remove = new Button(QStringLiteral("Delete"), name("delete"));
+    view = new Button(u"View in Detail"_s, name("view"));
+    edit = new Button(u"Edit"_s, name("edit"));
+    remove = new Button(u"Delete"_s, name("delete"));
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, Spacing::Inside, 0, 0);
     row->setSpacing(Spacing::Between);
@@ -106,7 +111,7 @@ std::optional<std::int64_t> DrawGridSection::OneSelectedDraw() const
     if (rows.Count() == 1)
         return model->NumberOf(rows.first);
     if (rows.Count() > 1)
-        ShowMessage(QStringLiteral("Select only ONE draw."));
+        ShowMessage(u"Select only ONE draw."_s);
     return std::nullopt;
 }
 
@@ -127,17 +132,15 @@ void DrawGridSection::Delete_Click()
     const int count = grid->SelectedRows().Count();
     if (count == 0)
         return;
-    const QString question =
-        count == 1 ? QStringLiteral("delete this %1 draw?") : QStringLiteral("delete these %1 draws?");
-    if (!AskYesNo(QStringLiteral("Are you sure you want to") + Crlf +
-                  question.arg(QLatin1String(TextsOf(game).inQuestions)))) {
-        ShowMessage(QStringLiteral("Data delete has been aborted."));
+    const QString question = count == 1 ? u"delete this %1 draw?"_s : u"delete these %1 draws?"_s;
+    if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(QLatin1String(TextsOf(game).inQuestions)))) {
+        ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
     DeleteSelectedDraws();
     DrawListOf(game).Requery();
     Fill();
-    ShowMessage(QStringLiteral("Deleted"));
+    ShowMessage(u"Deleted"_s);
 }
 
 void DrawGridSection::DeleteSelectedDraws()
@@ -157,7 +160,7 @@ DrawGridsPage::DrawGridsPage(PageSwitch& pages)
       mainSection(new DrawGridSection(MainGame, pages)),
       thunderballSection(new DrawGridSection(ThunderballGame, pages))
 {
-    setAccessibleName(QStringLiteral("View or Edit All Draws"));
+    setAccessibleName(u"View or Edit All Draws"_s);
     Body()->addWidget(mainSection, 1);
     Body()->addWidget(thunderballSection, 1);
 }

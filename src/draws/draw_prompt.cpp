@@ -1,21 +1,25 @@
 #include "draws/draw_prompt.h"
 
-#include "platform/message_box.h"
-#include "platform/page_frame.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/theme.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent) : QDialog(parent)
 {
-    setObjectName(QStringLiteral("frmmsgbox1"));
+    setObjectName(u"frmmsgbox1"_s);
     setWindowTitle(ApplicationTitle);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
     layout->setSpacing(Spacing::Cards);
-    layout->addWidget(
-        MakeLabel(QStringLiteral("A %1 draw with this date already exists,\r\nwhat do you want to do?").arg(gameName),
-                  TextRole::Body, QStringLiteral("Label1")));
+    layout->addWidget(MakeLabel(u"A %1 draw with this date already exists,\r\nwhat do you want to do?"_s.arg(gameName),
+                                TextRole::Body, u"Label1"_s));
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing::Between);
     const auto add = [&](const char* caption, const char* name, DrawPromptChoice chosen) {

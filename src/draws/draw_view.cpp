@@ -1,13 +1,17 @@
 #include "draws/draw_view.h"
 
-#include "draws/ball_row.h"
-#include "draws/draw_controls.h"
-#include "draws/game.h"
-#include "platform/dates.h"
-#include "platform/page_frame.h"
-#include "platform/texts.h"
+#include "balls/ball_row.h"
+#include "base/dates.h"
+#include "base/texts.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "draws/machine_fields.h"
+#include "game/game.h"
+#include "look/theme.h"
 
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -33,7 +37,7 @@ DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& tex
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Spacing::Between);
     if (!names.date.isEmpty())
-        date = AddTextLabel(layout, QStringLiteral("Date"), TextRole::Heading, names.date);
+        date = AddTextLabel(layout, u"Date"_s, TextRole::Heading, names.date);
     layout->addWidget(balls);
     if (!game.hasMachine)
         return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draws/draw_row.h"
+#include "game/draw_row.h"
 
 #include <QWidget>
 

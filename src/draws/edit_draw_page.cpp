@@ -1,20 +1,25 @@
 #include "draws/edit_draw_page.h"
 
-#include "draws/draw_controls.h"
-#include "draws/draw_records.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/dates.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
-#include "platform/texts.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "base/texts.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
+#include "draws/machine_fields.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
 
 #include <QGridLayout>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,7 +44,7 @@ const PageTexts& TextsOf(const Game& game)
 
 QString ControlName(const Game& game, const char* name)
 {
-    return QStringLiteral("F%1%2").arg(TextsOf(game).page).arg(QLatin1String(name));
+    return u"F%1%2"_s.arg(TextsOf(game).page).arg(QLatin1String(name));
 }
 
 } // namespace
@@ -53,8 +58,8 @@ EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
           DrawFieldNames(game, ControlName(game, "number"), ControlName(game, "ball"), ControlName(game, "entrylabel")),
           DrawBallCaptions(game))),
       back(AddFooterButton(QLatin1String(TextsOf(game).back), ControlName(game, "back"))),
-      reset(AddFooterButton(QStringLiteral("Reset"), ControlName(game, "reset"))),
-      save(AddFooterDefault(QStringLiteral("Save Changes"), ControlName(game, "save")))
+      reset(AddFooterButton(u"Reset"_s, ControlName(game, "reset"))),
+      save(AddFooterDefault(u"Save Changes"_s, ControlName(game, "save")))
 {
     balls->SetRule(DrawEditingRule(game));
     balls->SelectTextOnFocus();
@@ -75,8 +80,8 @@ void EditDrawPage::BuildCard()
     card->Content()->addWidget(date);
     card->Content()->addWidget(balls);
     if (game.hasMachine) {
-        machine = MakeEditableList(ControlName(game, "machine"), QStringLiteral("Machine"));
-        ballSet = MakeEditableList(ControlName(game, "ballset"), QStringLiteral("Set of Balls"));
+        machine = MakeEditableList(ControlName(game, "machine"), u"Machine"_s);
+        ballSet = MakeEditableList(ControlName(game, "ballset"), u"Set of Balls"_s);
         card->Content()->addSpacing(Spacing::Between);
         card->Content()->addLayout(MakeMachineForm(machine, ballSet, ControlName(game, "entrylabel")));
     }
@@ -106,19 +111,19 @@ void EditDrawPage::Open(std::int64_t number)
 
 void EditDrawPage::Back_Click()
 {
-    if (AskYesNo(QStringLiteral("All changes will be lost, are you sure you want to continue?")))
+    if (AskYesNo(u"All changes will be lost, are you sure you want to continue?"_s))
         hide();
 }
 
 void EditDrawPage::Save_Click()
 {
     if (!IsPossibleDraw(game, balls->Numbers())) {
-        ShowMessage(QStringLiteral("Error detected in the data that you entered.") + Crlf +
-                    QStringLiteral("Please re-check and press 'Save Changes' again."));
+        ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
+                    u"Please re-check and press 'Save Changes' again."_s);
         return;
     }
-    if (!AskYesNo(QStringLiteral("Are you sure you want to replace the old data with this new data?"))) {
-        ShowMessage(QStringLiteral("New data has NOT been stored"));
+    if (!AskYesNo(u"Are you sure you want to replace the old data with this new data?"_s)) {
+        ShowMessage(u"New data has NOT been stored"_s);
         return;
     }
     balls->Sort(game.mainBalls);

@@ -1,15 +1,19 @@
 #include "draws/latest_draw_page.h"
 
-#include "draws/ball_row.h"
-#include "draws/draw_records.h"
+#include "balls/ball_row.h"
+#include "controls/card.h"
+#include "controls/card_row.h"
+#include "controls/label.h"
 #include "draws/draw_view.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/card_row.h"
-#include "shell/open_databases.h"
+#include "game/game.h"
+#include "look/theme.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,30 +31,28 @@ struct SectionTexts
 
 const SectionTexts& TextsOf(const Game& game)
 {
-    static const SectionTexts mainTexts{0,
-                                        "Main Draw",
-                                        "F8Mbox",
-                                        "blankshapem",
-                                        "Label4",
-                                        "There are no main draws stored.",
-                                        {QStringLiteral("F8Mdate"), QStringLiteral("F8Mnumber"),
-                                         QStringLiteral("F8Mball"), QString(), QStringLiteral("F8Mmachine"),
-                                         QStringLiteral("F8Mballset")}};
-    static const SectionTexts thunderballTexts{
-        1,
-        "Thunderball Draw",
-        "F8Tbox",
-        "blankshapet",
-        "Label5",
-        "There are no thunderball draws stored.",
-        {QStringLiteral("F8Tdate"), QStringLiteral("F8Tnumber"), QStringLiteral("F8Tball"), {}, {}, {}}};
+    static const SectionTexts mainTexts{
+        0,
+        "Main Draw",
+        "F8Mbox",
+        "blankshapem",
+        "Label4",
+        "There are no main draws stored.",
+        {u"F8Mdate"_s, u"F8Mnumber"_s, u"F8Mball"_s, QString(), u"F8Mmachine"_s, u"F8Mballset"_s}};
+    static const SectionTexts thunderballTexts{1,
+                                               "Thunderball Draw",
+                                               "F8Tbox",
+                                               "blankshapet",
+                                               "Label5",
+                                               "There are no thunderball draws stored.",
+                                               {u"F8Tdate"_s, u"F8Tnumber"_s, u"F8Tball"_s, {}, {}, {}}};
     return game.drawType == MainGame.drawType ? mainTexts : thunderballTexts;
 }
 
 } // namespace
 
 LatestDrawPage::LatestDrawPage()
-    : PageFrame(8, QStringLiteral("Latest Draw"), QStringLiteral("labeltitle")),
+    : PageFrame(8, u"Latest Draw"_s, u"labeltitle"_s),
       mainSection(MakeSection(MainGame)),
       thunderballSection(MakeSection(ThunderballGame))
 {
@@ -68,9 +70,8 @@ LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
     section.card = new Card(this);
     section.card->setObjectName(QLatin1String(texts.box));
     section.card->Content()->addWidget(
-        MakeLabel(QLatin1String(texts.title), TextRole::Caption, ElementName(QStringLiteral("F8label"), texts.index)));
-    section.draw =
-        new DrawView(game, texts.names, {QStringLiteral("Machine: "), QStringLiteral("Set of balls: ")}, section.card);
+        MakeLabel(QLatin1String(texts.title), TextRole::Caption, ElementName(u"F8label"_s, texts.index)));
+    section.draw = new DrawView(game, texts.names, {u"Machine: "_s, u"Set of balls: "_s}, section.card);
     section.draw->Balls()->MakeCompact();
     QSizePolicy keepsItsPlace = section.draw->sizePolicy();
     keepsItsPlace.setRetainSizeWhenHidden(true);

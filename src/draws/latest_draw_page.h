@@ -1,6 +1,8 @@
 #pragma once
 
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
+
+#include <QLabel>
 
 class Card;
 class DrawView;

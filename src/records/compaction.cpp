@@ -1,10 +1,10 @@
 #include "records/compaction.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
+#include "base/failure.h"
+#include "base/files.h"
 #include "records/engine.h"
 #include "records/file_lock.h"
-#include "records/guarded_engine.h"
+#include "records/statement.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,11 +1,8 @@
 #include "records/database.h"
 
-#include "platform/failure.h"
+#include "base/failure.h"
 #include "records/engine.h"
-#include "records/guarded_engine.h"
-#include "records/record_set.h"
-
-#include <algorithm>
+#include "records/statement.h"
 
 namespace {
 
@@ -32,13 +29,12 @@ void Database::Open(const std::filesystem::path& file, const std::string& connec
         Close();
         throw;
     }
-    path = file;
 }
 
 void Database::Close()
 {
-    while (!recordSets.empty())
-        recordSets.back()->Close();
+    while (!observers.empty())
+        observers.back()->DatabaseCloses();
     versionQuery.reset();
     // The engine goes first: closing the lock's descriptor would drop the engine's own locks.
     sqlite3_close_v2(engine);
@@ -55,14 +51,14 @@ std::int64_t Database::ChangesByOthers()
     return version;
 }
 
-void Database::Register(RecordSet* set)
+void Database::Register(DatabaseObserver* observer)
 {
-    recordSets.push_back(set);
+    observers.push_back(observer);
 }
 
-void Database::Unregister(RecordSet* set)
+void Database::Unregister(DatabaseObserver* observer)
 {
-    recordSets.erase(std::remove(recordSets.begin(), recordSets.end(), set), recordSets.end());
+    std::erase(observers, observer);
 }
 
 void Database::RollBack()
@@ -70,8 +66,8 @@ void Database::RollBack()
     // A failed commit may have rolled back already; the answer to a second attempt does not matter.
     sqlite3_exec(engine, "ROLLBACK", nullptr, nullptr, nullptr);
     inTransaction = false;
-    for (RecordSet* set : recordSets)
-        set->TakeBackChanges();
+    for (DatabaseObserver* observer : observers)
+        observer->ChangesTakenBack();
 }
 
 Transaction::Transaction(Database& owner, std::string doingClause) : database(owner), doing(std::move(doingClause))
@@ -94,6 +90,6 @@ void Transaction::Commit()
     Execute(database.engine, "COMMIT", doing);
     open = false;
     database.inTransaction = false;
-    for (RecordSet* set : database.recordSets)
-        set->KeepChanges();
+    for (DatabaseObserver* observer : database.observers)
+        observer->ChangesKept();
 }

@@ -9,8 +9,23 @@
 #include <vector>
 
 struct sqlite3;
-class RecordSet;
 class Statement;
+
+/// Who is told what happens to a database, as its record sets are.
+class DatabaseObserver
+{
+public:
+    DatabaseObserver() = default;
+    virtual ~DatabaseObserver() = default;
+    DatabaseObserver(const DatabaseObserver&) = delete;
+    DatabaseObserver& operator=(const DatabaseObserver&) = delete;
+
+    /// The database is about to be closed; from then on the observer is registered no more.
+    virtual void DatabaseCloses() = 0;
+    /// A transaction has been stored, or taken back.
+    virtual void ChangesKept() = 0;
+    virtual void ChangesTakenBack() = 0;
+};
 
 /// An open database file. It is opened shared and writable, never created; its rows are reached through record sets.
 class Database
@@ -29,22 +44,20 @@ public:
     void Close();
 
     bool IsOpen() const { return engine != nullptr; }
-    const std::filesystem::path& Path() const { return path; }
 
 private:
     friend class RecordSet;
     friend class Transaction;
 
     std::int64_t ChangesByOthers();
-    void Register(RecordSet* set);
-    void Unregister(RecordSet* set);
+    void Register(DatabaseObserver* observer);
+    void Unregister(DatabaseObserver* observer);
     void RollBack();
 
-    std::filesystem::path path;
     FileLock lock;
     sqlite3* engine = nullptr;
     std::unique_ptr<Statement> versionQuery;
-    std::vector<RecordSet*> recordSets;
+    std::vector<DatabaseObserver*> observers;
     bool inTransaction = false;
 };
 

@@ -1,8 +1,8 @@
 #include "records/database_creation.h"
 
-#include "platform/failure.h"
+#include "base/failure.h"
 #include "records/engine.h"
-#include "records/guarded_engine.h"
+#include "records/statement.h"
 
 #include <memory>
 

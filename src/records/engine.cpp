@@ -1,137 +1,185 @@
 #include "records/engine.h"
 
-#include "platform/failure.h"
+#include "base/failure.h"
+#include "records/key_store.h"
+#include "records/statement.h"
 
-#include <stdexcept>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <ctime>
+#include <system_error>
 
 namespace {
 
-const char* PlainReason(int code)
+constexpr std::string_view PlainFileStart = "SQLite format 3";
+// Several times what any field of the program takes.
+constexpr int LongestFieldBytes = 1024 * 1024;
+// More than a million draws or entries. A file of another kind could take all the computer's memory while it is read.
+constexpr std::uintmax_t LargestFileBytes = std::uintmax_t{64} * 1024 * 1024;
+constexpr int BusyMilliseconds = 3000;
+constexpr int InstructionsBetweenLooks = 100000;
+constexpr double LongestStatementSeconds = 1.5;
+
+// The processor's own time: a busy computer or a slow disk does not make a statement endless.
+double WorkedSeconds()
 {
-    switch (code & 0xff) {
-    case SQLITE_FULL:
-        return "the disk is full";
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-        return "the file or its folder may not be changed";
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return "another program is using the file";
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-    case SQLITE_FORMAT:
-        return "the file is damaged or is not one of this program's files";
-    case SQLITE_CANTOPEN:
-        return "the file cannot be opened";
-    case SQLITE_IOERR:
-        return code == SQLITE_IOERR_WRITE ? "the disk is full or reported an error" : "the disk reported an error";
-    case SQLITE_TOOBIG:
-        return "a text is too long";
-    case SQLITE_INTERRUPT:
-        return "it took too long";
-    case SQLITE_NOMEM:
-        return "the computer is short of memory";
+    timespec worked = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &worked);
+    return static_cast<double>(worked.tv_sec) + static_cast<double>(worked.tv_nsec) / 1e9;
+}
+
+// Statements run one after another on the one thread of the program.
+double StatementStart = 0;
+
+int NoteStart(unsigned /*event*/, void* /*unused*/, void* /*statement*/, void* /*sql*/)
+{
+    StatementStart = WorkedSeconds();
+    return 0;
+}
+
+int EndWhenEndless(void* /*unused*/)
+{
+    return WorkedSeconds() - StatementStart > LongestStatementSeconds ? 1 : 0;
+}
+
+bool IsOneOf(const char* name, std::initializer_list<std::string_view> names)
+{
+    return name != nullptr && std::find(names.begin(), names.end(), name) != names.end();
+}
+
+// What the program itself asks for when it reads and changes rows. A stored query or trigger on whose behalf something
+// happens is named in the last argument, and neither is ever let in.
+int AdmitRecords(void* /*unused*/, int action, const char* first, const char* second, const char* /*schema*/,
+                 const char* inner)
+{
+    if (inner != nullptr)
+        return SQLITE_DENY;
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+    case SQLITE_TRANSACTION:
+        return SQLITE_OK;
+    case SQLITE_FUNCTION:
+        return IsOneOf(second, {"count"}) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_PRAGMA:
+        return IsOneOf(first, {"cell_size_check", "cipher_log_level", "data_version", "max_page_count", "page_size",
+                               "synchronous", "table_xinfo"}) ||
+                       (IsOneOf(first, {"journal_mode"}) && IsOneOf(second, {"delete"}))
+                   ? SQLITE_OK
+                   : SQLITE_DENY;
     default:
-        return "the file is not as this program made it";
+        return SQLITE_DENY;
     }
+}
+
+// What the export needs besides: it makes the objects anew in the file that is attached for it.
+int AdmitExport(void* unused, int action, const char* first, const char* second, const char* schema, const char* inner)
+{
+    switch (action) {
+    case SQLITE_ATTACH:
+    case SQLITE_DETACH:
+    case SQLITE_REINDEX:
+        return SQLITE_OK;
+    case SQLITE_CREATE_TABLE:
+    case SQLITE_CREATE_INDEX:
+        return IsOneOf(schema, {"compacted"}) ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_FUNCTION:
+        // Those of the export itself, and some harmless ones that a file's own indexes and checks may be made with.
+        return IsOneOf(second,
+                       {"abs", "coalesce", "count", "ifnull", "instr", "length", "like", "lower", "ltrim", "nullif",
+                        "quote", "round", "rtrim", "sqlcipher_export", "substr", "trim", "typeof", "upper"})
+                   ? SQLITE_OK
+                   : SQLITE_DENY;
+    case SQLITE_PRAGMA:
+        return IsOneOf(first, {"application_id", "synchronous", "user_version"}) ? SQLITE_OK : SQLITE_DENY;
+    default:
+        return AdmitRecords(unused, action, first, second, schema, inner);
+    }
+}
+
+void SetGuards(sqlite3* engine)
+{
+    sqlite3_extended_result_codes(engine, 1);
+    sqlite3_busy_timeout(engine, BusyMilliseconds);
+    sqlite3_limit(engine, SQLITE_LIMIT_LENGTH, LongestFieldBytes);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_FKEY, 0, nullptr);
+    sqlite3_drop_modules(engine, nullptr);
+    sqlite3_set_authorizer(engine, AdmitRecords, nullptr);
+    sqlite3_trace_v2(engine, SQLITE_TRACE_STMT, NoteStart, nullptr);
+    sqlite3_progress_handler(engine, InstructionsBetweenLooks, EndWhenEndless, nullptr);
+}
+
+void ApplyKey(sqlite3* engine, const std::string& password, std::string_view firstBytes, const std::string& doing)
+{
+    if (firstBytes.size() < SaltBytes || firstBytes.starts_with(PlainFileStart))
+        throw Failure(doing, "the file is damaged or is not one of this program's files",
+                      "not protected by a password");
+    const std::string& key = DerivedKeyText(password, firstBytes.substr(0, SaltBytes));
+    const int code = sqlite3_key(engine, key.data(), static_cast<int>(key.size()));
+    if (code != SQLITE_OK)
+        ThrowEngineFailure(engine, code, doing);
+}
+
+/// A change that would make the file too large to be opened again is refused.
+void LimitGrowth(sqlite3* engine, const std::string& doing)
+{
+    Statement pageSize(engine, "PRAGMA page_size", doing);
+    pageSize.Step();
+    const auto pages = static_cast<std::int64_t>(LargestFileBytes) / std::max<std::int64_t>(pageSize.WholeNumber(0), 1);
+    Execute(engine, "PRAGMA max_page_count = " + std::to_string(pages), doing);
 }
 
 } // namespace
 
-void ThrowEngineFailure(sqlite3* engine, int code, const std::string& doing)
+std::string PasswordOf(const std::string& connect)
 {
-    // The handle's own text belongs to its last call only; another code is described in general.
-    const bool own = engine != nullptr && (sqlite3_errcode(engine) & 0xff) == (code & 0xff);
-    throw Failure(doing, PlainReason(code), own ? sqlite3_errmsg(engine) : sqlite3_errstr(code));
+    constexpr std::string_view mark = ";pwd=";
+    return connect.starts_with(mark) ? connect.substr(mark.size()) : std::string();
 }
 
-Statement::Statement(sqlite3* owner, std::string_view sql, std::string doingClause)
-    : engine(owner), doing(std::move(doingClause))
+sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
+                     const std::string& doing)
 {
-    const int code = sqlite3_prepare_v3(engine, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
-                                        &statement, nullptr);
-    if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, code, doing);
-}
-
-Statement::~Statement()
-{
-    sqlite3_finalize(statement);
-}
-
-void Statement::Bind(int parameter, const Value& value)
-{
-    int code = SQLITE_OK;
-    if (const auto* whole = std::get_if<std::int64_t>(&value))
-        code = sqlite3_bind_int64(statement, parameter, *whole);
-    else if (const auto* real = std::get_if<double>(&value))
-        code = sqlite3_bind_double(statement, parameter, *real);
-    else if (const auto* text = std::get_if<std::string_view>(&value))
-        code = sqlite3_bind_text64(statement, parameter, text->empty() ? "" : text->data(), text->size(), SQLITE_STATIC,
-                                   SQLITE_UTF8);
-    else
-        code = sqlite3_bind_null(statement, parameter);
-    if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, code, doing);
-}
-
-bool Statement::Step()
-{
-    const int code = sqlite3_step(statement);
-    if (code == SQLITE_ROW)
-        return true;
-    if (code == SQLITE_DONE)
-        return false;
-    // The reset would clear the handle's own text of the failure, so it comes after the text is taken.
+    std::error_code missing;
+    if (const auto bytes = std::filesystem::file_size(file, missing); !missing && bytes > LargestFileBytes)
+        throw Failure(doing, "it is far larger than any file of this program", std::to_string(bytes) + " bytes");
+    sqlite3* engine = nullptr;
+    const int code = sqlite3_open_v2(file.c_str(), &engine, SQLITE_OPEN_READWRITE, nullptr);
     try {
-        ThrowEngineFailure(engine, sqlite3_extended_errcode(engine), doing);
-    } catch (const Failure&) {
-        sqlite3_reset(statement);
+        if (code != SQLITE_OK)
+            ThrowEngineFailure(engine, code, doing);
+        SetGuards(engine);
+        const std::string password = PasswordOf(connect);
+        if (!password.empty())
+            ApplyKey(engine, password, firstBytes, doing);
+        // The first key of a run wakes the engine's own log up, so it is silenced after it.
+        Execute(engine, "PRAGMA cipher_log_level = NONE; PRAGMA cell_size_check = 1", doing);
+        // A change is stored when its journal is gone from the disk too: it would take the change back after a power
+        // cut.
+        Execute(engine, "PRAGMA synchronous = EXTRA", doing);
+        Execute(engine, "SELECT count(*) FROM sqlite_master", doing);
+        LimitGrowth(engine, doing);
+        // Another tool may have had the file keep a log beside it. Its locks last as long as the file is open, and the
+        // closing of any other descriptor of the file would drop them. Where the tool still has it open, the log stays.
+        sqlite3_exec(engine, "PRAGMA journal_mode = delete", nullptr, nullptr, nullptr);
+    } catch (...) {
+        sqlite3_close_v2(engine);
         throw;
     }
+    return engine;
 }
 
-Value Statement::Column(int column) const
+void AllowExport(sqlite3* engine)
 {
-    switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_INTEGER:
-        return sqlite3_column_int64(statement, column);
-    case SQLITE_FLOAT:
-        return sqlite3_column_double(statement, column);
-    case SQLITE_NULL:
-        return std::monostate();
-    default:
-        return Text(column);
-    }
-}
-
-std::string_view Statement::Text(int column) const
-{
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    return text == nullptr ? std::string_view()
-                           : std::string_view(text, static_cast<size_t>(sqlite3_column_bytes(statement, column)));
-}
-
-void Statement::Reset()
-{
-    sqlite3_reset(statement);
-    sqlite3_clear_bindings(statement);
-}
-
-void Execute(sqlite3* engine, const std::string& sql, const std::string& doing)
-{
-    const int code = sqlite3_exec(engine, sql.c_str(), nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, sqlite3_extended_errcode(engine), doing);
-}
-
-std::string Quoted(std::string_view identifier)
-{
-    std::string quoted = "\"";
-    for (const char letter : identifier) {
-        if (letter == '"')
-            quoted += '"';
-        quoted += letter;
-    }
-    return quoted + '"';
+    // The export writes the schema table itself, which the defensive mode forbids.
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
+    sqlite3_set_authorizer(engine, AdmitExport, nullptr);
 }

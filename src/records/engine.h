@@ -1,49 +1,23 @@
 #pragma once
 
-// The only header through which the program meets the database engine.
-
-#include "records/value.h"
-
-#include <sqlite3.h>
-
+#include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
-/// The failure of an engine call, told in a player's words. `code` is the engine's result code.
-[[noreturn]] void ThrowEngineFailure(sqlite3* engine, int code, const std::string& doing);
+struct sqlite3;
 
-/// A prepared statement. `doing` is the clause that a failure of it carries.
-class Statement
-{
-public:
-    Statement(sqlite3* owner, std::string_view sql, std::string doingClause);
-    ~Statement();
-    Statement(const Statement&) = delete;
-    Statement& operator=(const Statement&) = delete;
+/// The length of the salt at the start of a protected file.
+inline constexpr std::size_t SaltBytes = 16;
 
-    /// Binds the parameter of the given number, counted from 1. A text must live until the next Step or Reset.
-    void Bind(int parameter, const Value& value);
+/// Opens an existing file in the engine with every guard against what a file of unknown origin may carry, and proves
+/// the key by reading. `firstBytes` are the first bytes of the file. Throws Failure with the given clause, also where
+/// the file has more than 64 MiB.
+sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
+                     const std::string& doing);
 
-    /// Runs on to the next row; false when there is none. Throws Failure on every other result, so that damage in the
-    /// middle of a table never looks like its end.
-    bool Step();
+/// Lets the engine make a copy of the whole file in one attached under the name "compacted".
+void AllowExport(sqlite3* engine);
 
-    /// The value of a column of the current row, counted from 0. A text lives until the next Step or Reset.
-    Value Column(int column) const;
-    std::int64_t WholeNumber(int column) const { return sqlite3_column_int64(statement, column); }
-    std::string_view Text(int column) const;
-
-    /// Makes the statement ready to run again.
-    void Reset();
-
-private:
-    sqlite3* engine;
-    sqlite3_stmt* statement = nullptr;
-    std::string doing;
-};
-
-/// Runs statements that give no rows.
-void Execute(sqlite3* engine, const std::string& sql, const std::string& doing);
-
-/// Puts an identifier into the quotes of the engine's language.
-std::string Quoted(std::string_view identifier);
+/// The password of a connect string: what follows ";pwd="; empty for an empty connect string.
+std::string PasswordOf(const std::string& connect);

@@ -1,6 +1,6 @@
 #include "records/file_lock.h"
 
-#include "platform/failure.h"
+#include "base/failure.h"
 
 #include <cerrno>
 #include <chrono>

@@ -1,10 +1,10 @@
 #include "records/held_file.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
+#include "base/failure.h"
+#include "base/files.h"
 #include "records/compaction.h"
 #include "records/engine.h"
-#include "records/guarded_engine.h"
+#include "records/statement.h"
 
 namespace {
 

@@ -1,10 +1,9 @@
 #include "records/record_set.h"
 
-#include "platform/failure.h"
-#include "platform/numbers.h"
-#include "records/database.h"
-#include "records/engine.h"
+#include "base/failure.h"
+#include "base/numbers.h"
 #include "records/row_reading.h"
+#include "records/statement.h"
 
 #include <algorithm>
 
@@ -273,7 +272,7 @@ std::int64_t RecordSet::NextNumber()
     return IsEmpty() ? 1 : static_cast<std::int64_t>(std::clamp(Number(0), -largest, largest)) + 1;
 }
 
-void RecordSet::TakeBackChanges()
+void RecordSet::ChangesTakenBack()
 {
     if (!changed)
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/database.h"
 #include "records/stored_rows.h"
 #include "records/table_layout.h"
 #include "records/value.h"
@@ -10,20 +11,17 @@
 #include <string_view>
 #include <vector>
 
-class Database;
 class Statement;
 
 /// The rows of one table or stored query, with a current record. The rows are read once, when they are first asked for,
 /// and held in memory in their own order, so that a walk costs no query; every change is on disk before its call
 /// returns. A change by another copy of the program is seen at the next move to the first or last row; a list shows the
 /// own program's changes after a requery. All operations that read or write throw Failure.
-class RecordSet
+class RecordSet final : private DatabaseObserver
 {
 public:
     RecordSet();
-    ~RecordSet();
-    RecordSet(const RecordSet&) = delete;
-    RecordSet& operator=(const RecordSet&) = delete;
+    ~RecordSet() override;
 
     /// Opens a table or stored query, after proving that it is of that kind and has exactly these columns. No row is
     /// read yet. Throws Failure.
@@ -76,9 +74,6 @@ public:
     std::int64_t NextNumber();
 
 private:
-    friend class Database;
-    friend class Transaction;
-
     enum class Editing
     {
         No,
@@ -90,8 +85,9 @@ private:
     void Load();
     void Refresh();
     void Step(int direction);
-    void TakeBackChanges();
-    void KeepChanges() { changed = false; }
+    void DatabaseCloses() override { Close(); }
+    void ChangesKept() override { changed = false; }
+    void ChangesTakenBack() override;
     void StoreNewRow();
     void StoreCurrentRow();
     std::string Doing(const char* failed) const;

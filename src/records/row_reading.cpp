@@ -1,8 +1,8 @@
 #include "records/row_reading.h"
 
-#include "platform/failure.h"
-#include "platform/numbers.h"
-#include "records/engine.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "records/statement.h"
 
 #include <optional>
 #include <stdexcept>

@@ -1,22 +1,27 @@
 #include "shell/about_window.h"
 
-#include "platform/logo_picture.h"
-#include "platform/page_frame.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/logo_picture.h"
+#include "look/theme.h"
 
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 AboutWindow::AboutWindow(QWidget* parent) : QDialog(parent)
 {
-    setObjectName(QStringLiteral("frmabout"));
-    setWindowTitle(QStringLiteral("Tavenor 3 --- About..."));
+    setObjectName(u"frmabout"_s);
+    setWindowTitle(u"Tavenor 3 --- About..."_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2 * Spacing::Page, Spacing::Page, 2 * Spacing::Page, Spacing::Page);
     layout->setSpacing(Spacing::Between);
     layout->addWidget(new LogoPicture(84), 0, Qt::AlignHCenter);
-    layout->addWidget(MakeLabel(QStringLiteral("Tavenor"), TextRole::Title), 0, Qt::AlignHCenter);
+    layout->addWidget(MakeLabel(u"Tavenor"_s, TextRole::Title), 0, Qt::AlignHCenter);
     layout->addWidget(MakeLabel(QStringLiteral("v" TAVENOR_VERSION), TextRole::Body), 0, Qt::AlignHCenter);
     layout->addSpacing(Spacing::Between);
-    auto* back = new Button(QStringLiteral("BACK"), QStringLiteral("back"));
+    auto* back = new Button(u"BACK"_s, u"back"_s);
     back->setDefault(true);
     connect(back, &QPushButton::clicked, this, &QDialog::accept);
     layout->addWidget(back, 0, Qt::AlignHCenter);

@@ -1,17 +1,21 @@
 #include "shell/introduction_page.h"
 
-#include "platform/card.h"
-#include "platform/click_label.h"
+#include "controls/card.h"
+#include "controls/click_label.h"
+#include "controls/label.h"
+#include "look/theme.h"
 #include "shell/menu_table.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QLabel* Description(int label, const QString& text)
 {
-    QLabel* description = MakeLabel(text, TextRole::Body, ElementName(QStringLiteral("lab"), label));
+    QLabel* description = MakeLabel(text, TextRole::Body, ElementName(u"lab"_s, label));
     description->setWordWrap(true);
     description->setForegroundRole(QPalette::PlaceholderText);
     return description;
@@ -30,7 +34,7 @@ IntroductionPage::IntroductionPage(int group) : PageFrame(group, IntroductionOf(
     rows->setColumnStretch(1, 1);
     for (const IntroductionOption& option : introduction.options) {
         auto* label = new ClickLabel(FindSuboption(group, option.suboption)->caption);
-        label->setObjectName(ElementName(QStringLiteral("lab"), option.label));
+        label->setObjectName(ElementName(u"lab"_s, option.label));
         label->setFont(FontFor(TextRole::Strong));
         label->setAccessibleDescription(option.description);
         connect(label, &QAbstractButton::clicked, this, [this, &option] { Q_EMIT SuboptionClicked(option.suboption); });
@@ -41,8 +45,8 @@ IntroductionPage::IntroductionPage(int group) : PageFrame(group, IntroductionOf(
     card->Content()->addLayout(rows);
     Body()->addWidget(card);
     Body()->addStretch(1);
-    auto* start = new ClickLabel(QStringLiteral("Go to Start Screen"));
-    start->setObjectName(ElementName(QStringLiteral("main"), group));
+    auto* start = new ClickLabel(u"Go to Start Screen"_s);
+    start->setObjectName(ElementName(u"main"_s, group));
     connect(start, &QAbstractButton::clicked, this, &IntroductionPage::StartScreenClicked);
     Body()->addWidget(start);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
 
 /// Pages 1 to 5: what a menu group is for, with its sub-options as clickable labels.
 class IntroductionPage : public PageFrame

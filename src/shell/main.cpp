@@ -1,11 +1,11 @@
-#include "platform/application.h"
-#include "platform/guard.h"
+#include "controls/guard.h"
+#include "look/application.h"
 #include "shell/main_window.h"
-#include "shell/open_databases.h"
-#include "shell/shut_down.h"
 #include "shell/splash_window.h"
-#include "shell/start_up.h"
 #include "shell/termination_watch.h"
+#include "store/open_databases.h"
+#include "utilities/shut_down.h"
+#include "utilities/start_up.h"
 
 #include <QDir>
 

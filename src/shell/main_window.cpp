@@ -1,21 +1,23 @@
 #include "shell/main_window.h"
 
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/page_frame.h"
-#include "platform/shortcut_letters.h"
+#include "controls/guard.h"
+#include "controls/message_box.h"
+#include "controls/page_frame.h"
+#include "look/shortcut_letters.h"
 #include "shell/introduction_page.h"
 #include "shell/menu_column.h"
 #include "shell/menu_table.h"
 #include "shell/page_area.h"
-#include "shell/shut_down.h"
+#include "utilities/shut_down.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 MainWindow::MainWindow() : menu(new MenuColumn(this)), area(new PageArea(this))
 {
-    setObjectName(QStringLiteral("frmmain"));
+    setObjectName(u"frmmain"_s);
     setWindowTitle(ApplicationTitle);
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(0, 0, 0, 0);
@@ -115,7 +117,7 @@ void MainWindow::Suboption_Click(int number)
 
 void MainWindow::Exit_Click()
 {
-    if (AskYesNo(QStringLiteral("Are you sure you want to exit?")))
+    if (AskYesNo(u"Are you sure you want to exit?"_s))
         CloseAndCompact();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/page_switch.h"
+#include "controls/page_switch.h"
 #include "shell/page_table.h"
 
 #include <QWidget>

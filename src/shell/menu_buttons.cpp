@@ -1,9 +1,12 @@
 #include "shell/menu_buttons.h"
 
-#include "platform/shortcut_letters.h"
-#include "platform/theme.h"
+#include "look/button.h"
+#include "look/shortcut_letters.h"
+#include "look/theme.h"
 
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -82,16 +85,15 @@ void MenuButton::paintEvent(QPaintEvent* /*event*/)
 
 LogoButton::LogoButton(QWidget* parent) : EnterButton(parent)
 {
-    setObjectName(QStringLiteral("Logo"));
-    setAccessibleName(QStringLiteral("Tavenor 3, to the start page"));
+    setObjectName(u"Logo"_s);
+    setAccessibleName(u"Tavenor 3, to the start page"_s);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
 }
 
 QSize LogoButton::sizeHint() const
 {
-    return {LogoTextLeft + QFontMetrics(ProductFont()).horizontalAdvance(QStringLiteral("Tavenor 3")) +
-                MenuMeasure::ButtonMargin,
+    return {LogoTextLeft + QFontMetrics(ProductFont()).horizontalAdvance(u"Tavenor 3"_s) + MenuMeasure::ButtonMargin,
             62};
 }
 
@@ -103,19 +105,19 @@ void LogoButton::paintEvent(QPaintEvent* /*event*/)
     QFont font = ProductFont();
     painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(QRect(LogoTextLeft, 0, width(), height()), Qt::AlignVCenter, QStringLiteral("Tavenor"));
-    const int next = LogoTextLeft + QFontMetrics(font).horizontalAdvance(QStringLiteral("Tavenor "));
+    painter.drawText(QRect(LogoTextLeft, 0, width(), height()), Qt::AlignVCenter, u"Tavenor"_s);
+    const int next = LogoTextLeft + QFontMetrics(font).horizontalAdvance(u"Tavenor "_s);
     font.setWeight(QFont::Normal);
     painter.setFont(font);
     painter.setPen(Blue());
-    painter.drawText(QRect(next, 0, width(), height()), Qt::AlignVCenter, QStringLiteral("3"));
+    painter.drawText(QRect(next, 0, width(), height()), Qt::AlignVCenter, u"3"_s);
     if (hasFocus())
         DrawRing(painter, rect());
 }
 
 SuboptionLabel::SuboptionLabel(int number, QWidget* parent) : ClickLabel(QString(), parent)
 {
-    setObjectName(QStringLiteral("Suboption%1").arg(number));
+    setObjectName(u"Suboption%1"_s.arg(number));
     QPalette onColumn = palette();
     onColumn.setColor(QPalette::WindowText, CurrentTheme().menuText);
     onColumn.setColor(QPalette::Highlight, CurrentTheme().menuText);
@@ -132,7 +134,7 @@ void SuboptionLabel::SetMarked(bool marked)
 
 OptionMark::OptionMark(QWidget* parent) : QWidget(parent)
 {
-    setObjectName(QStringLiteral("Optionmark"));
+    setObjectName(u"Optionmark"_s);
 }
 
 void OptionMark::paintEvent(QPaintEvent* /*event*/)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/artwork.h"
-#include "platform/click_label.h"
-#include "platform/enter_button.h"
+#include "controls/click_label.h"
+#include "look/artwork.h"
+#include "look/button.h"
 
 /// The measures that the buttons of the menu column share with its layout, in logical pixels.
 namespace MenuMeasure {

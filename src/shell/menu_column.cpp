@@ -1,12 +1,14 @@
 #include "shell/menu_column.h"
 
-#include "platform/shortcut_letters.h"
-#include "platform/theme.h"
+#include "look/shortcut_letters.h"
+#include "look/theme.h"
 #include "shell/menu_buttons.h"
 #include "shell/menu_table.h"
 
 #include <QFrame>
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,11 +34,11 @@ MenuColumn::MenuColumn(QWidget* parent)
       logo(new LogoButton(this)),
       optionMark(new OptionMark(this)),
       line(new QFrame(this)),
-      exit(new MenuButton(QStringLiteral("Exit"), QStringLiteral("Exit"), Picture::Exit, this))
+      exit(new MenuButton(u"Exit"_s, u"Exit"_s, Picture::Exit, this))
 {
-    setObjectName(QStringLiteral("Leftframe"));
+    setObjectName(u"Leftframe"_s);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    line->setObjectName(QStringLiteral("Line2"));
+    line->setObjectName(u"Line2"_s);
     line->setAutoFillBackground(true);
     QPalette quiet = line->palette();
     quiet.setColor(QPalette::Window, QColor(255, 255, 255, 36));
@@ -46,8 +48,7 @@ MenuColumn::MenuColumn(QWidget* parent)
     connect(exit, &QAbstractButton::clicked, this, &MenuColumn::ExitClicked);
     for (int group = 1; group <= MenuGroups; ++group) {
         const auto i = static_cast<size_t>(group) - 1;
-        buttons.at(i) = new MenuButton(MenuGroupOf(group).caption, QStringLiteral("Button%1").arg(group),
-                                       GroupPictures.at(i), this);
+        buttons.at(i) = new MenuButton(MenuGroupOf(group).caption, u"Button%1"_s.arg(group), GroupPictures.at(i), this);
         SetShortcutLetter(*buttons.at(i), ShortcutLetters[group - 1]);
         connect(buttons.at(i), &QAbstractButton::clicked, this, [this, group] { Q_EMIT GroupClicked(group); });
     }

@@ -1,19 +1,23 @@
 #include "shell/page_area.h"
 
-#include "platform/page_frame.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "look/theme.h"
 
 #include <QEvent>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 PageArea::PageArea(QWidget* parent) : QWidget(parent)
 {
     auto* loading = new QFrame(this);
-    loading->setObjectName(QStringLiteral("Loadingframe"));
+    loading->setObjectName(u"Loadingframe"_s);
     loading->setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(loading);
     layout->addStretch(1);
-    for (auto* label : {MakeLabel(QStringLiteral("Loading Data"), TextRole::Title, QStringLiteral("LFlabel1")),
-                        MakeLabel(QStringLiteral("Please wait"), TextRole::Body, QStringLiteral("LFlabel2"))}) {
+    for (auto* label : {MakeLabel(u"Loading Data"_s, TextRole::Title, u"LFlabel1"_s),
+                        MakeLabel(u"Please wait"_s, TextRole::Body, u"LFlabel2"_s)}) {
         label->setAlignment(Qt::AlignCenter);
         layout->addWidget(label);
     }

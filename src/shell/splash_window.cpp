@@ -1,16 +1,18 @@
 #include "shell/splash_window.h"
 
-#include "platform/artwork.h"
-#include "platform/theme.h"
+#include "look/artwork.h"
+#include "look/theme.h"
 
 #include <QApplication>
 #include <QPainter>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 SplashWindow::SplashWindow() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
 {
-    setObjectName(QStringLiteral("frmsplash"));
-    setWindowTitle(QStringLiteral("Tavenor 3"));
+    setObjectName(u"frmsplash"_s);
+    setWindowTitle(u"Tavenor 3"_s);
     resize(420, 240);
     if (const QScreen* screen = QApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
@@ -33,5 +35,5 @@ void SplashWindow::paintEvent(QPaintEvent* /*event*/)
     DrawLogo(painter, QRectF(width() / 2.0 - 46, 36, 92, 92));
     painter.setFont(FontFor(TextRole::Title));
     painter.setPen(Qt::white);
-    painter.drawText(QRect(0, 144, width(), 50), Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("Tavenor 3"));
+    painter.drawText(QRect(0, 144, width(), 50), Qt::AlignHCenter | Qt::AlignTop, u"Tavenor 3"_s);
 }

@@ -1,13 +1,18 @@
 #include "shell/start_page.h"
 
-#include "platform/guard.h"
-#include "platform/logo_picture.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/page_switch.h"
+#include "look/button.h"
+#include "look/logo_picture.h"
+#include "look/theme.h"
 #include "shell/about_window.h"
-#include "shell/page_switch.h"
 #include "utilities/advanced_window.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,20 +26,19 @@ QLabel* Centred(QLabel* label)
 
 StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pageSwitch)
 {
-    setAccessibleName(QStringLiteral("Welcome to Tavenor"));
+    setAccessibleName(u"Welcome to Tavenor"_s);
     Body()->addStretch(3);
-    QLabel* welcome = MakeLabel(QStringLiteral("Welcome to"), TextRole::Title);
+    QLabel* welcome = MakeLabel(u"Welcome to"_s, TextRole::Title);
     QFont light = welcome->font();
     light.setWeight(QFont::Normal);
     welcome->setFont(light);
     welcome->setForegroundRole(QPalette::PlaceholderText);
     Body()->addWidget(Centred(welcome));
     Body()->addWidget(new LogoPicture(110), 0, Qt::AlignHCenter);
-    Body()->addWidget(Centred(MakeLabel(QStringLiteral("Tavenor"), TextRole::Product)));
-    QLabel* hint =
-        MakeLabel(QStringLiteral("Click on the buttons to the left to get a description of what it does.  Click "
-                                 "the Tavenor logo above the buttons to return to this page."),
-                  TextRole::Body);
+    Body()->addWidget(Centred(MakeLabel(u"Tavenor"_s, TextRole::Product)));
+    QLabel* hint = MakeLabel(u"Click on the buttons to the left to get a description of what it does.  Click "
+                             u"the Tavenor logo above the buttons to return to this page."_s,
+                             TextRole::Body);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
     hint->setMinimumWidth(hint->fontMetrics().averageCharWidth() * 50);
@@ -53,9 +57,9 @@ StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pa
         ConnectGuarded(button, &QPushButton::clicked, this, [this, handler] { (this->*handler)(); });
         buttons->addWidget(button);
     };
-    add(QStringLiteral("About..."), QStringLiteral("about"), &StartPage::about_Click);
-    add(QStringLiteral("Internet Links"), QStringLiteral("F0links"), &StartPage::F0links_Click);
-    add(QStringLiteral("Advanced Options"), QStringLiteral("advanced"), &StartPage::advanced_Click);
+    add(u"About..."_s, u"about"_s, &StartPage::about_Click);
+    add(u"Internet Links"_s, u"F0links"_s, &StartPage::F0links_Click);
+    add(u"Advanced Options"_s, u"advanced"_s, &StartPage::advanced_Click);
     buttons->addStretch(1);
     Body()->addLayout(buttons);
     Body()->addStretch(4);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/page_frame.h"
+#include "controls/page_frame.h"
 
 class PageSwitch;
 

@@ -1,25 +1,30 @@
 #include "users/add_entries_page.h"
 
-#include "draws/ball_fields.h"
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/card_row.h"
-#include "platform/failure.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
-#include "platform/rolling_area.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
+#include "balls/ball_fields.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "controls/card.h"
+#include "controls/card_row.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
+#include "controls/scrolling_content.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
+#include "store/user_tables.h"
 #include "users/day_boxes.h"
-#include "users/user_records.h"
-#include "users/user_tables.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,19 +49,16 @@ QStringList EntryCaptions()
 } // namespace
 
 AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
-    : PageFrame(18, QStringLiteral("Add New Entries")),
+    : PageFrame(18, u"Add New Entries"_s),
       pages(pageSwitch),
-      F18user(MakeList(QStringLiteral("F18user"), QStringLiteral("User Name"))),
-      F18type(MakeList(QStringLiteral("F18type"), QStringLiteral("Draw Type"))),
-      F18ent(new BallFields(
-          {QStringLiteral("F18ent"), QStringLiteral("F18ball"), QStringLiteral("F18blab"), {1, 2, 3, 4, 5, 6}, 1},
-          EntryCaptions())),
-      F18day(new DayBoxes({QStringLiteral("F18day"), QStringLiteral("F18selallday"), QStringLiteral("F18clearday")},
-                          QStringLiteral(" "))),
-      F18reset(new Button(QStringLiteral("Clear Ball Values"), QStringLiteral("F18reset")))
+      F18user(MakeList(u"F18user"_s, u"User Name"_s)),
+      F18type(MakeList(u"F18type"_s, u"Draw Type"_s)),
+      F18ent(new BallFields({u"F18ent"_s, u"F18ball"_s, u"F18blab"_s, {1, 2, 3, 4, 5, 6}, 1}, EntryCaptions())),
+      F18day(new DayBoxes({u"F18day"_s, u"F18selallday"_s, u"F18clearday"_s}, u" "_s)),
+      F18reset(new Button(u"Clear Ball Values"_s, u"F18reset"_s))
 {
     BuildCards();
-    F18store = AddFooterDefault(QStringLiteral("Store"), QStringLiteral("F18store"));
+    F18store = AddFooterDefault(u"Store"_s, u"F18store"_s);
     ConnectGuarded(F18user, &QComboBox::activated, this, [this] { F18user_Click(); });
     ConnectGuarded(F18type, &QComboBox::activated, this, [this] { F18type_Click(); });
     ConnectGuarded(F18ent, &BallFields::Completed, this, [this] { F18store->setFocus(Qt::TabFocusReason); });
@@ -70,15 +72,14 @@ void AddEntriesPage::BuildCards()
     auto* form = new QGridLayout;
     form->setHorizontalSpacing(Spacing::Cards);
     form->setVerticalSpacing(Spacing::Inside);
-    form->addWidget(MakeLabel(QStringLiteral("User Name"), TextRole::Caption, QStringLiteral("F18label2")), 0, 0);
+    form->addWidget(MakeLabel(u"User Name"_s, TextRole::Caption, u"F18label2"_s), 0, 0);
     form->addWidget(F18user, 1, 0);
-    form->addWidget(MakeLabel(QStringLiteral("Draw Type"), TextRole::Caption, QStringLiteral("F18label3")), 0, 1);
+    form->addWidget(MakeLabel(u"Draw Type"_s, TextRole::Caption, u"F18label3"_s), 0, 1);
     form->addWidget(F18type, 1, 1);
-    for (const QString& text :
-         {QStringLiteral("This user has __ entries stored."), QStringLiteral("Your spend limit is £__"),
-          QStringLiteral("To alter limit, goto \"User Details\"")}) {
+    for (const QString& text : {u"This user has __ entries stored."_s, u"Your spend limit is £__"_s,
+                                u"To alter limit, goto \"User Details\""_s}) {
         const int index = static_cast<int>(F18userdata.size());
-        F18userdata.push_back(MakeLabel(text, TextRole::Body, ElementName(QStringLiteral("F18userdata"), index)));
+        F18userdata.push_back(MakeLabel(text, TextRole::Body, ElementName(u"F18userdata"_s, index)));
         F18userdata.back()->setForegroundRole(QPalette::PlaceholderText);
         form->addWidget(F18userdata.back(), 2 + index, 0, 1, 2);
     }
@@ -97,8 +98,7 @@ void AddEntriesPage::BuildCards()
 
     auto* dayCard = new Card;
     dayCard->Content()->setSpacing(Spacing::Inside);
-    dayCard->Content()->addWidget(
-        MakeLabel(QStringLiteral("Draw day for this entry"), TextRole::Caption, QStringLiteral("F18label4")));
+    dayCard->Content()->addWidget(MakeLabel(u"Draw day for this entry"_s, TextRole::Caption, u"F18label4"_s));
     dayCard->Content()->addWidget(F18day);
 
     auto* all = new QWidget;
@@ -117,7 +117,7 @@ void AddEntriesPage::Prepare()
     const std::vector<UserRow> allUsers = ReadAllUsers(users);
     if (allUsers.empty()) {
         pages.ChooseMenu(3, 1);
-        ShowMessage(QStringLiteral("You cannot store entries until you have created a user profile."));
+        ShowMessage(u"You cannot store entries until you have created a user profile."_s);
         return;
     }
     for (const UserRow& user : allUsers)
@@ -143,15 +143,13 @@ void AddEntriesPage::F18user_Click()
     const UserRow user = ReadUser(users);
     selectedUserNumber = user.number;
     selectedUserLimit = user.spendLimit;
-    F18userdata[1]->setText(QStringLiteral("Your limit is ") + PlainNumber(selectedUserLimit) +
-                            QStringLiteral(" entries."));
+    F18userdata[1]->setText(u"Your limit is "_s + PlainNumber(selectedUserLimit) + u" entries."_s);
     entryCount = CountEntries(entries, selectedUserNumber);
-    F18userdata[0]->setText(entryCount > 0 ? QStringLiteral("This user has ") + PlainNumber(entryCount) +
-                                                 QStringLiteral(" entries stored.")
-                                           : QStringLiteral("This user has no entries stored."));
+    F18userdata[0]->setText(entryCount > 0 ? u"This user has "_s + PlainNumber(entryCount) + u" entries stored."_s
+                                           : u"This user has no entries stored."_s);
     if (IsUpToLimit())
-        ShowMessage(QStringLiteral("This user is up to the spend limit.") + Crlf +
-                    QStringLiteral("Go to 'User Details' to change the spend limit, or choose another user."));
+        ShowMessage(u"This user is up to the spend limit."_s + Crlf +
+                    u"Go to 'User Details' to change the spend limit, or choose another user."_s);
 }
 
 void AddEntriesPage::F18type_Click()
@@ -196,23 +194,23 @@ bool AddEntriesPage::IsUpToLimit() const
 void AddEntriesPage::F18store_Click()
 {
     if (IsUpToLimit()) {
-        ShowMessage(QStringLiteral("This user is up to the spend limit, so this entry has NOT been stored.") + Crlf +
-                    QStringLiteral("Go to 'User Details' to change the spend limit, or choose another user."));
+        ShowMessage(u"This user is up to the spend limit, so this entry has NOT been stored."_s + Crlf +
+                    u"Go to 'User Details' to change the spend limit, or choose another user."_s);
         return;
     }
     if (!IsPossibleEntry(ChosenGame(), F18ent->Numbers())) {
-        ShowMessage(QStringLiteral("Error detected in the data that you entered.") + Crlf +
-                    QStringLiteral("Please re-check and press 'Store' again."));
+        ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
+                    u"Please re-check and press 'Store' again."_s);
         return;
     }
     F18ent->Sort(ChosenGame().mainBalls);
     F18ent->Recolour();
     if (!F18day->AnyTicked()) {
-        ShowMessage(QStringLiteral("You must specify at least ONE draw day. Please retry."));
+        ShowMessage(u"You must specify at least ONE draw day. Please retry."_s);
         return;
     }
     StoreEntry();
-    ShowMessage(QStringLiteral("This entry has been stored."));
+    ShowMessage(u"This entry has been stored."_s);
     F18user_Click();
     previousDrawType.clear();
     F18type_Click();

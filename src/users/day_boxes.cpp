@@ -1,13 +1,18 @@
 #include "users/day_boxes.h"
 
-#include "platform/dates.h"
-#include "platform/guard.h"
-#include "platform/page_frame.h"
+#include "base/dates.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/theme.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 DayBoxes::DayBoxes(const Names& names, const QString& captionPrefix, QWidget* parent) : QWidget(parent)
 {
@@ -27,8 +32,8 @@ DayBoxes::DayBoxes(const Names& names, const QString& captionPrefix, QWidget* pa
     grid->setColumnStretch(3, 1);
     if (names.selectAll.isEmpty())
         return;
-    auto* selectAll = new Button(QStringLiteral("Select All"), names.selectAll);
-    auto* clearAll = new Button(QStringLiteral("Clear All"), names.clearAll);
+    auto* selectAll = new Button(u"Select All"_s, names.selectAll);
+    auto* clearAll = new Button(u"Clear All"_s, names.clearAll);
     ConnectGuarded(selectAll, &QPushButton::clicked, this, [this] { SetAll(true); });
     ConnectGuarded(clearAll, &QPushButton::clicked, this, [this] { SetAll(false); });
     grid->addWidget(selectAll, 0, 2, 2, 1, Qt::AlignVCenter);

@@ -1,22 +1,27 @@
 #include "users/entries_page.h"
 
-#include "draws/game.h"
-#include "platform/card.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
 #include "records/record_numbers.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 #include "users/entry_edit_page.h"
 #include "users/entry_grid_model.h"
 #include "users/entry_view_page.h"
-#include "users/user_records.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QRadioButton>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,21 +39,20 @@ QRadioButton* MakeOption(const Game& game, const char* name)
 } // namespace
 
 EntriesPage::EntriesPage(PageSwitch& pageSwitch)
-    : PageFrame(13, QStringLiteral("View or Edit Entries")),
+    : PageFrame(13, u"View or Edit Entries"_s),
       pages(pageSwitch),
       F13user(new QComboBox),
       F13typemain(MakeOption(MainGame, "F13typemain")),
       F13typethunder(MakeOption(ThunderballGame, "F13typethunder")),
       model(new EntryGridModel(this)),
-      F13grid(new GridView(QStringLiteral("F13grid"), QStringLiteral("Entries"))),
-      F13noentries(MakeLabel(QStringLiteral("There are no entries of this type, for this user."), TextRole::Body,
-                             QStringLiteral("F13noentries")))
+      F13grid(new GridView(u"F13grid"_s, u"Entries"_s)),
+      F13noentries(MakeLabel(u"There are no entries of this type, for this user."_s, TextRole::Body, u"F13noentries"_s))
 {
     Body()->addWidget(MakeChoiceCard());
     Body()->addWidget(MakeGridCard(), 1);
-    F13delete = AddFooterButton(QStringLiteral("Delete"), QStringLiteral("F13delete"));
-    F13edit = AddFooterButton(QStringLiteral("Edit"), QStringLiteral("F13edit"));
-    F13view = AddFooterDefault(QStringLiteral("View in Detail"), QStringLiteral("F13view"));
+    F13delete = AddFooterButton(u"Delete"_s, u"F13delete"_s);
+    F13edit = AddFooterButton(u"Edit"_s, u"F13edit"_s);
+    F13view = AddFooterDefault(u"View in Detail"_s, u"F13view"_s);
     ConnectGuarded(F13user, &QComboBox::activated, this, [this] { F13user_Click(); });
     ConnectGuarded(F13typemain, &QRadioButton::clicked, this, [this] { ListGame(MainGame); });
     ConnectGuarded(F13typethunder, &QRadioButton::clicked, this, [this] { ListGame(ThunderballGame); });
@@ -61,8 +65,8 @@ EntriesPage::EntriesPage(PageSwitch& pageSwitch)
 
 Card* EntriesPage::MakeChoiceCard()
 {
-    F13user->setObjectName(QStringLiteral("F13user"));
-    F13user->setAccessibleName(QStringLiteral("User"));
+    F13user->setObjectName(u"F13user"_s);
+    F13user->setAccessibleName(u"User"_s);
     // A long name is cut at the list's edge instead of widening the page.
     F13user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     F13user->setMinimumContentsLength(14);
@@ -70,9 +74,9 @@ Card* EntriesPage::MakeChoiceCard()
     auto* form = new QGridLayout;
     form->setHorizontalSpacing(Spacing::Cards);
     form->setVerticalSpacing(Spacing::Inside);
-    form->addWidget(MakeLabel(QStringLiteral("User"), TextRole::Caption, QStringLiteral("F13label1")), 0, 0);
+    form->addWidget(MakeLabel(u"User"_s, TextRole::Caption, u"F13label1"_s), 0, 0);
     form->addWidget(F13user, 1, 0);
-    form->addWidget(MakeLabel(QStringLiteral("Draw Type"), TextRole::Caption, QStringLiteral("F13label2")), 0, 1, 1, 2);
+    form->addWidget(MakeLabel(u"Draw Type"_s, TextRole::Caption, u"F13label2"_s), 0, 1, 1, 2);
     form->addWidget(F13typemain, 1, 1);
     form->addWidget(F13typethunder, 1, 2);
     form->setColumnStretch(0, 1);
@@ -98,7 +102,7 @@ void EntriesPage::Prepare()
     const std::vector<UserRow> allUsers = ReadAllUsers(users);
     if (allUsers.empty()) {
         pages.ChooseMenu(3, 1);
-        ShowMessage(QStringLiteral("You cannot view or edit entries until you have created a user profile."));
+        ShowMessage(u"You cannot view or edit entries until you have created a user profile."_s);
         return;
     }
     for (const UserRow& user : allUsers)
@@ -145,8 +149,7 @@ std::optional<int> EntriesPage::OneSelectedRow(const QString& verb) const
     const GridView::RowSpan rows = F13grid->SelectedRows();
     if (rows.Count() == 1)
         return rows.first;
-    ShowMessage(rows.Count() == 0 ? QStringLiteral("There are no entries to ") + verb
-                                  : QStringLiteral("Select only ONE draw."));
+    ShowMessage(rows.Count() == 0 ? u"There are no entries to "_s + verb : u"Select only ONE draw."_s);
     return std::nullopt;
 }
 
@@ -154,13 +157,13 @@ std::optional<EntryRow> EntriesPage::FindEntry(int row) const
 {
     if (FindRecord(entries, model->NumberOf(row)))
         return ReadEntry(entries);
-    ShowMessage(QStringLiteral("An unexpected error has occured,") + Crlf + QStringLiteral("please try again."));
+    ShowMessage(u"An unexpected error has occured,"_s + Crlf + u"please try again."_s);
     return std::nullopt;
 }
 
 void EntriesPage::F13view_Click()
 {
-    const auto row = OneSelectedRow(QStringLiteral("view"));
+    const auto row = OneSelectedRow(u"view"_s);
     if (!row)
         return;
     auto* viewPage = static_cast<EntryViewPage*>(pages.Page(ViewPage));
@@ -171,7 +174,7 @@ void EntriesPage::F13view_Click()
 
 void EntriesPage::F13edit_Click()
 {
-    const auto row = OneSelectedRow(QStringLiteral("edit"));
+    const auto row = OneSelectedRow(u"edit"_s);
     if (!row)
         return;
     auto* editPage = static_cast<EntryEditPage*>(pages.Page(EditPage));
@@ -185,11 +188,10 @@ void EntriesPage::F13delete_Click()
     const GridView::RowSpan rows = F13grid->SelectedRows();
     if (rows.Count() == 0)
         return;
-    const QString question =
-        rows.Count() == 1 ? QStringLiteral("Are you sure you want") + Crlf + QStringLiteral("to delete this entry?")
-                          : QStringLiteral("Are you sure you want to") + Crlf + QStringLiteral("delete these entries?");
+    const QString question = rows.Count() == 1 ? u"Are you sure you want"_s + Crlf + u"to delete this entry?"_s
+                                               : u"Are you sure you want to"_s + Crlf + u"delete these entries?"_s;
     if (!AskYesNo(question)) {
-        ShowMessage(QStringLiteral("Data delete has been aborted."));
+        ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
     std::vector<std::int64_t> numbers;

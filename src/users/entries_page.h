@@ -1,7 +1,9 @@
 #pragma once
 
-#include "platform/page_frame.h"
-#include "users/entry_row.h"
+#include "controls/page_frame.h"
+#include "game/entry_row.h"
+
+#include <QLabel>
 
 #include <optional>
 

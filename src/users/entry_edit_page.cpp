@@ -1,34 +1,37 @@
 #include "users/entry_edit_page.h"
 
-#include "draws/ball_fields.h"
-#include "draws/game.h"
-#include "platform/ball_edit.h"
-#include "platform/failure.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
+#include "balls/ball_edit.h"
+#include "balls/ball_fields.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "controls/guard.h"
+#include "controls/message_box.h"
+#include "controls/page_switch.h"
+#include "game/game.h"
+#include "look/button.h"
 #include "records/record_numbers.h"
-#include "shell/open_databases.h"
-#include "shell/page_switch.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 #include "users/day_boxes.h"
 #include "users/entries_page.h"
 #include "users/entry_head.h"
-#include "users/user_records.h"
+
+#include <QPushButton>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 EntryEditPage::EntryEditPage(PageSwitch& pageSwitch)
-    : PageFrame(20, QStringLiteral("View Entry in Detail")),
+    : PageFrame(20, u"View Entry in Detail"_s),
       pages(pageSwitch),
-      head(new EntryHead(QStringLiteral("F20"))),
-      F20num(new BallFields(
-          {QStringLiteral("F20num"), QStringLiteral("F20ball"), QStringLiteral("F20caption"), {1, 2, 3, 4, 5, 6}},
-          EntryBallCaptions())),
-      F20day(new DayBoxes({QStringLiteral("F20day"), {}, {}}, QString())),
-      F20back(AddFooterButton(QStringLiteral("BACK"), QStringLiteral("F20back"))),
-      F20store(AddFooterDefault(QStringLiteral("Store Changes"), QStringLiteral("F20store")))
+      head(new EntryHead(u"F20"_s)),
+      F20num(new BallFields({u"F20num"_s, u"F20ball"_s, u"F20caption"_s, {1, 2, 3, 4, 5, 6}}, EntryBallCaptions())),
+      F20day(new DayBoxes({u"F20day"_s, {}, {}}, QString())),
+      F20back(AddFooterButton(u"BACK"_s, u"F20back"_s)),
+      F20store(AddFooterDefault(u"Store Changes"_s, u"F20store"_s))
 {
-    KeepThunderballCaptionOnly(F20num, QStringLiteral("F20thunderlabel"));
+    KeepThunderballCaptionOnly(F20num, u"F20thunderlabel"_s);
     // The page may come to light without an entry, where another copy has deleted the one that was asked for.
     F20num->SetRule(EntryEditingRule(MainGame));
     F20num->Recolour();
@@ -76,14 +79,14 @@ void EntryEditPage::F20store_Click()
     F20num->Sort(game.mainBalls);
     F20num->Recolour();
     if (HasEqualTexts()) {
-        const QString first = &game == &MainGame ? QStringLiteral("Two or more balls have the same value,")
-                                                 : QStringLiteral("Two or more main balls have the same value,");
-        ShowMessage(first + Crlf + QStringLiteral("please retry."));
+        const QString first = &game == &MainGame ? u"Two or more balls have the same value,"_s
+                                                 : u"Two or more main balls have the same value,"_s;
+        ShowMessage(first + Crlf + u"please retry."_s);
         return;
     }
     StoreChanges();
     static_cast<EntriesPage*>(pages.Page(13))->ListGame(game);
-    ShowMessage(QStringLiteral("The changes have been stored."));
+    ShowMessage(u"The changes have been stored."_s);
     hide();
 }
 
@@ -103,7 +106,7 @@ void EntryEditPage::StoreChanges()
 
 void EntryEditPage::F20back_Click()
 {
-    switch (AskYesNoCancel(QStringLiteral("Do you want to save the changes to this entry"))) {
+    switch (AskYesNoCancel(u"Do you want to save the changes to this entry"_s)) {
     case Answer::Yes:
         F20store_Click();
         break;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/page_frame.h"
-#include "users/entry_row.h"
+#include "controls/page_frame.h"
+#include "game/entry_row.h"
 
 class BallFields;
 class DayBoxes;

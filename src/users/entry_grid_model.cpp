@@ -1,9 +1,11 @@
 #include "users/entry_grid_model.h"
 
-#include "draws/game.h"
-#include "platform/numbers.h"
+#include "base/numbers.h"
+#include "game/game.h"
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -12,7 +14,7 @@ constexpr int BallColumns = 6;
 
 std::vector<GridModel::Column> Columns()
 {
-    std::vector<GridModel::Column> columns{{QString()}, {QStringLiteral("Entry"), Qt::AlignCenter, true}};
+    std::vector<GridModel::Column> columns{{QString()}, {u"Entry"_s, Qt::AlignCenter, true}};
     for (int slot = 0; slot < BallColumns; ++slot)
         columns.push_back({MainGame.BallCaption(slot)});
     return columns;
@@ -28,7 +30,7 @@ void EntryGridModel::Fill(const Game& game, std::vector<EntryRow> entriesOfGame)
     rows = std::move(entriesOfGame);
     endResetModel();
     SetHeading(FirstBallColumn + BallColumns - 1,
-               &game == &MainGame ? MainGame.BallCaption(BallColumns - 1) : QStringLiteral("Thunder"));
+               &game == &MainGame ? MainGame.BallCaption(BallColumns - 1) : u"Thunder"_s);
 }
 
 int EntryGridModel::rowCount(const QModelIndex& parent) const

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/grid_view.h"
-#include "users/entry_row.h"
+#include "controls/grid_model.h"
+#include "controls/grid_view.h"
+#include "game/entry_row.h"
 
 struct Game;
 

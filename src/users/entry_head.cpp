@@ -1,10 +1,14 @@
 #include "users/entry_head.h"
 
-#include "draws/game.h"
-#include "platform/page_frame.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "game/game.h"
+#include "look/theme.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,15 +25,15 @@ QLineEdit* MakeReadOnlyBox(const QString& name, const QString& accessibleName)
 
 EntryHead::EntryHead(const QString& prefix, QWidget* parent)
     : Card(parent),
-      user(MakeReadOnlyBox(prefix + QStringLiteral("user"), QStringLiteral("User"))),
-      type(MakeReadOnlyBox(prefix + QStringLiteral("type"), QStringLiteral("Draw Type")))
+      user(MakeReadOnlyBox(prefix + u"user"_s, u"User"_s)),
+      type(MakeReadOnlyBox(prefix + u"type"_s, u"Draw Type"_s))
 {
     auto* form = new QGridLayout;
     form->setHorizontalSpacing(Spacing::Cards);
     form->setVerticalSpacing(Spacing::Inside);
-    form->addWidget(MakeLabel(QStringLiteral("User"), TextRole::Caption, prefix + QStringLiteral("label1")), 0, 0);
+    form->addWidget(MakeLabel(u"User"_s, TextRole::Caption, prefix + u"label1"_s), 0, 0);
     form->addWidget(user, 1, 0);
-    form->addWidget(MakeLabel(QStringLiteral("Draw Type"), TextRole::Caption, prefix + QStringLiteral("label2")), 0, 1);
+    form->addWidget(MakeLabel(u"Draw Type"_s, TextRole::Caption, prefix + u"label2"_s), 0, 1);
     form->addWidget(type, 1, 1);
     form->setColumnStretch(0, 1);
     form->setColumnStretch(1, 1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/card.h"
+#include "controls/card.h"
 
 #include <QLabel>
 
@@ -33,8 +33,9 @@ QStringList EntryBallCaptions();
 template <typename Balls>
 void KeepThunderballCaptionOnly(Balls* balls, const QString& name)
 {
+    using namespace Qt::StringLiterals;
     for (int slot = 0; slot < 6; ++slot)
         balls->Caption(slot)->hide();
     balls->Caption(5)->setObjectName(name);
-    balls->Caption(5)->setText(QStringLiteral("Thunderball"));
+    balls->Caption(5)->setText(u"Thunderball"_s);
 }

@@ -1,23 +1,26 @@
 #include "users/entry_view_page.h"
 
-#include "draws/ball_row.h"
-#include "draws/game.h"
-#include "platform/dates.h"
-#include "platform/guard.h"
+#include "balls/ball_row.h"
+#include "base/dates.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "game/game.h"
+#include "look/button.h"
+#include "look/theme.h"
 #include "users/entry_head.h"
 
 #include <QEvent>
 #include <QGridLayout>
 
+using namespace Qt::StringLiterals;
+
 EntryViewPage::EntryViewPage()
-    : PageFrame(19, QStringLiteral("View Entry in Detail")),
-      head(new EntryHead(QStringLiteral("F19"))),
-      balls(new BallRow(
-          {QStringLiteral("F19num"), QStringLiteral("F19ball"), QStringLiteral("F19caption"), {1, 2, 3, 4, 5, 6}},
-          EntryBallCaptions())),
-      F19back(AddFooterDefault(QStringLiteral("BACK"), QStringLiteral("F19back")))
+    : PageFrame(19, u"View Entry in Detail"_s),
+      head(new EntryHead(u"F19"_s)),
+      balls(new BallRow({u"F19num"_s, u"F19ball"_s, u"F19caption"_s, {1, 2, 3, 4, 5, 6}}, EntryBallCaptions())),
+      F19back(AddFooterDefault(u"BACK"_s, u"F19back"_s))
 {
-    KeepThunderballCaptionOnly(balls, QStringLiteral("F19thunderlabel"));
+    KeepThunderballCaptionOnly(balls, u"F19thunderlabel"_s);
     auto* ballCard = new Card;
     ballCard->Content()->addWidget(balls);
     for (Card* card : {static_cast<Card*>(head), ballCard, MakeDayCard()})
@@ -37,8 +40,7 @@ Card* EntryViewPage::MakeDayCard()
     constexpr int rowsInColumn = 4;
     for (int day = 0; day < 7; ++day) {
         QLabel*& label = F19day.at(static_cast<size_t>(day));
-        label = MakeLabel(DayNames.at(static_cast<size_t>(day)), TextRole::Strong,
-                          ElementName(QStringLiteral("F19day"), day));
+        label = MakeLabel(DayNames.at(static_cast<size_t>(day)), TextRole::Strong, ElementName(u"F19day"_s, day));
         grid->addWidget(label, day % rowsInColumn, day / rowsInColumn);
     }
     grid->setColumnStretch(2, 1);
@@ -78,6 +80,6 @@ void EntryViewPage::ColourDays()
         label->setPalette(palette);
         // The colour is not the only sign.
         label->setFont(FontFor(days.at(day) ? TextRole::Strong : TextRole::Body));
-        label->setAccessibleDescription(days.at(day) ? QStringLiteral("played") : QStringLiteral("not played"));
+        label->setAccessibleDescription(days.at(day) ? u"played"_s : u"not played"_s);
     }
 }

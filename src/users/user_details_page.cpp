@@ -1,18 +1,23 @@
 #include "users/user_details_page.h"
 
-#include "platform/card.h"
-#include "platform/failure.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
-#include "shell/open_databases.h"
-#include "users/user_records.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,10 +32,10 @@ QLineEdit* MakeBox(const QString& name)
 QString UserCountText(int count)
 {
     if (count == 0)
-        return QStringLiteral("There are currently no users.");
+        return u"There are currently no users."_s;
     if (count == 1)
-        return QStringLiteral("There is currently 1 user.");
-    return QStringLiteral("There are currently ") + SpacedNumber(count) + QStringLiteral(" users.");
+        return u"There is currently 1 user."_s;
+    return u"There are currently "_s + SpacedNumber(count) + u" users."_s;
 }
 
 /// False, and nothing is stored, when there is a user of that name already.
@@ -66,19 +71,19 @@ void DeleteUserWithEntries(std::int64_t number)
 } // namespace
 
 UserDetailsPage::UserDetailsPage()
-    : PageFrame(11, QStringLiteral("User Details")),
-      F11label1(MakeLabel({}, TextRole::Body, QStringLiteral("F11label1"))),
+    : PageFrame(11, u"User Details"_s),
+      F11label1(MakeLabel({}, TextRole::Body, u"F11label1"_s)),
       F11list(new QListWidget),
-      F11label2(MakeLabel({}, TextRole::Caption, QStringLiteral("F11label2"))),
-      F11seluser(MakeBox(QStringLiteral("F11seluser"))),
-      F11spend(MakeBox(QStringLiteral("F11spend"))),
-      F11label4(MakeLabel(QStringLiteral("Current number of entries"), TextRole::Caption, QStringLiteral("F11label4"))),
-      F11entrycount(MakeBox(QStringLiteral("F11entrycount")))
+      F11label2(MakeLabel({}, TextRole::Caption, u"F11label2"_s)),
+      F11seluser(MakeBox(u"F11seluser"_s)),
+      F11spend(MakeBox(u"F11spend"_s)),
+      F11label4(MakeLabel(u"Current number of entries"_s, TextRole::Caption, u"F11label4"_s)),
+      F11entrycount(MakeBox(u"F11entrycount"_s))
 {
     BuildCards();
-    F11adduser = AddFooterButton(QStringLiteral("Add New User"), QStringLiteral("F11adduser"));
-    F11edituser = AddFooterButton(QStringLiteral("Edit User"), QStringLiteral("F11edituser"));
-    F11deleteuser = AddFooterButton(QStringLiteral("Delete User"), QStringLiteral("F11deleteuser"));
+    F11adduser = AddFooterButton(u"Add New User"_s, u"F11adduser"_s);
+    F11edituser = AddFooterButton(u"Edit User"_s, u"F11edituser"_s);
+    F11deleteuser = AddFooterButton(u"Delete User"_s, u"F11deleteuser"_s);
     ConnectHandlers();
 }
 
@@ -87,8 +92,8 @@ void UserDetailsPage::BuildCards()
     auto* listCard = new Card;
     F11label1->setWordWrap(true);
     listCard->Content()->addWidget(F11label1);
-    F11list->setObjectName(QStringLiteral("F11list"));
-    F11list->setAccessibleName(QStringLiteral("Users"));
+    F11list->setObjectName(u"F11list"_s);
+    F11list->setAccessibleName(u"Users"_s);
     F11list->setFrameShape(QFrame::NoFrame);
     F11list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     F11list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -103,14 +108,13 @@ void UserDetailsPage::BuildCards()
         form->addSpacing(Spacing::Between);
     };
     add(F11label2, F11seluser);
-    add(MakeLabel(QStringLiteral("Maximum number of entries"), TextRole::Caption, QStringLiteral("F11label3")),
-        F11spend);
+    add(MakeLabel(u"Maximum number of entries"_s, TextRole::Caption, u"F11label3"_s), F11spend);
     add(F11label4, F11entrycount);
-    F11spend->setAccessibleName(QStringLiteral("Maximum number of entries"));
+    F11spend->setAccessibleName(u"Maximum number of entries"_s);
     F11entrycount->setAccessibleName(F11label4->text());
     F11entrycount->setReadOnly(true);
-    F11storenu = new Button(QStringLiteral("Store New User"), QStringLiteral("F11storenu"));
-    F11storech = new Button(QStringLiteral("Store Changes"), QStringLiteral("F11storech"));
+    F11storenu = new Button(u"Store New User"_s, u"F11storenu"_s);
+    F11storech = new Button(u"Store Changes"_s, u"F11storech"_s);
     for (Button* store : {F11storenu, F11storech}) {
         store->MakeAccent();
         form->addWidget(store, 0, Qt::AlignLeft);
@@ -172,9 +176,9 @@ void UserDetailsPage::SetMode(Mode newMode)
         F11entrycount->clear();
     F11storenu->setVisible(mode == Mode::Add);
     F11storech->setVisible(mode == Mode::Edit);
-    F11label2->setText(mode == Mode::View  ? QStringLiteral("Currently selected user")
-                       : mode == Mode::Add ? QStringLiteral("New users name")
-                                           : QStringLiteral("Updated users name"));
+    F11label2->setText(mode == Mode::View  ? u"Currently selected user"_s
+                       : mode == Mode::Add ? u"New users name"_s
+                                           : u"Updated users name"_s);
     F11seluser->setAccessibleName(F11label2->text());
     if (typing)
         F11seluser->setFocus(Qt::TabFocusReason);
@@ -224,7 +228,7 @@ void UserDetailsPage::F11edituser_Click()
     if (mode == Mode::Edit)
         return;
     if (SelectedLine() == nullptr) {
-        ShowMessage(QStringLiteral("Select a user first."));
+        ShowMessage(u"Select a user first."_s);
         return;
     }
     // Typing that was begun for a new user is dropped, as by a click on the list.
@@ -237,8 +241,7 @@ void UserDetailsPage::F11edituser_Click()
 void UserDetailsPage::F11storenu_Click()
 {
     if (!StoreNewUser(F11seluser->text(), NumericValue(F11spend->text()))) {
-        ShowMessage(QStringLiteral("There is already a user with this name.") + Crlf +
-                    QStringLiteral("Try another name and try again."));
+        ShowMessage(u"There is already a user with this name."_s + Crlf + u"Try another name and try again."_s);
         return;
     }
     Prepare();
@@ -249,16 +252,16 @@ void UserDetailsPage::F11storech_Click()
     const QString name = F11seluser->text();
     const double limit = NumericValue(F11spend->text());
     if (name.isEmpty()) {
-        ShowMessage(QStringLiteral("Invalid user name, please retry."));
+        ShowMessage(u"Invalid user name, please retry."_s);
         return;
     }
     if (name != editedUserName && NameIsTaken(name, selectedUserNumber)) {
-        ShowMessage(QStringLiteral("This user name has already been used, please retry"));
+        ShowMessage(u"This user name has already been used, please retry"_s);
         return;
     }
     if (limit < entryCount) {
-        ShowMessage(QStringLiteral("This user already has more entries than you have specified as the maximum.") +
-                    Crlf + QStringLiteral("Change the maximum limit or delete some entries, then retry."));
+        ShowMessage(u"This user already has more entries than you have specified as the maximum."_s + Crlf +
+                    u"Change the maximum limit or delete some entries, then retry."_s);
         return;
     }
     StoreUserChanges(selectedUserNumber, name, limit);
@@ -268,11 +271,10 @@ void UserDetailsPage::F11storech_Click()
 void UserDetailsPage::F11deleteuser_Click()
 {
     if (SelectedLine() == nullptr) {
-        ShowMessage(QStringLiteral("Select a user first."));
+        ShowMessage(u"Select a user first."_s);
         return;
     }
-    if (!AskYesNo(QStringLiteral("Are you sure you want to delete this user") + Crlf +
-                  QStringLiteral("and all entries stored with it?")))
+    if (!AskYesNo(u"Are you sure you want to delete this user"_s + Crlf + u"and all entries stored with it?"_s))
         return;
     DeleteUserWithEntries(selectedUserNumber);
     Prepare();

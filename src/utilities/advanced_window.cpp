@@ -1,16 +1,19 @@
 #include "utilities/advanced_window.h"
 
-#include "platform/card.h"
-#include "platform/failure.h"
-#include "platform/file_dialog.h"
-#include "platform/guard.h"
-#include "platform/message_box.h"
-#include "platform/page_frame.h"
-#include "shell/open_databases.h"
-#include "shell/start_up.h"
+#include "base/failure.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/message_box.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/open_databases.h"
 #include "utilities/backup.h"
 #include "utilities/database_file.h"
+#include "utilities/file_dialog.h"
 #include "utilities/import.h"
+#include "utilities/start_up.h"
 
 #include <QFile>
 #include <QHBoxLayout>
@@ -18,9 +21,11 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString LabelArray = QStringLiteral("Label");
+const QString LabelArray = u"Label"_s;
 
 std::filesystem::path PathOf(const QString& chosen)
 {
@@ -51,22 +56,22 @@ auto ReopeningOnFailure(const QString& outcome, Steps steps)
 
 AdvancedWindow::AdvancedWindow(QWidget* parent) : QDialog(parent)
 {
-    setObjectName(QStringLiteral("frmadvanced"));
-    setWindowTitle(QStringLiteral("Tavenor 3 --- Advanced Options"));
-    auto* exportdraw = new Button(QStringLiteral("Backup Draw Database"), QStringLiteral("exportdraw"));
-    auto* importdraw = new Button(QStringLiteral("Import Updated Draw Database"), QStringLiteral("importdraw"));
-    auto* exportuser = new Button(QStringLiteral("Backup User Entry Database"), QStringLiteral("exportuser"));
-    auto* importuser = new Button(QStringLiteral("Import User Entry Database"), QStringLiteral("importuser"));
-    auto* back = new Button(QStringLiteral("BACK"), QStringLiteral("back"));
+    setObjectName(u"frmadvanced"_s);
+    setWindowTitle(u"Tavenor 3 --- Advanced Options"_s);
+    auto* exportdraw = new Button(u"Backup Draw Database"_s, u"exportdraw"_s);
+    auto* importdraw = new Button(u"Import Updated Draw Database"_s, u"importdraw"_s);
+    auto* exportuser = new Button(u"Backup User Entry Database"_s, u"exportuser"_s);
+    auto* importuser = new Button(u"Import User Entry Database"_s, u"importuser"_s);
+    auto* back = new Button(u"BACK"_s, u"back"_s);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
     layout->setSpacing(Spacing::Cards);
-    layout->addWidget(MakeLabel(QStringLiteral("Database Utilities"), TextRole::Title, ElementName(LabelArray, 0)));
+    layout->addWidget(MakeLabel(u"Database Utilities"_s, TextRole::Title, ElementName(LabelArray, 0)));
     auto* groups = new QHBoxLayout;
     groups->setSpacing(Spacing::Cards);
-    groups->addWidget(BuildGroup(1, QStringLiteral("Draw Records"), exportdraw, importdraw));
-    groups->addWidget(BuildGroup(2, QStringLiteral("User Entries"), exportuser, importuser));
+    groups->addWidget(BuildGroup(1, u"Draw Records"_s, exportdraw, importdraw));
+    groups->addWidget(BuildGroup(2, u"User Entries"_s, exportuser, importuser));
     layout->addLayout(groups);
     layout->addStretch(1);
     layout->addWidget(back, 0, Qt::AlignRight);
@@ -90,12 +95,12 @@ QWidget* AdvancedWindow::BuildGroup(int index, const QString& heading, Button* b
 
 void AdvancedWindow::Export_Click(const DatabaseFile& file)
 {
-    const QString notStored = file.name + QStringLiteral(" has not been stored");
-    const QString chosen = AskFileToSave(Question(QStringLiteral("Backup"), file), this);
+    const QString notStored = file.name + u" has not been stored"_s;
+    const QString chosen = AskFileToSave(Question(u"Backup"_s, file), this);
     if (chosen.isEmpty())
         return;
     if (IsLivePath(chosen)) {
-        ShowMessage(QStringLiteral("You can't overwrite the current database files,") + Crlf + notStored + u'.');
+        ShowMessage(u"You can't overwrite the current database files,"_s + Crlf + notStored + u'.');
         return;
     }
     ReopeningOnFailure(notStored, [&] {
@@ -108,12 +113,12 @@ void AdvancedWindow::Export_Click(const DatabaseFile& file)
 
 void AdvancedWindow::Import_Click(const DatabaseFile& file)
 {
-    const QString notAltered = file.name + QStringLiteral(" has not been altered");
-    const QString chosen = AskFileToOpen(Question(QStringLiteral("Import"), file), this);
+    const QString notAltered = file.name + u" has not been altered"_s;
+    const QString chosen = AskFileToOpen(Question(u"Import"_s, file), this);
     if (chosen.isEmpty())
         return;
     if (IsLivePath(chosen)) {
-        ShowMessage(QStringLiteral("You can't use the current database files,") + Crlf + notAltered + u'.');
+        ShowMessage(u"You can't use the current database files,"_s + Crlf + notAltered + u'.');
         return;
     }
     const auto import = ReopeningOnFailure(notAltered, [&] {

@@ -1,10 +1,10 @@
 #include "utilities/backup.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
+#include "base/failure.h"
+#include "base/files.h"
 #include "records/compaction.h"
 #include "records/held_file.h"
-#include "shell/open_databases.h"
+#include "store/open_databases.h"
 #include "utilities/database_file.h"
 
 namespace {

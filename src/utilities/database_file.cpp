@@ -1,27 +1,29 @@
 #include "utilities/database_file.h"
 
-#include "shell/open_databases.h"
+#include "store/open_databases.h"
 
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 DatabaseFile DrawDatabaseFile()
 {
     return {DrawDataPath,
             DrawConnect,
-            QStringLiteral("drawdata.tv3"),
-            QStringLiteral("The draw database"),
-            QStringLiteral("A copy of the draw record database has been stored."),
-            QStringLiteral("The draw record database has been replaced.")};
+            u"drawdata.tv3"_s,
+            u"The draw database"_s,
+            u"A copy of the draw record database has been stored."_s,
+            u"The draw record database has been replaced."_s};
 }
 
 DatabaseFile UserDatabaseFile()
 {
     return {UserDataPath,
             {},
-            QStringLiteral("userdata.tv3"),
-            QStringLiteral("The user entry database"),
-            QStringLiteral("A copy of the user entry database has been stored."),
-            QStringLiteral("The user entry database has been replaced.")};
+            u"userdata.tv3"_s,
+            u"The user entry database"_s,
+            u"A copy of the user entry database has been stored."_s,
+            u"The user entry database has been replaced."_s};
 }
 
 bool IsLivePath(const QString& chosen)

@@ -1,8 +1,8 @@
 #include "utilities/import.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "shell/open_databases.h"
+#include "base/failure.h"
+#include "base/files.h"
+#include "store/open_databases.h"
 #include "utilities/database_file.h"
 
 #include <fstream>

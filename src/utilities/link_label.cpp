@@ -1,6 +1,6 @@
 #include "utilities/link_label.h"
 
-#include "platform/theme.h"
+#include "look/theme.h"
 
 #include <QEvent>
 #include <QPainter>

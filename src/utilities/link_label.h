@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/click_label.h"
+#include "controls/click_label.h"
 
 enum class TextRole;
 

@@ -1,13 +1,18 @@
 #include "utilities/links_page.h"
 
-#include "platform/card.h"
-#include "platform/guard.h"
-#include "platform/open_address.h"
-#include "platform/texts.h"
-#include "shell/open_databases.h"
+#include "base/texts.h"
+#include "controls/card.h"
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "store/open_databases.h"
 #include "utilities/link_label.h"
+#include "utilities/open_address.h"
 
 #include <QGridLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,18 +21,18 @@ constexpr int WebAddress = 1;
 constexpr int MailAddress = 2;
 constexpr int FirstDescription = 3;
 
-const QString NotSpecified = QStringLiteral("Not Specified.");
-const QString PlaceForASite = QStringLiteral("Your web site HERE.");
+const QString NotSpecified = u"Not Specified."_s;
+const QString PlaceForASite = u"Your web site HERE."_s;
 
 } // namespace
 
-LinksPage::LinksPage() : PageFrame(25, QStringLiteral("Internet Links"))
+LinksPage::LinksPage() : PageFrame(25, u"Internet Links"_s)
 {
     Body()->addWidget(BuildCard());
     Body()->addStretch(1);
-    Button* F25prev = AddFooterButton(QStringLiteral("< Previous Link"), QStringLiteral("F25prev"));
-    Button* F25next = AddFooterButton(QStringLiteral("Next Link >"), QStringLiteral("F25next"));
-    Button* F25back = AddFooterButton(QStringLiteral("BACK"), QStringLiteral("F25back"));
+    Button* F25prev = AddFooterButton(u"< Previous Link"_s, u"F25prev"_s);
+    Button* F25next = AddFooterButton(u"Next Link >"_s, u"F25next"_s);
+    Button* F25back = AddFooterButton(u"BACK"_s, u"F25back"_s);
     SetBackButton(F25back);
     ConnectGuarded(F25prev, &QPushButton::clicked, this, [this] { F25prev_Click(); });
     ConnectGuarded(F25next, &QPushButton::clicked, this, [this] { F25next_Click(); });
@@ -41,12 +46,11 @@ QWidget* LinksPage::BuildCard()
 {
     for (int index = 0; index < static_cast<int>(F25link.size()); ++index) {
         const int mostLines = index < FirstDescription ? 1 : 3;
-        F25link.at(static_cast<size_t>(index)) =
-            new LinkLabel(ElementName(QStringLiteral("F25link"), index),
-                          index == SiteName ? TextRole::Heading : TextRole::Body, mostLines);
+        F25link.at(static_cast<size_t>(index)) = new LinkLabel(
+            ElementName(u"F25link"_s, index), index == SiteName ? TextRole::Heading : TextRole::Body, mostLines);
     }
     const auto heading = [](const QString& caption, int index) {
-        QLabel* label = MakeLabel(caption, TextRole::Caption, ElementName(QStringLiteral("F25label"), index));
+        QLabel* label = MakeLabel(caption, TextRole::Caption, ElementName(u"F25label"_s, index));
         // The caption's first line stands level with the text beside it, which is larger and has room around it.
         label->setContentsMargins(0, Spacing::Inside / 2 + 1, 0, 0);
         label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
@@ -59,11 +63,11 @@ QWidget* LinksPage::BuildCard()
     grid->setColumnStretch(1, 1);
     card->Content()->addWidget(F25link[SiteName]);
     card->Content()->addLayout(grid);
-    grid->addWidget(heading(QStringLiteral("Web Site:"), 0), 0, 0);
+    grid->addWidget(heading(u"Web Site:"_s, 0), 0, 0);
     grid->addWidget(F25link[WebAddress], 0, 1);
-    grid->addWidget(heading(QStringLiteral("E-Mail:"), 1), 1, 0);
+    grid->addWidget(heading(u"E-Mail:"_s, 1), 1, 0);
     grid->addWidget(F25link[MailAddress], 1, 1);
-    grid->addWidget(heading(QStringLiteral("Description:"), 2), 2, 0);
+    grid->addWidget(heading(u"Description:"_s, 2), 2, 0);
     grid->addWidget(F25link[FirstDescription], 2, 1);
     grid->addWidget(F25link[FirstDescription + 1], 3, 1);
     return card;
@@ -78,9 +82,8 @@ void LinksPage::Prepare()
 
 void LinksPage::ShowLink()
 {
-    static const std::array<QString, 5> captions{QStringLiteral("Site"), QStringLiteral("Web Site:"),
-                                                 QStringLiteral("E-Mail:"), QStringLiteral("Description:"),
-                                                 QStringLiteral("Description:")};
+    static const std::array<QString, 5> captions{u"Site"_s, u"Web Site:"_s, u"E-Mail:"_s, u"Description:"_s,
+                                                 u"Description:"_s};
     const bool empty = links.IsEmpty();
     for (int index = 0; index < static_cast<int>(F25link.size()); ++index) {
         QString text = empty ? QString() : FromUtf8(links.Text(index));
@@ -99,7 +102,7 @@ void LinksPage::F25link_Click(int index)
 {
     const LinkLabel* label = F25link.at(static_cast<size_t>(index));
     if (label->IsLink())
-        OpenAddress((index == MailAddress ? QStringLiteral("mailto:") : QString()) + label->text());
+        OpenAddress((index == MailAddress ? u"mailto:"_s : QString()) + label->text());
 }
 
 void LinksPage::F25next_Click()

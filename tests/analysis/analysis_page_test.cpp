@@ -1,5 +1,7 @@
 #include "support/test_window.h"
 
+#include <QLabel>
+
 namespace {
 
 const QString CountOption =

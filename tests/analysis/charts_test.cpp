@@ -1,11 +1,13 @@
 #include "support/test_window.h"
 
 #include "analysis/draw_history.h"
-#include "draws/draw_records.h"
-#include "draws/game.h"
+#include "game/game.h"
+#include "store/draw_records.h"
 
 #include <cmath>
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -88,7 +90,7 @@ int PlainBar(int chart, int bar, const QList<QStringList>& draws, int type)
     return value;
 }
 
-const QString BarText = QStringLiteral("%1: %2 in colour %3");
+const QString BarText = u"%1: %2 in colour %3"_s;
 
 /// What the table of the charts must say of one of them.
 struct Expected

@@ -1,5 +1,5 @@
 // Ahead of the test framework, which brings a Display of its own.
-#include "platform/theme.h"
+#include "look/theme.h"
 
 #include "support/test_window.h"
 
@@ -8,6 +8,8 @@
 
 #include <QChartView>
 #include <QGraphicsSimpleTextItem>
+#include <QLabel>
+#include <QPushButton>
 #include <QToolTip>
 
 #include <algorithm>

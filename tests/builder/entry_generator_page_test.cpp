@@ -1,18 +1,21 @@
 #include "support/full_disk.h"
 #include "support/grid_driver.h"
 
-#include "builder/built_entries.h"
-#include "platform/random_source.h"
+#include "builder/random_source.h"
+#include "store/entry_changes.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLabel>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString LimitQuestion = QStringLiteral("This users spend limit is to low to allow you to store these entries.\r\n"
-                                             "Do you want to raise the spend limit.");
+const QString LimitQuestion = u"This users spend limit is to low to allow you to store these entries.\r\n"
+                              u"Do you want to raise the spend limit."_s;
 
 /// The controls that come and go, by the words that the tests use for them.
 const std::pair<QString, QString> Changing[] = {{"type", "F26combo_1"},  {"info", "F26info"},      {"made", "Label_8"},
@@ -26,8 +29,8 @@ class Generator : public TestWindow
 public:
     explicit Generator(double limit = 500)
     {
-        AddUser(users, QStringLiteral("Ann"), limit);
-        AddUser(users, QStringLiteral("Ben"), 500);
+        AddUser(users, u"Ann"_s, limit);
+        AddUser(users, u"Ben"_s, 500);
         Open();
     }
 
@@ -35,7 +38,7 @@ public:
 
     void Choose(int list, int item)
     {
-        const QString name = QStringLiteral("F26combo_%1").arg(list);
+        const QString name = u"F26combo_%1"_s.arg(list);
         TestWindow::Choose(name, item);
         QCOMPARE(Find<QComboBox>(name)->currentIndex(), item);
     }

@@ -1,14 +1,18 @@
 #include "support/test_window.h"
 
-#include "platform/month_calendar.h"
+#include "controls/month_calendar.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Refused =
-    QStringLiteral("Error detected in the data that you entered.\r\nPlease re-check and press 'Store' again.");
-const QString MainStored = QStringLiteral("The new main draw data has been stored.");
-const QString ThunderballStored = QStringLiteral("The new Thunderball draw data has been stored.");
-const QString NotStored = QStringLiteral("The data has NOT been stored.");
+const QString Refused = u"Error detected in the data that you entered.\r\nPlease re-check and press 'Store' again."_s;
+const QString MainStored = u"The new main draw data has been stored."_s;
+const QString ThunderballStored = u"The new Thunderball draw data has been stored."_s;
+const QString NotStored = u"The data has NOT been stored."_s;
 const QDate Saturday(2026, 11, 21);
 const char* const Grey = "#404040";
 const char* const White = "#FFFFFF";

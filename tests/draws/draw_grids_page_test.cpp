@@ -1,14 +1,16 @@
 #include "support/grid_driver.h"
 
-#include "platform/dates.h"
+#include "base/dates.h"
 
 #include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString ManyMain = QStringLiteral("Are you sure you want to\r\ndelete these main draws?");
+const QString ManyMain = u"Are you sure you want to\r\ndelete these main draws?"_s;
 
 /// The page with five draws of each game, a week apart. Draw n carries n as its first ball, so that grid rows 0 to 4
 /// show draws 5 to 1.

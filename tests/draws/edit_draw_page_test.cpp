@@ -1,12 +1,14 @@
 #include "support/grid_driver.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString Refused =
-    QStringLiteral("Error detected in the data that you entered.\r\nPlease re-check and press 'Save Changes' again.");
-const QString Sure = QStringLiteral("Are you sure you want to replace the old data with this new data?");
-const QString Lost = QStringLiteral("All changes will be lost, are you sure you want to continue?");
-const QString MainRow = QStringLiteral("1,2026-11-14,Sat,3,15,22,38,41,49,9,ARTHUR,4");
+    u"Error detected in the data that you entered.\r\nPlease re-check and press 'Save Changes' again."_s;
+const QString Sure = u"Are you sure you want to replace the old data with this new data?"_s;
+const QString Lost = u"All changes will be lost, are you sure you want to continue?"_s;
+const QString MainRow = u"1,2026-11-14,Sat,3,15,22,38,41,49,9,ARTHUR,4"_s;
 
 /// The older of two stored draws of a game, opened for editing.
 class EditedDraw : public TestWindow

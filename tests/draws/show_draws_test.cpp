@@ -1,6 +1,6 @@
 #include "support/grid_driver.h"
 
-#include "platform/month_calendar.h"
+#include "controls/month_calendar.h"
 
 #include <QTableView>
 

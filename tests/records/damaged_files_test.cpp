@@ -9,16 +9,16 @@
 
 #include "analysis/ball_data.h"
 #include "analysis/draw_history.h"
-#include "builder/built_entries.h"
+#include "base/dates.h"
+#include "base/failure.h"
+#include "base/files.h"
 #include "checking/check_report.h"
-#include "draws/draw_records.h"
-#include "draws/game.h"
-#include "platform/dates.h"
-#include "platform/failure.h"
-#include "platform/files.h"
+#include "game/game.h"
 #include "records/key_store.h"
-#include "shell/open_databases.h"
-#include "users/user_records.h"
+#include "store/draw_records.h"
+#include "store/entry_changes.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -29,6 +29,8 @@
 #include <algorithm>
 #include <random>
 #include <sys/time.h>
+
+using namespace Qt::StringLiterals;
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr unsigned LongestSeconds = 6;
@@ -281,7 +283,7 @@ int Walk()
 
 long ResidentMemory()
 {
-    return BytesOf(QStringLiteral("/proc/self/statm")).split(' ').value(1).toLong() * 4;
+    return BytesOf(u"/proc/self/statm"_s).split(' ').value(1).toLong() * 4;
 }
 
 } // namespace

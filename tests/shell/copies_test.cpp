@@ -7,6 +7,8 @@
 #include <random>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Rounds = 8;
@@ -18,7 +20,7 @@ void UseFolder(unsigned seed, const ForkedProcess::Say& say)
     for (int round = 0; round < Rounds; ++round) {
         OpenDatabaseFiles();
         for (auto changes = random() % 6; changes > 0; --changes) {
-            const QString name = QStringLiteral("%1 %2 %3").arg(seed).arg(round).arg(changes);
+            const QString name = u"%1 %2 %3"_s.arg(seed).arg(round).arg(changes);
             Transaction transaction(UserDb, "");
             AddUser(users, name, 5);
             EntryRow entry;

@@ -1,8 +1,8 @@
 #include "support/forked.h"
 #include "support/test_window.h"
 
-#include "shell/shut_down.h"
-#include "shell/start_up.h"
+#include "utilities/shut_down.h"
+#include "utilities/start_up.h"
 
 #include <QDir>
 

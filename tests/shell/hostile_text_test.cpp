@@ -1,9 +1,12 @@
 #include "support/test_window.h"
 
 #include <QClipboard>
+#include <QLabel>
 #include <QTextEdit>
 
 #include <cfloat>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -162,7 +165,7 @@ private Q_SLOTS:
                                          {{4, 1, {}, {}}, "F26combo_0"},
                                          {{3, 4, {}, {}}, "F12user"}}) {
             pages.Open(stop);
-            const int first = list == QLatin1String("F12user") ? 1 : 0;
+            const int first = list == "F12user"_L1 ? 1 : 0;
             for (int row = 0; row < names.size(); ++row)
                 QCOMPARE(pages.Find<QComboBox>(list)->itemText(row + first), names[row]);
         }

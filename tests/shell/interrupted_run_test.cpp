@@ -4,10 +4,12 @@
 #include "support/test_window.h"
 
 #include "records/compaction.h"
-#include "shell/shut_down.h"
-#include "shell/start_up.h"
+#include "utilities/shut_down.h"
+#include "utilities/start_up.h"
 
 #include <cerrno>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -57,14 +59,14 @@ public:
     {
         EndProcess = [&] {
             Tell(say);
-            say(QStringLiteral("ended, fault ") + QString::number(DiskFaultCame()));
+            say(u"ended, fault "_s + QString::number(DiskFaultCame()));
             ::_exit(0);
         };
         const NoPainting blank;
         OpenDatabasesAtStart();
         window.OpenPage(1, 1);
         for (int ball = 0; ball < 7; ++ball)
-            window.Find<QLineEdit>(QStringLiteral("F6MBall1_%1").arg(ball))->setText(QString::number(9 + ball));
+            window.Find<QLineEdit>(u"F6MBall1_%1"_s.arg(ball))->setText(QString::number(9 + ball));
         Press("F6Store", say);
         window.OpenPage(4, 1);
         ChooseFirst("F26combo_0");
@@ -117,7 +119,7 @@ private:
                 path->setText(chosen);
                 path->setFocus();
                 QTest::keyClick(path, Qt::Key_Return);
-            } else if (name == QLatin1String("frmday")) {
+            } else if (name == "frmday"_L1) {
                 dialog.findChild<QAbstractButton*>("check1_2")->click();
                 dialog.findChild<QAbstractButton*>("store")->click();
             } else {
@@ -189,7 +191,7 @@ private:
                     say(fact.key() + u'=' + fact.value());
                 say("end: " + CloseAndCompactFiles());
             });
-            const QString found = QStringLiteral("call %1: %2; found: %3").arg(call).arg(told, next.Text());
+            const QString found = u"call %1: %2; found: %3"_s.arg(call).arg(told, next.Text());
             QVERIFY2(next.code == 0 && next.signal == 0 && next.lines.size() == 5, qPrintable(found));
             for (const QString& fact : next.lines.first(4)) {
                 const bool said = told.contains(fact.section(u'=', 0, 0));

@@ -1,13 +1,15 @@
+#include "controls/label.h"
+#include "look/button.h"
 #include "support/look_faults.h"
 #include "support/test_window.h"
 
 #include "analysis/graph_window.h"
+#include "builder/draw_day_window.h"
 #include "builder/number_window.h"
+#include "controls/page_frame.h"
 #include "draws/draw_prompt.h"
-#include "platform/page_frame.h"
-#include "platform/theme.h"
+#include "look/theme.h"
 #include "shell/about_window.h"
-#include "users/draw_day_window.h"
 #include "utilities/advanced_window.h"
 #include "walk.h"
 

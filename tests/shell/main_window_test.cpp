@@ -3,11 +3,12 @@
 
 #include "shell/menu_table.h"
 #include "shell/page_table.h"
-#include "shell/shut_down.h"
-#include "shell/start_up.h"
+#include "utilities/shut_down.h"
+#include "utilities/start_up.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QProcess>
 
 #include <csignal>

@@ -10,6 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 /// Keeps a forked process from painting: it has none of the threads that painting counts on.
 class NoPainting : public QObject
 {
@@ -33,7 +35,7 @@ struct Forked
     long memory = 0;
     QStringList lines;
 
-    QString Text() const { return lines.join(u'|') + QStringLiteral(" signal %1 code %2").arg(signal).arg(code); }
+    QString Text() const { return lines.join(u'|') + u" signal %1 code %2"_s.arg(signal).arg(code); }
 };
 
 /// A process that runs steps of a test. What it says has arrived even when it is killed right afterwards.
@@ -61,7 +63,7 @@ public:
         try {
             steps(say);
         } catch (const std::exception& failure) {
-            say(QStringLiteral("thrown: ") + QString::fromUtf8(failure.what()));
+            say(u"thrown: "_s + QString::fromUtf8(failure.what()));
             ::_exit(2);
         }
         ::_exit(0);

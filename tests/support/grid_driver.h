@@ -1,7 +1,9 @@
 #pragma once
 
-#include "platform/grid_view.h"
+#include "controls/grid_view.h"
 #include "support/test_window.h"
+
+using namespace Qt::StringLiterals;
 
 /// A grid of a page, with what is needed to select its rows as a player does.
 class GridDriver
@@ -34,7 +36,7 @@ public:
     QString Selected() const
     {
         const GridView::RowSpan rows = view->SelectedRows();
-        return QStringLiteral("%1-%2").arg(rows.first).arg(rows.last);
+        return u"%1-%2"_s.arg(rows.first).arg(rows.last);
     }
     void Click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
@@ -53,14 +55,14 @@ public:
     /// Selects rows in one of the ways: "click" (with Shift), "drag" or "keys", from one row to another.
     void Select(const QString& way, int from, int to)
     {
-        if (way == QLatin1String("drag")) {
+        if (way == "drag"_L1) {
             Drag(from, to);
             return;
         }
         Click(from);
-        if (way == QLatin1String("click"))
+        if (way == "click"_L1)
             Click(to, Qt::ShiftModifier);
-        for (int row = from; way == QLatin1String("keys") && row != to; row += from < to ? 1 : -1)
+        for (int row = from; way == "keys"_L1 && row != to; row += from < to ? 1 : -1)
             Press(from < to ? Qt::Key_Down : Qt::Key_Up, Qt::ShiftModifier);
     }
 

@@ -1,7 +1,9 @@
 #include "support/look_faults.h"
 
 #include "analysis/screen_button.h"
-#include "platform/style.h"
+#include "look/button.h"
+#include "look/control_painting.h"
+#include "look/style.h"
 #include "shell/page_area.h"
 
 #include <QAbstractItemView>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "records/engine.h"
-#include "records/guarded_engine.h"
+#include "records/statement.h"
 
 #include <filesystem>
 #include <string>

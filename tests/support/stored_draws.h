@@ -1,8 +1,8 @@
 #pragma once
 
-#include "draws/draw_records.h"
-#include "draws/game.h"
-#include "shell/open_databases.h"
+#include "game/game.h"
+#include "store/draw_records.h"
+#include "store/open_databases.h"
 
 #include <QStringList>
 

@@ -1,11 +1,13 @@
 #include "support/test_window.h"
 
-#include "platform/style.h"
+#include "look/style.h"
 #include "records/database_creation.h"
-#include "shell/shut_down.h"
+#include "utilities/shut_down.h"
 
 #include <QDir>
 #include <QListView>
+
+using namespace Qt::StringLiterals;
 
 ModalWindows::ModalWindows()
 {
@@ -87,13 +89,13 @@ TestFolder::TestFolder(Content content)
     }
     // One file serves all tests of a program, so that its key is derived once.
     static const QTemporaryDir emptyFiles;
-    const QString draws = emptyFiles.filePath(QStringLiteral("drawdata.tv3"));
+    const QString draws = emptyFiles.filePath(u"drawdata.tv3"_s);
     if (!QFile::exists(draws))
         CreateDatabase(draws.toStdString(), DrawConnect,
                        {DrawTable(MainGame), DrawTable(ThunderballGame), LinksTable()},
                        {{DrawList(MainGame), DrawTable(MainGame).name},
                         {DrawList(ThunderballGame), DrawTable(ThunderballGame).name}});
-    QFile::copy(draws, folder.filePath(QStringLiteral("drawdata.tv3")));
+    QFile::copy(draws, folder.filePath(u"drawdata.tv3"_s));
     CreateDatabase(UserDataPath, {}, {UsersTable(), EntriesTable()}, {});
 }
 
@@ -110,10 +112,10 @@ QStringList TestFolder::Files() const
 
 QStringList TestFolder::StoredRows(const QString& table)
 {
-    const bool ofUsers = table == QLatin1String("users") || table == QLatin1String("entries");
+    const bool ofUsers = table == "users"_L1 || table == "entries"_L1;
     // A copy is read: a second descriptor of the live file would drop the engine's locks when it is closed.
     const QTemporaryDir copies;
-    const QString copy = copies.filePath(QStringLiteral("copy"));
+    const QString copy = copies.filePath(u"copy"_s);
     QFile::copy(QString::fromStdString((ofUsers ? UserDataPath : DrawDataPath).string()), copy);
     Database database;
     database.Open(copy.toStdString(), ofUsers ? std::string() : DrawConnect);
@@ -136,7 +138,7 @@ QStringList TestFolder::StoredRows(const QString& table)
             else if (const auto* text = std::get_if<std::string_view>(&value))
                 fields.append(QString::fromUtf8(text->data(), static_cast<qsizetype>(text->size())));
             else
-                fields.append(QStringLiteral("(nothing)"));
+                fields.append(u"(nothing)"_s);
         }
         rows.append(fields.join(u','));
     }

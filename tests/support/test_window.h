@@ -2,10 +2,10 @@
 
 #include "support/stored_draws.h"
 
-#include "draws/draw_tables.h"
 #include "shell/main_window.h"
-#include "users/user_records.h"
-#include "users/user_tables.h"
+#include "store/draw_tables.h"
+#include "store/user_records.h"
+#include "store/user_tables.h"
 
 #include <QCheckBox>
 #include <QComboBox>

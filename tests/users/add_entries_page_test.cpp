@@ -1,19 +1,19 @@
 #include "support/test_window.h"
 
-#include "users/draw_day_window.h"
+#include "builder/draw_day_window.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Refused =
-    QStringLiteral("Error detected in the data that you entered.\r\nPlease re-check and press 'Store' again.");
-const QString UpToLimit =
-    QStringLiteral("This user is up to the spend limit.\r\nGo to 'User Details' to change the spend "
-                   "limit, or choose another user.");
+const QString Refused = u"Error detected in the data that you entered.\r\nPlease re-check and press 'Store' again."_s;
+const QString UpToLimit = u"This user is up to the spend limit.\r\nGo to 'User Details' to change the spend "
+                          u"limit, or choose another user."_s;
 const QString NotStored =
-    QStringLiteral("This user is up to the spend limit, so this entry has NOT been stored.\r\nGo to 'User Details' to "
-                   "change the spend limit, or choose another user.");
-const QString Stored = QStringLiteral("This entry has been stored.");
-const QString NoDay = QStringLiteral("You must specify at least ONE draw day. Please retry.");
+    u"This user is up to the spend limit, so this entry has NOT been stored.\r\nGo to 'User Details' to "
+    u"change the spend limit, or choose another user."_s;
+const QString Stored = u"This entry has been stored."_s;
+const QString NoDay = u"You must specify at least ONE draw day. Please retry."_s;
 
 /// Stores users with their limits and opens the page.
 void Open(TestWindow& window, const QList<std::pair<QString, int>>& newUsers = {})

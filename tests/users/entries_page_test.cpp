@@ -1,8 +1,10 @@
 #include "support/grid_driver.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString Stored = QStringLiteral("The changes have been stored.");
+const QString Stored = u"The changes have been stored."_s;
 
 /// The page with two users: Ann with five Main entries, each beginning with its number and played on Monday and Sunday,
 /// and one Thunderball entry; Bob with one Main entry.
@@ -181,7 +183,7 @@ private Q_SLOTS:
     void BackAsksWhetherToSave()
     {
         Entries window;
-        const QString question = QStringLiteral("Do you want to save the changes to this entry");
+        const QString question = u"Do you want to save the changes to this entry"_s;
         window.Edit(false, 3);
         // An empty box counts as nothing, and comes first.
         window.Type("F20num_6", "");

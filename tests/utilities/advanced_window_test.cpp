@@ -4,11 +4,12 @@
 #include "support/test_window.h"
 
 #include "records/file_lock.h"
-#include "shell/start_up.h"
+#include "utilities/start_up.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QPushButton>
 
 namespace {
 

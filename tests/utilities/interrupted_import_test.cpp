@@ -4,9 +4,9 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
-#include "shell/start_up.h"
 #include "utilities/database_file.h"
 #include "utilities/import.h"
+#include "utilities/start_up.h"
 
 #include <csignal>
 #include <sys/stat.h>

@@ -1,0 +1,92 @@
+#include "base/dates.h"
+
+#include "base/texts.h"
+
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QLocale& English()
+{
+    static const QLocale locale(QLocale::English, QLocale::UnitedKingdom);
+    return locale;
+}
+
+QString ShortDateFormat()
+{
+    QString format = QLocale::system().dateFormat(QLocale::ShortFormat);
+    if (!format.contains("yyyy"_L1))
+        format.replace("yy"_L1, "yyyy"_L1);
+    return format;
+}
+
+int Digits(std::string_view text)
+{
+    int value = 0;
+    for (const char digit : text) {
+        if (digit < '0' || digit > '9')
+            return -1;
+        value = value * 10 + (digit - '0');
+    }
+    return value;
+}
+
+} // namespace
+
+const std::array<QString, 7> DayNames{u"Monday"_s, u"Tuesday"_s,  u"Wednesday"_s, u"Thursday"_s,
+                                      u"Friday"_s, u"Saturday"_s, u"Sunday"_s};
+
+int DaySetIndex(QDate date)
+{
+    return date.dayOfWeek() - 1;
+}
+
+QString ShortDayName(QDate date)
+{
+    return date.isValid() ? DayNames.at(static_cast<size_t>(DaySetIndex(date))).left(3) : QString();
+}
+
+QString LongDate(QDate date)
+{
+    return English().toString(date, u"dddd, d MMMM yyyy"_s);
+}
+
+QString LongStoredDate(std::string_view iso)
+{
+    const QDate date = DateFromIso(iso);
+    return date.isValid() ? LongDate(date) : FromUtf8(iso);
+}
+
+QString DateInWords(QDate date)
+{
+    return English().toString(date, u"d MMMM yyyy"_s);
+}
+
+QString ShortDate(QDate date)
+{
+    static const QString format = ShortDateFormat();
+    return QLocale::system().toString(date, format);
+}
+
+QString ShortStoredDate(std::string_view iso)
+{
+    const QDate date = DateFromIso(iso);
+    return date.isValid() ? ShortDate(date) : FromUtf8(iso);
+}
+
+std::string IsoDate(QDate date)
+{
+    return date.toString(Qt::ISODate).toStdString();
+}
+
+QDate DateFromIso(std::string_view iso)
+{
+    if (iso.size() != 10 || iso[4] != '-' || iso[7] != '-')
+        return {};
+    const int year = Digits(iso.substr(0, 4));
+    const int month = Digits(iso.substr(5, 2));
+    const int day = Digits(iso.substr(8, 2));
+    return year < 1 || month < 1 || day < 1 ? QDate() : QDate(year, month, day);
+}

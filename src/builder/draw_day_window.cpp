@@ -1,0 +1,42 @@
+#include "builder/draw_day_window.h"
+
+#include "controls/guard.h"
+#include "controls/label.h"
+#include "controls/page_frame.h"
+#include "look/button.h"
+#include "look/theme.h"
+#include "users/day_boxes.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+DrawDayWindow::DrawDayWindow(DaySet& chosenDays, QWidget* parent)
+    : QDialog(parent),
+      days(chosenDays),
+      boxes(new DayBoxes({u"check1"_s, u"selall"_s, u"clear"_s}, QString())),
+      store(new Button(u"Store"_s, u"store"_s))
+{
+    setObjectName(u"frmday"_s);
+    setWindowTitle(u"Tavenor 3 --- Select Draw Day"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    layout->setSpacing(Spacing::Cards);
+    layout->addWidget(MakeLabel(u"Select the draw day(s)."_s, TextRole::Heading, u"Label1"_s));
+    layout->addWidget(boxes);
+    // The button keeps its room while it is hidden, so that the window does not jump.
+    QSizePolicy keepsRoom = store->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    store->setSizePolicy(keepsRoom);
+    store->setDefault(true);
+    store->hide();
+    layout->addWidget(store, 0, Qt::AlignRight);
+    ConnectGuarded(boxes, &DayBoxes::Changed, this, [this] { store->setVisible(boxes->AnyTicked()); });
+    ConnectGuarded(store, &QPushButton::clicked, this, [this] { store_Click(); });
+}
+
+void DrawDayWindow::store_Click()
+{
+    days = boxes->Days();
+    accept();
+}

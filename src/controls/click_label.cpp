@@ -1,0 +1,39 @@
+#include "controls/click_label.h"
+
+#include "look/button.h"
+#include "look/theme.h"
+
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : EnterButton(parent)
+{
+    setText(caption);
+    setAccessibleName(caption);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+}
+
+QSize ClickLabel::sizeHint() const
+{
+    const QFontMetrics metrics(font());
+    return {metrics.horizontalAdvance(text()) + 2 * Spacing::Inside, metrics.height() + Spacing::Inside};
+}
+
+void ClickLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    QFont drawn = font();
+    drawn.setUnderline(drawn.underline() || underMouse());
+    painter.setFont(drawn);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect().adjusted(Spacing::Inside, 0, -Spacing::Inside, 0),
+                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    if (hasFocus()) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+}

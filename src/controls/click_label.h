@@ -1,0 +1,19 @@
+#pragma once
+
+#include "look/button.h"
+
+/// A label that acts when it is clicked, or by Enter or Space when it has the focus. Its text colour is the WindowText
+/// role of its palette.
+class ClickLabel : public EnterButton
+{
+    Q_OBJECT
+
+public:
+    explicit ClickLabel(const QString& caption, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,260 @@
+#include "controls/grid_view.h"
+
+#include "look/theme.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int CellMargins = 2 * Spacing::Inside;
+
+/// Draws a quiet line under each row.
+class RowLines : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        painter->setPen(option.palette.color(QPalette::Mid));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+};
+
+} // namespace
+
+GridView::GridView(const QString& name, const QString& accessibleName, QWidget* parent) : QTableView(parent)
+{
+    setObjectName(name);
+    setAccessibleName(accessibleName);
+    setItemDelegate(new RowLines(this));
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setBackgroundRole(QPalette::AlternateBase);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ContiguousSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2 * Spacing::Inside);
+
+    QHeaderView* headings = horizontalHeader();
+    headings->setSectionResizeMode(QHeaderView::Fixed);
+    headings->setMinimumSectionSize(1);
+    headings->setSectionsClickable(false);
+    headings->setHighlightSections(false);
+    headings->setFont(FontFor(TextRole::Caption));
+}
+
+void GridView::SetColumnShares(std::vector<double> columnShares)
+{
+    shares = std::move(columnShares);
+    LayOutColumns();
+}
+
+void GridView::LayOutColumns()
+{
+    const int available = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    if (model() == nullptr || available <= 0)
+        return;
+    const auto columns = std::min(static_cast<size_t>(model()->columnCount()), shares.size());
+    std::vector<double> texts(columns);
+    double room = available;
+    double textsTogether = 0;
+    bool sharesSuffice = true;
+    for (size_t column = 0; column < columns; ++column) {
+        if (shares[column] == 0)
+            continue;
+        texts[column] = TextWidth(static_cast<int>(column));
+        textsTogether += texts[column];
+        room -= CellMargins;
+        sharesSuffice = sharesSuffice && texts[column] + CellMargins <= available * shares[column];
+    }
+    const double factor = std::min(1.0, std::max(room, 1.0) / textsTogether);
+    TakeFont(sharesSuffice ? 1 : factor);
+    int left = available;
+    for (size_t column = 0; column < columns; ++column) {
+        const double width =
+            sharesSuffice ? available * shares[column]
+                          : texts[column] * factor + CellMargins + std::max(0.0, room - textsTogether) * shares[column];
+        // Rounding must not make the columns together wider than the grid.
+        const int whole = std::min(qRound(width), left);
+        setColumnHidden(static_cast<int>(column), shares[column] == 0);
+        if (shares[column] == 0)
+            continue;
+        left -= whole;
+        setColumnWidth(static_cast<int>(column), whole);
+    }
+}
+
+QSize GridView::minimumSizeHint() const
+{
+    // The texts may become smaller than the pages' own, but not by much.
+    constexpr double smallestFactor = 0.8;
+    double width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    for (int column = 0; model() != nullptr && column < model()->columnCount(); ++column)
+        if (!isColumnHidden(column))
+            width += TextWidth(column) * smallestFactor + CellMargins;
+    return {qRound(width), QTableView::minimumSizeHint().height()};
+}
+
+double GridView::TextWidth(int column) const
+{
+    // The widest texts of a column are known from its first rows and, where it counts the rows, from its last.
+    constexpr int looked = 4;
+    if (const QFont strong = FontFor(TextRole::Strong); strong != measuredFont) {
+        measuredWidths.clear();
+        measuredFont = strong;
+    }
+    const int rows = model()->rowCount();
+    const QString heading = model()->headerData(column, Qt::Horizontal).toString();
+    double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
+    for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
+        widest = std::max(widest, MeasuredWidth(model()->index(row, column).data().toString()));
+    return widest;
+}
+
+double GridView::MeasuredWidth(const QString& text) const
+{
+    // The same few texts come again and again, and measuring one takes longer than all else that is done for its row.
+    constexpr int most = 1000;
+    if (measuredWidths.size() > most)
+        measuredWidths.clear();
+    const auto known = measuredWidths.constFind(text);
+    if (known != measuredWidths.constEnd())
+        return *known;
+    return *measuredWidths.insert(text, QFontMetricsF(measuredFont).horizontalAdvance(text));
+}
+
+void GridView::TakeFont(double factor)
+{
+    const auto scaled = [factor](QFont font) {
+        font.setPointSizeF(font.pointSizeF() * factor);
+        return font;
+    };
+    if (const QFont cells = scaled(FontFor(TextRole::Body)); cells != font())
+        setFont(cells);
+    if (const QFont headings = scaled(FontFor(TextRole::Caption)); headings != horizontalHeader()->font())
+        horizontalHeader()->setFont(headings);
+}
+
+GridView::RowSpan GridView::SelectedRows() const
+{
+    RowSpan span;
+    if (selectionModel() == nullptr)
+        return span;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        span.first = span.first < 0 ? range.top() : std::min(span.first, range.top());
+        span.last = std::max(span.last, range.bottom());
+    }
+    return span;
+}
+
+void GridView::SelectRow(int row)
+{
+    clearSelection();
+    const QModelIndex cell = model()->index(row, FirstShownColumn());
+    setCurrentIndex(cell);
+    if (cell.isValid())
+        scrollTo(cell);
+}
+
+int GridView::FirstShownColumn() const
+{
+    int column = 0;
+    while (column + 1 < model()->columnCount() && isColumnHidden(column))
+        ++column;
+    return column;
+}
+
+void GridView::CopySelectedRows() const
+{
+    const RowSpan span = SelectedRows();
+    QString copied;
+    for (int row = span.first; row >= 0 && row <= span.last; ++row) {
+        QStringList cells;
+        for (int column = 0; column < model()->columnCount(); ++column)
+            if (!isColumnHidden(column))
+                cells.append(model()->index(row, column).data().toString());
+        copied += cells.join(u'\t') + u'\n';
+    }
+    if (!copied.isEmpty())
+        QApplication::clipboard()->setText(copied);
+}
+
+void GridView::reset()
+{
+    QTableView::reset();
+    LayOutColumns();
+}
+
+void GridView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        CopySelectedRows();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT Opened();
+    else if (event->key() == Qt::Key_Delete)
+        Q_EMIT DeletePressed();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void GridView::focusInEvent(QFocusEvent* event)
+{
+    QTableView::focusInEvent(event);
+    viewport()->update();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void GridView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    LayOutColumns();
+}
+
+void GridView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QTableView::initViewItemOption(option);
+    if (hasFocus())
+        return;
+    // The strong selection colour is the sign that the grid has the keys.
+    QColor quiet = option->palette.color(QPalette::Highlight);
+    quiet.setAlphaF(0.25F);
+    option->palette.setColor(QPalette::Highlight, quiet);
+    option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+}
+
+QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (model() != nullptr && model()->rowCount() > 0 && action == MoveHome)
+        return model()->index(0, FirstShownColumn());
+    if (model() != nullptr && model()->rowCount() > 0 && action == MoveEnd)
+        return model()->index(model()->rowCount() - 1, FirstShownColumn());
+    return QTableView::moveCursor(action, modifiers);
+}
+
+QItemSelectionModel::SelectionFlags GridView::selectionCommand(const QModelIndex& index, const QEvent* event) const
+{
+    // A click beside the rows leaves the selection alone, so that the buttons always have a row to act on.
+    return index.isValid() ? QTableView::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
+}

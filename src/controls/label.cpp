@@ -1,0 +1,20 @@
+#include "controls/label.h"
+
+#include "look/theme.h"
+
+QLabel* MakeLabel(const QString& text, TextRole role, const QString& name, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setObjectName(name);
+    label->setFont(FontFor(role));
+    if (role == TextRole::Caption)
+        label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+QString ElementName(const QString& array, int index)
+{
+    return array + u'_' + QString::number(index);
+}

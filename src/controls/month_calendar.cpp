@@ -1,0 +1,107 @@
+#include "controls/month_calendar.h"
+
+#include "look/theme.h"
+
+#include <QEvent>
+#include <QLocale>
+#include <QPainter>
+#include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
+{
+    setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    setFirstDayOfWeek(Qt::Monday);
+    setVerticalHeaderFormat(NoVerticalHeader);
+    setHorizontalHeaderFormat(ShortDayNames);
+    setSelectedDate(QDate::currentDate());
+    // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
+    setMinimumHeight(8 * qMax(25, fontMetrics().height() + Spacing::Inside));
+    setAccessibleName(tr("Draw date"));
+    for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
+        auto* button = findChild<QToolButton*>(QLatin1String(name));
+        const bool previous = button->objectName() == "qt_calendar_prevmonth"_L1;
+        button->setIcon(QIcon());
+        button->setText(previous ? u"‹"_s : u"›"_s);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        button->setFont(FontFor(TextRole::Heading));
+        button->setAccessibleName(previous ? tr("Previous month") : tr("Next month"));
+    }
+    for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
+        findChild<QToolButton*>(QLatin1String(name))->setFont(FontFor(TextRole::Strong));
+    if (auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1)) {
+        days->setFrameShape(QFrame::NoFrame);
+        days->setAccessibleName(accessibleName());
+    }
+    TakeColours();
+    connect(this, &QCalendarWidget::clicked, this, &MonthCalendar::DateChosen);
+    connect(this, &QCalendarWidget::activated, this, &MonthCalendar::DateChosen);
+}
+
+void MonthCalendar::paintCell(QPainter* painter, const QRect& rect, QDate date) const
+{
+    const QPalette& colours = palette();
+    const bool selected = date == selectedDate();
+    const bool otherMonth = date.month() != monthShown() || date.year() != yearShown();
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const qreal side = qMin(rect.width(), rect.height()) - 2;
+    QRectF disc(0, 0, side, side);
+    disc.moveCenter(QRectF(rect).center());
+    if (selected) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(colours.color(QPalette::Highlight));
+        painter->drawEllipse(disc);
+    } else if (date == QDate::currentDate()) {
+        painter->setPen(QPen(colours.color(QPalette::Highlight), 1));
+        painter->drawEllipse(disc.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    QColor text = colours.color(selected ? QPalette::HighlightedText : QPalette::Text);
+    if (otherMonth && !selected)
+        text = colours.color(QPalette::PlaceholderText);
+    painter->setPen(text);
+    painter->drawText(rect, Qt::AlignCenter, QString::number(date.day()));
+    painter->restore();
+}
+
+void MonthCalendar::changeEvent(QEvent* event)
+{
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        TakeColours();
+}
+
+void MonthCalendar::TakeColours()
+{
+    const QPalette& colours = palette();
+    QTextCharFormat header;
+    header.setForeground(colours.color(QPalette::PlaceholderText));
+    header.setFontPointSize(FontFor(TextRole::Caption).pointSizeF());
+    header.setBackground(colours.color(QPalette::AlternateBase));
+    if (headerTextFormat() != header)
+        setHeaderTextFormat(header);
+    for (const auto day : {Qt::Saturday, Qt::Sunday})
+        setWeekdayTextFormat(day, QTextCharFormat());
+    if (auto* bar = findChild<QWidget*>("qt_calendar_navigationbar"_L1)) {
+        QPalette quiet = colours;
+        quiet.setColor(QPalette::Highlight, colours.color(QPalette::AlternateBase));
+        quiet.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+        quiet.setColor(QPalette::Button, colours.color(QPalette::AlternateBase));
+        bar->setBackgroundRole(QPalette::AlternateBase);
+        bar->setPalette(quiet);
+        for (auto* button : bar->findChildren<QToolButton*>()) {
+            button->setPalette(quiet);
+            button->setAutoRaise(true);
+        }
+    }
+    if (auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1)) {
+        QPalette onCard = colours;
+        onCard.setColor(QPalette::Base, colours.color(QPalette::AlternateBase));
+        // The chosen day is marked by its disc alone.
+        onCard.setColor(QPalette::Highlight, colours.color(QPalette::AlternateBase));
+        days->setPalette(onCard);
+    }
+}

@@ -1,0 +1,90 @@
+#include "controls/page_frame.h"
+
+#include "controls/label.h"
+#include "look/button.h"
+#include "look/theme.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+PageFrame::PageFrame(int index, const QString& title, const QString& titleName)
+    : body(new QVBoxLayout), footer(new QHBoxLayout)
+{
+    setObjectName(ElementName(u"Frame"_s, index));
+    setAccessibleName(title);
+    setAutoFillBackground(true);
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    page->setSpacing(Spacing::Cards);
+    if (!title.isEmpty())
+        page->addWidget(MakeLabel(title, TextRole::Title, titleName, this));
+    body->setSpacing(Spacing::Cards);
+    page->addLayout(body, 1);
+    footer->setSpacing(Spacing::Between);
+    footer->addStretch(1);
+    page->addLayout(footer);
+    hide();
+}
+
+void PageFrame::Prepare()
+{
+    show();
+}
+
+void PageFrame::ShowInFront()
+{
+    show();
+    raise();
+    if (back != nullptr)
+        back->setFocus();
+}
+
+void PageFrame::PutFooterLastInTabOrder()
+{
+    QWidget* last = nullptr;
+    for (QWidget* next = nextInFocusChain(); isAncestorOf(next); next = next->nextInFocusChain())
+        if (next->focusPolicy() != Qt::NoFocus && footer->indexOf(next) < 0)
+            last = next;
+    for (int place = 0; place < footer->count(); ++place) {
+        QWidget* button = footer->itemAt(place)->widget();
+        if (button == nullptr)
+            continue;
+        if (last != nullptr)
+            setTabOrder(last, button);
+        last = button;
+    }
+}
+
+Button* PageFrame::AddFooterButton(const QString& caption, const QString& name)
+{
+    auto* button = new Button(caption, name, this);
+    footer->addWidget(button);
+    return button;
+}
+
+Button* PageFrame::AddFooterDefault(const QString& caption, const QString& name)
+{
+    Button* button = AddFooterButton(caption, name);
+    button->MakeAccent();
+    return button;
+}
+
+void PageFrame::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape || back == nullptr) {
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    // As with the mouse, a field is left and checked before the button is pressed; one that is refused keeps the focus.
+    // Its message box is open by then, but the focus may still be on its way there.
+    back->setFocus();
+    QTimer::singleShot(0, back, [button = back] {
+        if (button->hasFocus() && QApplication::activeModalWidget() == nullptr)
+            button->click();
+    });
+}

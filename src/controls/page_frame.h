@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QFrame>
+
+class Button;
+class QHBoxLayout;
+class QVBoxLayout;
+
+/// One page of the main window: a title, a body, and a row of buttons at the lower right. It is hidden until its
+/// preparation makes it visible.
+class PageFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// `index` is the page's place in the frame array; a page without a title has an empty one.
+    PageFrame(int index, const QString& title, const QString& titleName = {});
+
+    /// Fills the page and makes it visible. Throws Failure.
+    virtual void Prepare();
+
+    /// Makes the page visible in front of the others. One that has a button that leaves it gives that the focus.
+    void ShowInFront();
+
+    /// Makes the Tab key reach the buttons at the lower right behind all else on the page, as the eye does. To be asked
+    /// for when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
+    void PutFooterLastInTabOrder();
+
+protected:
+    QVBoxLayout* Body() const { return body; }
+    /// Adds a button to the row at the lower right, from left to right.
+    Button* AddFooterButton(const QString& caption, const QString& name);
+    Button* AddFooterDefault(const QString& caption, const QString& name);
+    /// The button that leaves the page; Escape presses it too.
+    void SetBackButton(Button* button) { back = button; }
+
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Button* back = nullptr;
+    QVBoxLayout* body;
+    QHBoxLayout* footer;
+};

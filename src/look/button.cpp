@@ -1,0 +1,43 @@
+#include "look/button.h"
+
+#include "look/theme.h"
+
+#include <QKeyEvent>
+
+Button::Button(const QString& caption, const QString& name, QWidget* parent) : QPushButton(caption, parent)
+{
+    setObjectName(name);
+    setAccessibleName(caption);
+    setFont(FontFor(TextRole::Strong));
+    setAutoDefault(false);
+    // Where the page is too narrow for its buttons, they give up the room beside their captions.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize Button::minimumSizeHint() const
+{
+    const int captionWidth = fontMetrics().horizontalAdvance(text()) + 2 * Spacing::Between;
+    return {qMin(captionWidth, sizeHint().width()), sizeHint().height()};
+}
+
+void Button::MakeAccent()
+{
+    setProperty(AccentProperty, true);
+    update();
+}
+
+void Button::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void EnterButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}

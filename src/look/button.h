@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPushButton>
+
+/// The name of the property by which a button outside a dialog is marked as the page's default action.
+inline constexpr char AccentProperty[] = "accent";
+
+/// A button that also answers the Enter key.
+class Button : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    Button(const QString& caption, const QString& name, QWidget* parent = nullptr);
+
+    /// Marks it as the page's default action.
+    void MakeAccent();
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// A button that paints itself; Enter presses it as Space does.
+class EnterButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    using QAbstractButton::QAbstractButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};

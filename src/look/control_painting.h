@@ -1,0 +1,27 @@
+#pragma once
+
+class QPainter;
+class QRect;
+class QRectF;
+class QPalette;
+class QStyleOption;
+class QColor;
+class QWidget;
+
+// How the style paints the parts of the controls, from the palette alone.
+
+/// Whether a button is its page's or its dialog's default action.
+bool IsAccent(const QStyleOption* option, const QWidget* widget);
+
+void DrawFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette);
+void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* widget);
+/// The ground of a text field or a drop-down list.
+void DrawFieldPanel(const QStyleOption* option, QPainter* painter);
+/// The arrow of a drop-down list.
+void DrawArrow(QPainter* painter, const QRectF& rect, const QColor& colour);
+/// The box of a check box or the circle of a choice, with its mark.
+void DrawIndicator(const QStyleOption* option, QPainter* painter, bool round);
+void DrawHeaderSection(const QStyleOption* option, QPainter* painter);
+
+/// The name of the property by which a text field is left without a frame and background of its own.
+inline constexpr char BareProperty[] = "bare";

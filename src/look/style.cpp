@@ -1,0 +1,240 @@
+#include "look/style.h"
+
+#include "look/button.h"
+#include "look/control_painting.h"
+#include "look/message_icon.h"
+#include "look/scroll_bar.h"
+#include "look/shortcut_letters.h"
+#include "look/theme.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOption>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// More than fits a list's line; shaping a text of megabytes takes seconds.
+constexpr qsizetype MostDrawnCharacters = 1000;
+
+constexpr int ControlHeight = 36;
+constexpr int ListLineHeight = 28;
+constexpr int IndicatorSize = 18;
+constexpr int ArrowWidth = 28;
+
+} // namespace
+
+Style::Style() : QProxyStyle(u"fusion"_s) {}
+
+void Style::polish(QPalette& palette)
+{
+    ApplyTheme(palette);
+}
+
+void Style::polish(QApplication* application)
+{
+    QProxyStyle::polish(application);
+    application->installEventFilter(new AltKeyWatch(this));
+}
+
+void Style::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (const auto* dialog = qobject_cast<QDialog*>(widget))
+        GiveShortcutLetters(*dialog);
+    if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr)
+        widget->setAttribute(Qt::WA_Hover);
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+        DrawButton(option, painter, widget);
+        return;
+    case PE_FrameFocusRect:
+        if (qobject_cast<const QAbstractItemView*>(widget) == nullptr)
+            DrawFocusRing(painter, option->rect, option->palette);
+        return;
+    case PE_PanelLineEdit: {
+        const bool bare =
+            widget != nullptr && (widget->property(BareProperty).toBool() ||
+                                  qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr ||
+                                  qobject_cast<const QAbstractSpinBox*>(widget->parentWidget()) != nullptr);
+        if (!bare)
+            DrawFieldPanel(option, painter);
+        return;
+    }
+    case PE_IndicatorCheckBox:
+        DrawIndicator(option, painter, false);
+        return;
+    case PE_IndicatorRadioButton:
+        DrawIndicator(option, painter, true);
+        return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const
+{
+    if (const auto* label = qstyleoption_cast<const QStyleOptionButton*>(option);
+        label != nullptr && element == CE_PushButtonLabel) {
+        QStyleOptionButton drawn = *label;
+        if (const auto* button = qobject_cast<const Button*>(widget))
+            drawn.text = DrawnCaption(*button);
+        if (IsAccent(option, widget) && (option->state & State_Enabled))
+            drawn.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
+        QProxyStyle::drawControl(element, &drawn, painter, widget);
+        return;
+    }
+    if (element == CE_HeaderSection) {
+        DrawHeaderSection(option, painter);
+        return;
+    }
+    if (element == CE_HeaderEmptyArea) {
+        // Beside the last column is the room of the scroll bar, which has no line.
+        painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
+        return;
+    }
+    if (element == CE_HeaderLabel) {
+        if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
+            QStyleOptionHeaderV2 quiet;
+            quiet.QStyleOptionHeader::operator=(*header);
+            quiet.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::PlaceholderText));
+            QProxyStyle::drawControl(element, &quiet, painter, widget);
+            return;
+        }
+    }
+    if (const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        list != nullptr && element == CE_ComboBoxLabel && list->currentText.size() > MostDrawnCharacters) {
+        QStyleOptionComboBox beginning(*list);
+        beginning.currentText.truncate(MostDrawnCharacters);
+        QProxyStyle::drawControl(element, &beginning, painter, widget);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (control == CC_ScrollBar) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            DrawScrollBar(*bar, painter);
+        return;
+    }
+    if (control == CC_ToolButton) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            // The months behind a calendar's heading are found without an arrow across its text.
+            QStyleOptionToolButton plain = *button;
+            plain.features &= ~QStyleOptionToolButton::HasMenu;
+            QProxyStyle::drawComplexControl(control, &plain, painter, widget);
+            return;
+        }
+    }
+    if (control != CC_ComboBox) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    DrawFieldPanel(option, painter);
+    DrawArrow(painter, proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget),
+              option->palette.color(QPalette::PlaceholderText));
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
+                            const QWidget* widget) const
+{
+    if (control == CC_ComboBox && subControl == SC_ComboBoxArrow)
+        return visualRect(
+            option->direction, option->rect,
+            QRect(option->rect.right() - ArrowWidth + 1, option->rect.top(), ArrowWidth, option->rect.height()));
+    if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
+        return visualRect(option->direction, option->rect,
+                          option->rect.adjusted(Spacing::Between - 2, 2, -ArrowWidth, -2));
+    if (control == CC_ScrollBar)
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return ScrollBarPart(*bar, subControl);
+    return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    if (element == SE_CheckBoxFocusRect || element == SE_RadioButtonFocusRect)
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return IndicatorSize;
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+        return Spacing::Inside + 2;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_DefaultFrameWidth:
+        // A drop-down list and a text area have one fine line; the fields' own panel brings its own room.
+        return qobject_cast<const QLineEdit*>(widget) != nullptr ? Spacing::Inside : 1;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const
+{
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    switch (type) {
+    case CT_PushButton:
+        return {size.width() + 2 * Spacing::Between, qMax(size.height(), ControlHeight + 2)};
+    case CT_LineEdit:
+        if (widget != nullptr && widget->property(BareProperty).toBool())
+            return size;
+        return {size.width(), qMax(size.height(), ControlHeight)};
+    case CT_ComboBox:
+        return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
+    case CT_ItemViewItem:
+        return {size.width(), qMax(size.height(), ListLineHeight)};
+    case CT_SpinBox:
+        return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
+    default:
+        return size;
+    }
+}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    if (icon == SP_MessageBoxInformation)
+        return InformationIcon();
+    if (icon == SP_MessageBoxCritical)
+        return CriticalIcon();
+    return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const
+{
+    switch (hint) {
+    case SH_ComboBox_Popup:
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+}

@@ -1,0 +1,101 @@
+#include "look/theme.h"
+
+#include <QApplication>
+
+namespace {
+
+const Theme& LightTheme()
+{
+    static const Theme theme{false,     "#F5F6FA", "#FFFFFF", "#E2E6EF", "#FFFFFF", "#1A2233", "#5A6478",
+                             "#4A63C8", "#FFFFFF", "#16203A", "#C9D3EA", "#566FD5", "#FFFFFF"};
+    return theme;
+}
+
+const Theme& DarkTheme()
+{
+    static const Theme theme{true,      "#12161F", "#1B2130", "#2C3548", "#12161F", "#E9EDF6", "#9AA5BC",
+                             "#7F95EC", "#0C111C", "#0C111C", "#C9D3EA", "#566FD5", "#FFFFFF"};
+    return theme;
+}
+
+Appearance& WantedAppearance()
+{
+    static Appearance appearance = Appearance::FromDesktop;
+    return appearance;
+}
+
+const Theme*& ThemeInUse()
+{
+    static const Theme* theme = &LightTheme();
+    return theme;
+}
+
+} // namespace
+
+const Theme& CurrentTheme()
+{
+    return *ThemeInUse();
+}
+
+void ApplyTheme(QPalette& palette)
+{
+    const bool desktopIsDark =
+        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    const bool dark =
+        WantedAppearance() == Appearance::Dark || (WantedAppearance() == Appearance::FromDesktop && desktopIsDark);
+    const Theme& theme = dark ? DarkTheme() : LightTheme();
+    ThemeInUse() = &theme;
+
+    palette =
+        QPalette(theme.text, theme.card, theme.card.lighter(dark ? 130 : 100), theme.cardLine.darker(dark ? 60 : 120),
+                 theme.cardLine, theme.text, theme.text, theme.field, theme.page);
+    palette.setColor(QPalette::AlternateBase, theme.card);
+    palette.setColor(QPalette::Highlight, theme.accent);
+    palette.setColor(QPalette::HighlightedText, theme.onAccent);
+    palette.setColor(QPalette::Link, theme.accent);
+    palette.setColor(QPalette::PlaceholderText, theme.secondaryText);
+    palette.setColor(QPalette::ToolTipBase, theme.card);
+    palette.setColor(QPalette::ToolTipText, theme.text);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, theme.secondaryText);
+}
+
+void SetAppearance(Appearance appearance)
+{
+    WantedAppearance() = appearance;
+    if (qApp != nullptr)
+        QApplication::setPalette(QPalette());
+}
+
+QFont FontFor(TextRole role)
+{
+    QFont font = QApplication::font();
+    double scale = 1;
+    switch (role) {
+    case TextRole::Caption:
+        scale = 12.0 / 14;
+        break;
+    case TextRole::Body:
+        break;
+    case TextRole::Strong:
+        font.setWeight(QFont::DemiBold);
+        break;
+    case TextRole::Heading:
+        scale = 16.0 / 14;
+        font.setWeight(QFont::DemiBold);
+        break;
+    case TextRole::Title:
+        scale = 24.0 / 14;
+        font.setWeight(QFont::DemiBold);
+        break;
+    case TextRole::Product:
+        scale = 44.0 / 14;
+        font.setWeight(QFont::Bold);
+        break;
+    }
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * scale);
+    else
+        font.setPixelSize(qRound(font.pixelSize() * scale));
+    return font;
+}

@@ -1,0 +1,101 @@
+#include "store/draw_records.h"
+
+#include "base/dates.h"
+#include "base/failure.h"
+#include "game/game.h"
+#include "records/record_set.h"
+#include "store/draw_tables.h"
+
+#include <algorithm>
+
+namespace {
+
+void SetText(RecordSet& table, int position, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    table.SetField(position, std::string_view(utf8.constData(), static_cast<size_t>(utf8.size())));
+}
+
+void SetDrawnBalls(RecordSet& table, const Game& game, const EnteredDraw& draw)
+{
+    for (int slot = 0; slot < game.BallCount(); ++slot)
+        table.SetField(DrawField::FirstBall + slot, NumberField(draw.balls.at(static_cast<size_t>(slot))));
+    if (game.hasMachine) {
+        SetText(table, DrawField::Machine, draw.machine);
+        SetText(table, DrawField::BallSet, draw.ballSet);
+    }
+}
+
+} // namespace
+
+std::int64_t ReadDrawId(const RecordSet& set)
+{
+    // Numbers beyond this bound are not whole any more; only a foreign file can hold them.
+    constexpr double largest = 9007199254740992.0;
+    return static_cast<std::int64_t>(std::clamp(set.Number(DrawField::DrawId), -largest, largest));
+}
+
+DrawRow ReadDraw(const RecordSet& set, const Game& game)
+{
+    DrawRow row;
+    row.number = ReadDrawId(set);
+    row.date = set.Text(DrawField::Date);
+    row.day = set.Text(DrawField::Day);
+    for (int slot = 0; slot < game.BallCount(); ++slot)
+        row.balls[static_cast<size_t>(slot)] = set.Number(DrawField::FirstBall + slot);
+    if (game.hasMachine) {
+        row.machine = set.Text(DrawField::Machine);
+        row.ballSet = set.Text(DrawField::BallSet);
+    }
+    return row;
+}
+
+bool FindDrawByDate(RecordSet& table, QDate date)
+{
+    const std::string wanted = IsoDate(date);
+    for (table.MoveFirst(); !table.Eof(); table.MoveNext())
+        if (table.Text(DrawField::Date) == wanted)
+            return true;
+    return false;
+}
+
+bool IsOnDate(RecordSet& list, QDate date)
+{
+    return !list.Bof() && !list.Eof() && list.Text(DrawField::Date) == IsoDate(date);
+}
+
+bool FindLastDrawOfDate(RecordSet& list, QDate date)
+{
+    const std::string wanted = IsoDate(date);
+    for (list.MoveLast(); !list.Bof(); list.MovePrevious())
+        if (list.Text(DrawField::Date) == wanted)
+            return true;
+    return false;
+}
+
+void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing)
+{
+    if (!FindRecord(set, drawId))
+        throw Failure(doing, "another copy of the program has deleted it meanwhile",
+                      "no draw of number " + std::to_string(drawId));
+}
+
+void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw)
+{
+    const std::int64_t number = table.NextNumber();
+    const std::string day = ShortDayName(draw.date).toStdString();
+    const std::string date = IsoDate(draw.date);
+    table.AddNew();
+    table.SetField(DrawField::DrawId, number);
+    table.SetField(DrawField::Day, std::string_view(day));
+    table.SetField(DrawField::Date, std::string_view(date));
+    SetDrawnBalls(table, game, draw);
+    table.Update();
+}
+
+void OverwriteDraw(RecordSet& table, const Game& game, const EnteredDraw& draw)
+{
+    table.Edit();
+    SetDrawnBalls(table, game, draw);
+    table.Update();
+}

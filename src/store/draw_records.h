@@ -1,0 +1,48 @@
+#pragma once
+
+#include "game/draw_row.h"
+#include "records/record_numbers.h"
+
+#include <QDate>
+#include <QString>
+
+#include <array>
+#include <string>
+
+class RecordSet;
+struct Game;
+
+/// The number of the current record of a draw table or list. Throws Failure where there is no record.
+std::int64_t ReadDrawId(const RecordSet& set);
+
+/// The current record of a draw table or list. Throws Failure where there is none.
+DrawRow ReadDraw(const RecordSet& set, const Game& game);
+
+/// Moves the table to the first row of the given date; false, and at the end, when there is none.
+bool FindDrawByDate(RecordSet& table, QDate date);
+
+/// Whether the list stands on a record of the given date.
+bool IsOnDate(RecordSet& list, QDate date);
+
+/// Moves the list to the last of its records of the given date; false, and at the start, when there is none.
+bool FindLastDrawOfDate(RecordSet& list, QDate date);
+
+/// Moves the table or list to the draw of the given number. Throws Failure where there is none any more; `doing` is
+/// the clause that it carries.
+void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing);
+
+/// What a page knows of a draw that is to be stored.
+struct EnteredDraw
+{
+    QDate date;
+    /// In slot order, main balls ascending.
+    std::array<double, 7> balls{};
+    QString machine;
+    QString ballSet;
+};
+
+/// Adds the draw to the game's table as a new row with the next number. Throws Failure; nothing is stored then.
+void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw);
+
+/// Writes balls, machine and set of balls over the table's current row; number, date and day stay. Throws Failure.
+void OverwriteDraw(RecordSet& table, const Game& game, const EnteredDraw& draw);

@@ -1,0 +1,64 @@
+#include "store/draw_tables.h"
+
+#include "game/game.h"
+
+namespace {
+
+TableLayout ListOf(TableLayout table)
+{
+    table.listedTable = table.name;
+    table.name += "list";
+    table.listOrder = "\"Date\" DESC, \"DrawId\" DESC";
+    return table;
+}
+
+} // namespace
+
+const TableLayout& DrawTable(const Game& game)
+{
+    static const TableLayout mainDraws{"ukmain",
+                                       {{"DrawId", "INTEGER"},
+                                        {"Date", "TEXT"},
+                                        {"Day", "TEXT"},
+                                        {"Ball1", "INTEGER"},
+                                        {"Ball2", "INTEGER"},
+                                        {"Ball3", "INTEGER"},
+                                        {"Ball4", "INTEGER"},
+                                        {"Ball5", "INTEGER"},
+                                        {"Ball6", "INTEGER"},
+                                        {"Bonus", "INTEGER"},
+                                        {"Machine", "TEXT"},
+                                        {"BallSet", "TEXT"}},
+                                       {}};
+    static const TableLayout thunderballDraws{"ukthunder",
+                                              {{"DrawId", "INTEGER"},
+                                               {"Date", "TEXT"},
+                                               {"Day", "TEXT"},
+                                               {"Ball1", "INTEGER"},
+                                               {"Ball2", "INTEGER"},
+                                               {"Ball3", "INTEGER"},
+                                               {"Ball4", "INTEGER"},
+                                               {"Ball5", "INTEGER"},
+                                               {"Thunderball", "INTEGER"}},
+                                              {}};
+    return game.drawType == MainGame.drawType ? mainDraws : thunderballDraws;
+}
+
+const TableLayout& DrawList(const Game& game)
+{
+    static const TableLayout mainList = ListOf(DrawTable(MainGame));
+    static const TableLayout thunderballList = ListOf(DrawTable(ThunderballGame));
+    return game.drawType == MainGame.drawType ? mainList : thunderballList;
+}
+
+const TableLayout& LinksTable()
+{
+    static const TableLayout links{"links",
+                                   {{"SiteName", "TEXT"},
+                                    {"WebAddress", "TEXT"},
+                                    {"MailAddress", "TEXT"},
+                                    {"Description1", "TEXT"},
+                                    {"Description2", "TEXT"}},
+                                   {}};
+    return links;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "game/entry_row.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class Database;
+class RecordSet;
+
+/// One stored user.
+struct UserRow
+{
+    std::int64_t number = 0;
+    QString name;
+    double spendLimit = 0;
+};
+
+UserRow ReadUser(const RecordSet& users);
+EntryRow ReadEntry(const RecordSet& entries);
+
+/// All rows, in the order in which they were added.
+std::vector<UserRow> ReadAllUsers(RecordSet& users);
+std::vector<EntryRow> ReadAllEntries(RecordSet& entries);
+
+/// The user's entries of one game, in the order in which they were added, without their days.
+std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
+
+/// Moves to the first user of exactly this name; false, and at the end, when there is none.
+bool FindUserByName(RecordSet& users, const QString& name);
+
+/// Moves to the first user of this number; false, and at the end, when there is none.
+bool FindUserByNumber(RecordSet& users, std::int64_t userId);
+
+/// How many entries the user has, of both games.
+int CountEntries(RecordSet& entries, std::int64_t userId);
+
+/// Whether a user who has `count` entries may store `more` of them under the limit.
+bool MayStoreEntries(int count, int more, double spendLimit);
+
+/// Adds a user with the next number. Throws Failure; nothing is stored then.
+void AddUser(RecordSet& users, const QString& name, double spendLimit);
+
+/// Writes name and limit over the current user; the number stays. Throws Failure.
+void ChangeUser(RecordSet& users, const QString& name, double spendLimit);
+
+/// Adds an entry under the number it carries. Throws Failure.
+void AddEntry(RecordSet& entries, const EntryRow& entry);
+
+/// Writes numbers and days over the current entry; its number, owner and game stay. Throws Failure.
+void ChangeEntry(RecordSet& entries, const std::array<double, 6>& numbers, const DaySet& days);
+
+/// Deletes every entry of the user, of both games. Throws Failure; to be asked for inside a transaction.
+void DeleteUserEntries(RecordSet& entries, std::int64_t userId);

@@ -1,0 +1,53 @@
+#include "utilities/file_dialog.h"
+
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QSettings>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The dialog would write its last folder and layout into a settings file in the home folder. The program keeps nothing
+// outside its own folder, so the settings are sent where no file can be.
+void ForgetDialogSettings()
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
+}
+
+QString Ask(QFileDialog& dialog, const FileQuestion& question)
+{
+    dialog.setObjectName(u"CommonDialog1"_s);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setNameFilter(u"Tavenor 3 Files (*.tv3)"_s);
+    dialog.setDefaultSuffix(u"tv3"_s);
+    dialog.selectFile(question.offeredName);
+    // Wide enough for sizes and dates to be read whole.
+    dialog.resize(800, 500);
+    if (const auto* details = dialog.findChild<QTreeView*>(u"treeView"_s))
+        for (int column = 0; column < details->header()->count(); ++column)
+            details->header()->setSectionResizeMode(column,
+                                                    column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+QString AskFileToSave(const FileQuestion& question, QWidget* parent)
+{
+    ForgetDialogSettings();
+    QFileDialog dialog(parent, question.title, question.folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    return Ask(dialog, question);
+}
+
+QString AskFileToOpen(const FileQuestion& question, QWidget* parent)
+{
+    ForgetDialogSettings();
+    QFileDialog dialog(parent, question.title, question.folder);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Ask(dialog, question);
+}

@@ -1,0 +1,30 @@
+#include "utilities/open_address.h"
+
+#include <QDesktopServices>
+#include <QRegularExpression>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The scheme in lower case; empty where there is none. What stands before the colon of "host.name:8080" is none.
+QString SchemeOf(const QString& address)
+{
+    static const QRegularExpression scheme(u"^([A-Za-z][A-Za-z0-9+.-]*):"_s);
+    static const QRegularExpression hostAndPort(u"^([A-Za-z0-9-]+(\\.[A-Za-z0-9-]+)+|localhost):[0-9]"_s);
+    const QRegularExpressionMatch found = scheme.match(address);
+    return found.hasMatch() && !hostAndPort.match(address).hasMatch() ? found.captured(1).toLower() : QString();
+}
+
+} // namespace
+
+void OpenAddress(const QString& address)
+{
+    const QString scheme = SchemeOf(address);
+    if (!scheme.isEmpty() && scheme != "http"_L1 && scheme != "https"_L1 && scheme != "mailto"_L1)
+        return;
+    const QUrl url(scheme.isEmpty() ? u"http://"_s + address : address);
+    if (url.isValid())
+        QDesktopServices::openUrl(url);
+}

@@ -1,0 +1,75 @@
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "builder/random_source.h"
+
+#include <QTest>
+
+#include <cfloat>
+
+class TextRulesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TypedTextIsReadAsItsLeadingNumber()
+    {
+        // Blanks are skipped, and what cannot continue a number ends it: signs, second points, exponents, words, digits
+        // of other scripts.
+        const QString arabicThree = QString::fromUtf8("٣");
+        const std::pair<double, QStringList> rows[] = {
+            {0, {"", "abc12", ".", "-", "NaN", "inf", "0x10", arabicThree, "0." + QString(10000, u'0') + "1"}},
+            {1, {"1-5", "1,5", "1e308"}},
+            {4, {"4\n5", "4" + arabicThree, QString("4") + QChar(1) + "5"}},
+            {5, {"5.", "005x"}},
+            {-5, {"-5"}},
+            {0.5, {".5"}},
+            {1.2, {"1.2.3"}},
+            {123, {" 1 2\t3 "}},
+            {DBL_MAX, {QString(10000, u'9')}}};
+        for (const auto& [value, texts] : rows)
+            for (const QString& text : texts)
+                QVERIFY2(NumericValue(text) == value && NumericValue(std::string_view(text.toStdString())) == value,
+                         qPrintable(text));
+    }
+
+    void NumbersAreWrittenPlainOrWithTheSignsPlace()
+    {
+        QCOMPARE(PlainNumber(-12), QString("-12"));
+        QCOMPARE(PlainNumber(10.5), QString("10.5"));
+        QCOMPARE(PlainNumber(9007199254740991.0), QString("9007199254740991"));
+        QCOMPARE(SpacedNumber(0) + SpacedNumber(49) + SpacedNumber(-1), QString(" 0 49-1"));
+    }
+
+    void DatesAreWrittenInEnglish()
+    {
+        const QDate date(2000, 2, 5);
+        QCOMPARE(LongDate(date), QString("Saturday, 5 February 2000"));
+        QCOMPARE(DateInWords(date), QString("5 February 2000"));
+        QCOMPARE(ShortDayName(date) + ShortDayName(date.addDays(1)), QString("SatSun"));
+        for (int days = 0; days < 7; ++days)
+            QCOMPARE(DaySetIndex(date.addDays(days)), (days + 5) % 7);
+        QVERIFY(ShortDate(date).contains("2000"));
+    }
+
+    void StoredDatesAreReadStrictly()
+    {
+        QCOMPARE(DateFromIso("1999-06-12"), QDate(1999, 6, 12));
+        QCOMPARE(DateFromIso("2024-02-29"), QDate(2024, 2, 29));
+        for (const char* odd : {"2023-02-29", "1999-13-12", "1999-06-12 10:00", "1999--6-12", "", "yesterday!"})
+            QVERIFY2(!DateFromIso(odd).isValid(), odd);
+    }
+
+    void ChanceIsRepeatableAndInRange()
+    {
+        RandomSource first;
+        RandomSource second;
+        for (int i = 0; i < 49000; ++i) {
+            const int number = first.UpTo(49);
+            QCOMPARE(second.UpTo(49), number);
+            QVERIFY(number >= 1 && number <= 49);
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(TextRulesTest)
+#include "text_rules_test.moc"
