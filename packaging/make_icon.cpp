@@ -5,7 +5,6 @@
 #include "look/artwork.h"
 
 #include <QImage>
-#include <QPainter>
 
 #include <cstdio>
 #include <cstdlib>
@@ -14,18 +13,6 @@
 namespace {
 
 constexpr int Side = 48;
-/// The part of the side that stays free around the logo.
-constexpr double Margin = 2.0 / 104;
-
-QImage Icon()
-{
-    QImage icon(Side, Side, QImage::Format_ARGB32);
-    icon.fill(Qt::transparent);
-    QPainter painter(&icon);
-    const double free = Margin * Side;
-    DrawLogo(painter, QRectF(0, 0, Side, Side).adjusted(free, free, -free, -free));
-    return icon;
-}
 
 /// The mean difference of the channels of all pixels, from 0 to 255; colours count as much as they cover.
 double Difference(const QImage& one, const QImage& other)
@@ -46,14 +33,14 @@ double Difference(const QImage& one, const QImage& other)
 int main(int count, char** arguments)
 {
     if (count == 2)
-        return Icon().save(QString::fromLocal8Bit(arguments[1])) ? 0 : 1;
+        return LogoImage(Side).save(QString::fromLocal8Bit(arguments[1])) ? 0 : 1;
     if (count != 3 || std::strcmp(arguments[1], "--compare") != 0) {
         std::fputs("Usage: make_icon ICON.png | make_icon --compare PICTURE.png\n", stderr);
         return 2;
     }
     // Another renderer smooths the edges a little differently.
     constexpr double same = 2;
-    const double difference = Difference(Icon(), QImage(QString::fromLocal8Bit(arguments[2])));
+    const double difference = Difference(LogoImage(Side), QImage(QString::fromLocal8Bit(arguments[2])));
     std::printf("The pictures differ by %.2f of 255.\n", difference);
     return difference < same ? 0 : 1;
 }

@@ -3,13 +3,11 @@
 #include "controls/message_box.h"
 #include "look/application.h"
 
-#include <QDir>
-
 int main(int count, char** arguments)
 {
     if (count != 2)
         return 2;
-    const auto application = MakeApplication(count, arguments, QDir::tempPath());
+    const auto application = MakeApplication(count, arguments);
     ShowCritical(QString::fromLocal8Bit(arguments[1]));
     return 0;
 }

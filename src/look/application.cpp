@@ -1,21 +1,22 @@
 #include "look/application.h"
 
+#include "look/artwork.h"
 #include "look/style.h"
-#include "look/traceless_start.h"
 
-#include <QFontDatabase>
+#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
-std::unique_ptr<QApplication> MakeApplication(int& count, char** arguments, const QString& scratch)
+std::unique_ptr<QApplication> MakeApplication(int& count, char** arguments)
 {
-    const TracelessStart tracelessStart(scratch);
     auto application = std::make_unique<QApplication>(count, arguments);
-    // The fonts are read here, while what is written for them is cleared away.
-    QFontDatabase::families();
     QApplication::setStyle(new Style);
     QApplication::setApplicationName(u"tavenor3"_s);
-    // By this name the desktop finds the window's icon.
+    // By this name a desktop finds the installed icon; where nothing is installed the window brings its own.
     QApplication::setDesktopFileName(u"tavenor3"_s);
+    QIcon icon;
+    for (const int side : {16, 32, 48, 64, 128})
+        icon.addPixmap(QPixmap::fromImage(LogoImage(side)));
+    QApplication::setWindowIcon(icon);
     return application;
 }

@@ -79,3 +79,14 @@ void DrawLogo(QPainter& painter, const QRectF& square)
     painter.drawRect(QRectF(square.left() + 43 * unit, square.top() + 33 * unit, 14 * unit, 47 * unit));
     painter.restore();
 }
+
+QImage LogoImage(int side)
+{
+    constexpr qreal margin = 2.0 / 104;
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    const qreal free = margin * side;
+    DrawLogo(painter, QRectF(image.rect()).adjusted(free, free, -free, -free));
+    return image;
+}

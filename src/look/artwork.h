@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QRectF>
 
 class QColor;
@@ -21,3 +22,6 @@ void DrawPicture(QPainter& painter, Picture picture, const QRectF& square, const
 
 /// Draws the product's logo: a lit ball with its letter.
 void DrawLogo(QPainter& painter, const QRectF& square);
+
+/// The logo on a transparent ground, a square of the given side in pixels, as an icon.
+QImage LogoImage(int side);

@@ -7,8 +7,6 @@
 #include "utilities/shut_down.h"
 #include "utilities/start_up.h"
 
-#include <QDir>
-
 #include <csignal>
 #include <filesystem>
 #include <system_error>
@@ -17,7 +15,7 @@ int main(int count, char** arguments)
 {
     // Beyond a limit of the system on the size of files a write fails, and is told, instead of ending the program.
     std::signal(SIGXFSZ, SIG_IGN);
-    const auto application = MakeApplication(count, arguments, QDir::currentPath());
+    const auto application = MakeApplication(count, arguments);
     // In a folder that is gone meanwhile the files are missing like in any other.
     std::error_code gone;
     SetProgramDir(std::filesystem::current_path(gone));
