@@ -26,6 +26,10 @@ public:
     /// for when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
     void PutFooterLastInTabOrder();
 
+Q_SIGNALS:
+    /// What the page beneath shows has been changed on this page, which is laid over it.
+    void Stored();
+
 protected:
     QVBoxLayout* Body() const { return body; }
     /// Adds a button to the row at the lower right, from left to right.

@@ -49,11 +49,9 @@ DrawDetailPage::DrawDetailPage(const Game& drawGame)
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { hide(); });
 }
 
-void DrawDetailPage::Open(std::int64_t drawId)
+void DrawDetailPage::Prepare()
 {
-    RecordSet& list = DrawListOf(game);
-    MoveToDraw(list, drawId, "The draw could not be shown");
-    draw->Show(ReadDraw(list, game));
+    draw->Show(ReadDraw(DrawListOf(game), game));
     ShowInFront();
     back->setFocus();
 }

@@ -2,8 +2,6 @@
 
 #include "controls/page_frame.h"
 
-#include <cstdint>
-
 class DrawView;
 struct Game;
 
@@ -15,8 +13,8 @@ class DrawDetailPage : public PageFrame
 public:
     explicit DrawDetailPage(const Game& drawGame);
 
-    /// Shows the draw of this number in front of the other pages. Throws Failure where there is none any more.
-    void Open(std::int64_t drawId);
+    /// Shows the draw on which the game's list stands in front of the other pages.
+    void Prepare() override;
 
 private:
     const Game& game;

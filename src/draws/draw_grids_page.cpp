@@ -5,9 +5,7 @@
 #include "controls/label.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
-#include "draws/draw_detail_page.h"
 #include "draws/draw_grid_model.h"
-#include "draws/edit_draw_page.h"
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
@@ -105,26 +103,27 @@ void DrawGridSection::Fill()
     grid->SelectRow(0);
 }
 
-std::optional<std::int64_t> DrawGridSection::OneSelectedDraw() const
+bool DrawGridSection::MoveToSelectedDraw() const
 {
     const GridView::RowSpan rows = grid->SelectedRows();
-    if (rows.Count() == 1)
-        return model->NumberOf(rows.first);
     if (rows.Count() > 1)
         ShowMessage(u"Select only ONE draw."_s);
-    return std::nullopt;
+    if (rows.Count() != 1)
+        return false;
+    MoveToDraw(DrawListOf(game), model->NumberOf(rows.first), "The draw could not be shown");
+    return true;
 }
 
 void DrawGridSection::View_Click()
 {
-    if (const auto number = OneSelectedDraw())
-        static_cast<DrawDetailPage*>(pages.Page(TextsOf(game).detailPage))->Open(*number);
+    if (MoveToSelectedDraw())
+        pages.Page(TextsOf(game).detailPage)->Prepare();
 }
 
 void DrawGridSection::Edit_Click()
 {
-    if (const auto number = OneSelectedDraw())
-        static_cast<EditDrawPage*>(pages.Page(TextsOf(game).editPage))->Open(*number);
+    if (MoveToSelectedDraw())
+        pages.Page(TextsOf(game).editPage)->Prepare();
 }
 
 void DrawGridSection::Delete_Click()

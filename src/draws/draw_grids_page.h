@@ -4,9 +4,6 @@
 
 #include <QLabel>
 
-#include <cstdint>
-#include <optional>
-
 class Card;
 class DrawGridModel;
 class GridView;
@@ -32,8 +29,8 @@ private:
     void Edit_Click();
     /// F10maindeletebutton_Click, F10thunderdeletebutton_Click.
     void Delete_Click();
-    /// The DrawId of the one selected row; tells the player when there are several.
-    std::optional<std::int64_t> OneSelectedDraw() const;
+    /// Moves the list to the draw of the one selected row; tells the player when there are several.
+    bool MoveToSelectedDraw() const;
     void DeleteSelectedDraws();
 
     const Game& game;

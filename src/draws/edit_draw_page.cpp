@@ -70,8 +70,7 @@ EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
     });
     ConnectGuarded(save, &QPushButton::clicked, this, [this] { Save_Click(); });
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
-    // F16reset_Click, F17reset_Click.
-    ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Open(drawId); });
+    ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Reset_Click(); });
 }
 
 void EditDrawPage::BuildCard()
@@ -89,12 +88,10 @@ void EditDrawPage::BuildCard()
     Body()->addStretch(1);
 }
 
-void EditDrawPage::Open(std::int64_t number)
+void EditDrawPage::Prepare()
 {
-    drawId = number;
-    RecordSet& list = DrawListOf(game);
-    MoveToDraw(list, drawId, "The draw could not be shown");
-    const DrawRow draw = ReadDraw(list, game);
+    const DrawRow draw = ReadDraw(DrawListOf(game), game);
+    drawId = draw.number;
     date->setText(LongStoredDate(draw.date));
     for (int slot = 0; slot < game.BallCount(); ++slot)
         balls->SetText(slot, PlainNumber(draw.balls.at(static_cast<size_t>(slot))));
@@ -107,6 +104,12 @@ void EditDrawPage::Open(std::int64_t number)
     }
     ShowInFront();
     balls->FocusField(0);
+}
+
+void EditDrawPage::Reset_Click()
+{
+    MoveToDraw(DrawListOf(game), drawId, "The draw could not be shown");
+    Prepare();
 }
 
 void EditDrawPage::Back_Click()

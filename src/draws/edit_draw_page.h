@@ -21,11 +21,13 @@ class EditDrawPage : public PageFrame
 public:
     EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch);
 
-    /// Shows the stored draw of this number in front of the other pages. Throws Failure where there is none any more.
-    void Open(std::int64_t number);
+    /// Shows the draw on which the game's list stands in front of the other pages, to be changed.
+    void Prepare() override;
 
 private:
     void BuildCard();
+    /// F16reset_Click, F17reset_Click.
+    void Reset_Click();
     /// F16save_Click, F17save_Click.
     void Save_Click();
     /// F16back_Click, F17back_Click.

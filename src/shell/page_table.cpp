@@ -37,7 +37,7 @@ constexpr PageTableRow Pages[] = {
     {17, false, [](PageSwitch& pages) -> PageFrame* { return new EditDrawPage(ThunderballGame, pages); }},
     {18, true, [](PageSwitch& pages) -> PageFrame* { return new AddEntriesPage(pages); }},
     {19, false, [](PageSwitch&) -> PageFrame* { return new EntryViewPage; }},
-    {20, false, [](PageSwitch& pages) -> PageFrame* { return new EntryEditPage(pages); }},
+    {20, false, [](PageSwitch&) -> PageFrame* { return new EntryEditPage; }},
     {21, true, [](PageSwitch& pages) -> PageFrame* { return new AnalysisPage(MainGame, pages); }},
     {22, true, [](PageSwitch& pages) -> PageFrame* { return new AnalysisPage(ThunderballGame, pages); }},
     {23, false, [](PageSwitch&) -> PageFrame* { return new BallDataPage(MainGame); }},

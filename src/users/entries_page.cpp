@@ -11,9 +11,7 @@
 #include "records/record_numbers.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
-#include "users/entry_edit_page.h"
 #include "users/entry_grid_model.h"
-#include "users/entry_view_page.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -54,13 +52,15 @@ EntriesPage::EntriesPage(PageSwitch& pageSwitch)
     F13edit = AddFooterButton(u"Edit"_s, u"F13edit"_s);
     F13view = AddFooterDefault(u"View in Detail"_s, u"F13view"_s);
     ConnectGuarded(F13user, &QComboBox::activated, this, [this] { F13user_Click(); });
-    ConnectGuarded(F13typemain, &QRadioButton::clicked, this, [this] { ListGame(MainGame); });
-    ConnectGuarded(F13typethunder, &QRadioButton::clicked, this, [this] { ListGame(ThunderballGame); });
+    // F13typemain_Click, F13typethunder_Click.
+    for (const QRadioButton* option : {F13typemain, F13typethunder})
+        ConnectGuarded(option, &QRadioButton::clicked, this, [this] { FillEntriesGrid(); });
     ConnectGuarded(F13grid, &GridView::Opened, this, [this] { F13view_Click(); });
     ConnectGuarded(F13grid, &GridView::DeletePressed, this, [this] { F13delete_Click(); });
     ConnectGuarded(F13view, &QPushButton::clicked, this, [this] { F13view_Click(); });
     ConnectGuarded(F13edit, &QPushButton::clicked, this, [this] { F13edit_Click(); });
     ConnectGuarded(F13delete, &QPushButton::clicked, this, [this] { F13delete_Click(); });
+    ConnectGuarded(pages.Page(EditPage), &PageFrame::Stored, this, [this] { FillEntriesGrid(); });
 }
 
 Card* EntriesPage::MakeChoiceCard()
@@ -121,12 +121,6 @@ void EntriesPage::F13user_Click()
     FillEntriesGrid();
 }
 
-void EntriesPage::ListGame(const Game& game)
-{
-    (&game == &MainGame ? F13typemain : F13typethunder)->setChecked(true);
-    FillEntriesGrid();
-}
-
 const Game& EntriesPage::ChosenGame() const
 {
     return F13typemain->isChecked() ? MainGame : ThunderballGame;
@@ -144,43 +138,28 @@ void EntriesPage::FillEntriesGrid()
     F13grid->SelectRow(0);
 }
 
-std::optional<int> EntriesPage::OneSelectedRow(const QString& verb) const
+void EntriesPage::OpenSelectedEntry(PageFrame* page, const QString& verb)
 {
     const GridView::RowSpan rows = F13grid->SelectedRows();
-    if (rows.Count() == 1)
-        return rows.first;
-    ShowMessage(rows.Count() == 0 ? u"There are no entries to "_s + verb : u"Select only ONE draw."_s);
-    return std::nullopt;
-}
-
-std::optional<EntryRow> EntriesPage::FindEntry(int row) const
-{
-    if (FindRecord(entries, model->NumberOf(row)))
-        return ReadEntry(entries);
-    ShowMessage(u"An unexpected error has occured,"_s + Crlf + u"please try again."_s);
-    return std::nullopt;
+    if (rows.Count() != 1) {
+        ShowMessage(rows.Count() == 0 ? u"There are no entries to "_s + verb : u"Select only ONE draw."_s);
+        return;
+    }
+    page->ShowInFront();
+    if (FindRecord(entries, model->NumberOf(rows.first)))
+        page->Prepare();
+    else
+        ShowMessage(u"An unexpected error has occured,"_s + Crlf + u"please try again."_s);
 }
 
 void EntriesPage::F13view_Click()
 {
-    const auto row = OneSelectedRow(u"view"_s);
-    if (!row)
-        return;
-    auto* viewPage = static_cast<EntryViewPage*>(pages.Page(ViewPage));
-    viewPage->ShowInFront();
-    if (const auto entry = FindEntry(*row))
-        viewPage->Show(*entry, F13user->currentText());
+    OpenSelectedEntry(pages.Page(ViewPage), u"view"_s);
 }
 
 void EntriesPage::F13edit_Click()
 {
-    const auto row = OneSelectedRow(u"edit"_s);
-    if (!row)
-        return;
-    auto* editPage = static_cast<EntryEditPage*>(pages.Page(EditPage));
-    editPage->ShowInFront();
-    if (const auto entry = FindEntry(*row))
-        editPage->Show(*entry, F13user->currentText());
+    OpenSelectedEntry(pages.Page(EditPage), u"edit"_s);
 }
 
 void EntriesPage::F13delete_Click()

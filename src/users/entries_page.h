@@ -26,9 +26,6 @@ public:
     /// ShowEntriesPage.
     void Prepare() override;
 
-    /// F13typemain_Click, F13typethunder_Click: lists the chosen user's entries of the game.
-    void ListGame(const Game& game);
-
 private:
     Card* MakeChoiceCard();
     Card* MakeGridCard();
@@ -38,10 +35,9 @@ private:
     void F13edit_Click();
     void F13delete_Click();
     const Game& ChosenGame() const;
-    /// The one selected row; tells the player when there are no entries, with the verb given, or several are selected.
-    std::optional<int> OneSelectedRow(const QString& verb) const;
-    /// The stored entry of a row; tells the player when it is gone.
-    std::optional<EntryRow> FindEntry(int row) const;
+    /// Opens the one selected entry on a page; tells the player when there are no entries, with the verb given, when
+    /// several are selected, or when the entry is gone.
+    void OpenSelectedEntry(PageFrame* page, const QString& verb);
 
     PageSwitch& pages;
     std::optional<std::int64_t> selectedUserNumber;

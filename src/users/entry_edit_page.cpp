@@ -6,14 +6,12 @@
 #include "base/numbers.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"
-#include "controls/page_switch.h"
 #include "game/game.h"
 #include "look/button.h"
 #include "records/record_numbers.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
 #include "users/day_boxes.h"
-#include "users/entries_page.h"
 #include "users/entry_head.h"
 
 #include <QPushButton>
@@ -22,9 +20,8 @@
 
 using namespace Qt::StringLiterals;
 
-EntryEditPage::EntryEditPage(PageSwitch& pageSwitch)
+EntryEditPage::EntryEditPage()
     : PageFrame(20, u"View Entry in Detail"_s),
-      pages(pageSwitch),
       head(new EntryHead(u"F20"_s)),
       F20num(new BallFields({u"F20num"_s, u"F20ball"_s, u"F20caption"_s, {1, 2, 3, 4, 5, 6}}, EntryBallCaptions())),
       F20day(new DayBoxes({u"F20day"_s, {}, {}}, QString())),
@@ -32,7 +29,7 @@ EntryEditPage::EntryEditPage(PageSwitch& pageSwitch)
       F20store(AddFooterDefault(u"Store Changes"_s, u"F20store"_s))
 {
     KeepThunderballCaptionOnly(F20num, u"F20thunderlabel"_s);
-    // The page may come to light without an entry, where another copy has deleted the one that was asked for.
+    // The page is shown without an entry where another copy has deleted the chosen one.
     F20num->SetRule(EntryEditingRule(MainGame));
     F20num->Recolour();
     auto* ballCard = new Card;
@@ -48,12 +45,13 @@ EntryEditPage::EntryEditPage(PageSwitch& pageSwitch)
     ConnectGuarded(F20back, &QPushButton::clicked, this, [this] { F20back_Click(); });
 }
 
-void EntryEditPage::Show(const EntryRow& entry, const QString& userName)
+void EntryEditPage::Prepare()
 {
+    const EntryRow entry = ReadEntry(entries);
     const Game& game = entry.drawType == MainGame.drawType ? MainGame : ThunderballGame;
     const bool isMain = &game == &MainGame;
     entryId = entry.number;
-    head->Show(userName, game);
+    head->Show(ReadUser(users).name, game);
     F20num->SetRule(EntryEditingRule(game));
     for (int slot = 0; slot < F20num->Count(); ++slot)
         F20num->SetText(slot, PlainNumber(entry.numbers.at(static_cast<size_t>(slot))));
@@ -62,6 +60,7 @@ void EntryEditPage::Show(const EntryRow& entry, const QString& userName)
     F20num->Caption(5)->setVisible(!isMain);
     F20num->Field(5)->setAccessibleName(isMain ? MainGame.BallCaption(5) : ThunderballGame.extraBallName);
     F20day->SetDays(entry.days);
+    ShowInFront();
     F20num->FocusField(0);
 }
 
@@ -85,7 +84,7 @@ void EntryEditPage::F20store_Click()
         return;
     }
     StoreChanges();
-    static_cast<EntriesPage*>(pages.Page(13))->ListGame(game);
+    Q_EMIT Stored();
     ShowMessage(u"The changes have been stored."_s);
     hide();
 }

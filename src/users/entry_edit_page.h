@@ -6,7 +6,6 @@
 class BallFields;
 class DayBoxes;
 class EntryHead;
-class PageSwitch;
 
 /// Page 20: the numbers and days of one entry are changed. Laid over the entries list.
 class EntryEditPage : public PageFrame
@@ -14,9 +13,10 @@ class EntryEditPage : public PageFrame
     Q_OBJECT
 
 public:
-    explicit EntryEditPage(PageSwitch& pageSwitch);
+    EntryEditPage();
 
-    void Show(const EntryRow& entry, const QString& userName);
+    /// Shows the entry on which `entries` stands, of the user on whom `users` stands, to be changed.
+    void Prepare() override;
 
 private:
     void F20store_Click();
@@ -24,7 +24,6 @@ private:
     bool HasEqualTexts() const;
     void StoreChanges();
 
-    PageSwitch& pages;
     std::int64_t entryId = 0;
     EntryHead* head;
     BallFields* F20num;

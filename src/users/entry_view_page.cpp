@@ -7,6 +7,8 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
+#include "store/open_databases.h"
+#include "store/user_records.h"
 #include "users/entry_head.h"
 
 #include <QEvent>
@@ -48,17 +50,18 @@ Card* EntryViewPage::MakeDayCard()
     return card;
 }
 
-void EntryViewPage::Show(const EntryRow& entry, const QString& userName)
+void EntryViewPage::Prepare()
 {
+    const EntryRow entry = ReadEntry(entries);
     const Game& game = entry.drawType == MainGame.drawType ? MainGame : ThunderballGame;
     const bool isMain = &game == &MainGame;
-    head->Show(userName, game);
+    head->Show(ReadUser(users).name, game);
     balls->Show(game, entry.numbers);
     balls->SetLastApart(!isMain);
     balls->Caption(5)->setVisible(!isMain);
     days = entry.days;
     ColourDays();
-    F19back->setFocus();
+    ShowInFront();
 }
 
 void EntryViewPage::changeEvent(QEvent* event)

@@ -19,7 +19,8 @@ class EntryViewPage : public PageFrame
 public:
     EntryViewPage();
 
-    void Show(const EntryRow& entry, const QString& userName);
+    /// Shows the entry on which `entries` stands, of the user on whom `users` stands.
+    void Prepare() override;
 
 protected:
     void changeEvent(QEvent* event) override;
