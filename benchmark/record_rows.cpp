@@ -1,6 +1,6 @@
 #include "rows.h"
 
-#include "analysis/draw_history.h"
+#include "analysis/chart_count.h"
 #include "base/dates.h"
 #include "bench_data.h"
 #include "checking/check_report.h"
@@ -83,15 +83,19 @@ Row ComparisonRow(const std::filesystem::path& work)
 
 Row ChartRow(const Chart& chart)
 {
-    RecordSet& draws = chart.NewestFirst() ? DrawListOf(*chart.game) : DrawsOf(*chart.game);
-    const SlotRange slots = chart.SlotsRead();
+    const bool isSince = chart.subject == ChartSubject::DrawsSince;
+    RecordSet& draws = isSince ? DrawListOf(*chart.game) : DrawsOf(*chart.game);
     WalkedFields fields;
-    for (int slot = slots.first; slot < slots.end; ++slot)
-        fields.numbers.push_back(DrawField::FirstBall + slot);
-    if (slots.Count() == 0)
-        fields.texts = {chart.subject == ChartSubject::Machines ? DrawField::Machine : DrawField::BallSet};
+    if (chart.subject == ChartSubject::Machines)
+        fields.texts = {DrawField::Machine};
+    else if (chart.subject == ChartSubject::BallSets)
+        fields.numbers = {DrawField::BallSet};
+    else
+        for (int slot = SlotsOf(*chart.game, chart.ballType).first; slot < SlotsOf(*chart.game, chart.ballType).end;
+             ++slot)
+            fields.numbers.push_back(DrawField::FirstBall + slot);
     return {u"chart %1 computed"_s.arg(chart.number), 1.5,
-            [&chart] { return Milliseconds([&] { CountChart(chart).Bars(chart.ballType); }); },
+            [&chart] { return Milliseconds([&] { CountBars(chart, chart.ballType); }); },
             [&draws, fields] { return Milliseconds([&] { Walk(draws, fields); }); }};
 }
 

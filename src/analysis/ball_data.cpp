@@ -2,7 +2,10 @@
 
 #include "base/dates.h"
 #include "base/numbers.h"
+#include "base/texts.h"
 #include "game/game.h"
+#include "records/record_set.h"
+#include "store/draw_tables.h"
 
 #include <cmath>
 
@@ -19,19 +22,25 @@ BallRole ExtraBallRole(const Game& game)
             game.drawType == MainGame.drawType ? u"the bonus ball"_s : u"the thunderball"_s};
 }
 
-BallAppearances FindBall(const DrawnBalls& balls, SlotRange slots, int ball)
+BallAppearances FindBall(RecordSet& list, const BallRole& role, int ball)
 {
+    const auto holdsBall = [&] {
+        for (int slot = role.slots.first; slot < role.slots.end; ++slot)
+            if (list.Number(DrawField::FirstBall + slot) == ball)
+                return true;
+        return false;
+    };
     BallAppearances found;
-    const int draws = balls.Draws();
-    for (int draw = 0; draw < draws; ++draw) {
-        for (int slot = slots.first; slot < slots.end; ++slot) {
-            if (balls.NumberAt(draw, slot) != ball)
-                continue;
-            if (!found.drawsAgo)
-                found.drawsAgo = draw;
-            ++found.count;
-            break;
+    int drawsAgo = 0;
+    for (list.MoveFirst(); !list.Eof(); list.MoveNext(), ++drawsAgo) {
+        if (!holdsBall())
+            continue;
+        if (found.count == 0) {
+            found.drawsAgo = drawsAgo;
+            found.day = FromUtf8(list.Text(DrawField::Day));
+            found.date = StoredDateInWords(list.Text(DrawField::Date));
         }
+        ++found.count;
     }
     return found;
 }
@@ -49,17 +58,17 @@ QString TwoDigits(int ball)
     return u"%1"_s.arg(ball, 2, 10, QChar(u'0'));
 }
 
-QString LastDrawnSentence(const BallRole& role, std::optional<int> drawsAgo, const QString& day, QDate date)
+QString LastDrawnSentence(const BallRole& role, const BallAppearances& found)
 {
-    if (!drawsAgo)
+    if (found.count == 0)
         return u"This ball has never been drawn as %1."_s.arg(role.name);
-    return u"This ball was last drawn as "_s + role.name + SpacedNumber(*drawsAgo) + u" draws ago, on "_s + day + u' ' +
-           DateInWords(date) + u'.';
+    return u"This ball was last drawn as "_s + role.name + SpacedNumber(found.drawsAgo) + u" draws ago, on "_s +
+           found.day + u' ' + found.date + u'.';
 }
 
-QString CountSentence(const BallRole& role, int count)
+QString CountSentence(const BallRole& role, const BallAppearances& found)
 {
-    if (count == 0)
+    if (found.count == 0)
         return {};
-    return u"This ball has been drawn"_s + SpacedNumber(count) + u" times as "_s + role.name + u'.';
+    return u"This ball has been drawn"_s + SpacedNumber(found.count) + u" times as "_s + role.name + u'.';
 }

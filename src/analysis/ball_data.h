@@ -1,12 +1,12 @@
 #pragma once
 
-#include "analysis/drawn_balls.h"
+#include "analysis/ball_type.h"
 
-#include <QDate>
 #include <QString>
 
 #include <optional>
 
+class RecordSet;
 struct Game;
 
 /// A role in which a ball can be drawn, and how sentences name it: "a main ball", "the bonus ball", "the thunderball".
@@ -18,15 +18,20 @@ struct BallRole
 BallRole MainBallRole(const Game& game);
 BallRole ExtraBallRole(const Game& game);
 
-/// How a ball fared in the given slots over draws that come newest first.
+/// How often a ball was drawn in a role, and when last.
 struct BallAppearances
 {
-    /// The number of draws after the last one that had the ball; 0 is the latest draw. None for a ball never drawn.
-    std::optional<int> drawsAgo;
     /// The number of draws that had the ball.
     int count = 0;
+    /// The number of draws after the last one that had it; 0 is the latest draw. What follows is of that draw, and all
+    /// three are empty for a ball never drawn.
+    int drawsAgo = 0;
+    QString day;
+    QString date;
 };
-BallAppearances FindBall(const DrawnBalls& balls, SlotRange slots, int ball);
+
+/// Goes through the list of a game's draws, newest first. Throws Failure.
+BallAppearances FindBall(RecordSet& list, const BallRole& role, int ball);
 
 /// The ball of the game that a typed text asks for, by the whole part of its numeric value; none for any other text.
 std::optional<int> TypedBall(const Game& game, const QString& text);
@@ -34,8 +39,8 @@ std::optional<int> TypedBall(const Game& game, const QString& text);
 /// A ball number as the pages show it, always in two digits.
 QString TwoDigits(int ball);
 
-/// The sentence on the last draw that had the ball; day and date are that draw's, and are not looked at without one.
-QString LastDrawnSentence(const BallRole& role, std::optional<int> drawsAgo, const QString& day, QDate date);
+/// The sentence on the last draw that had the ball.
+QString LastDrawnSentence(const BallRole& role, const BallAppearances& found);
 
 /// The sentence on how often the ball was drawn; empty for a ball never drawn.
-QString CountSentence(const BallRole& role, int count);
+QString CountSentence(const BallRole& role, const BallAppearances& found);

@@ -1,7 +1,5 @@
 #include "analysis/ball_data_page.h"
 
-#include "analysis/draw_history.h"
-#include "base/dates.h"
 #include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/label.h"
@@ -9,7 +7,6 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
-#include "store/draw_records.h"
 #include "store/open_databases.h"
 
 #include <QHBoxLayout>
@@ -22,22 +19,6 @@ namespace {
 int PageOf(const Game& game)
 {
     return game.drawType == MainGame.drawType ? 23 : 24;
-}
-
-/// The draw at a place of the list, counted from 0. The list stands behind its last record and is left there: a move
-/// from there reads nothing anew, so that the places are those of the walk before.
-DrawRow DrawAt(RecordSet& list, int place, const Game& game)
-{
-    const int back = list.Count() - place;
-    list.Move(-back);
-    const DrawRow draw = ReadDraw(list, game);
-    list.Move(back);
-    return draw;
-}
-
-QString Utf8(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 void ShowIn(const LabelledBall& disc, const Game& game, int slot, int ball)
@@ -129,9 +110,8 @@ void BallDataPage::enter_KeyPress()
 
 void BallDataPage::ShowBallData(int ball)
 {
-    const DrawnBalls balls = ReadDrawnBalls(DrawListOf(game), SlotsOf(game, BallType::AllBalls));
     ShowIn(mainBall, game, 0, ball);
-    ShowRole(MainBallRole(game), balls, ball, data[0], data[1]);
+    ShowRole(MainBallRole(game), ball, data[0], data[1]);
     const bool canBeExtra = ball <= game.highestExtra;
     if (extraBall.disc != nullptr) {
         ShowIn(extraBall, game, game.mainBalls, ball);
@@ -139,21 +119,18 @@ void BallDataPage::ShowBallData(int ball)
         extraBall.number->setVisible(canBeExtra);
     }
     if (canBeExtra) {
-        ShowRole(ExtraBallRole(game), balls, ball, data[2], data[3]);
+        ShowRole(ExtraBallRole(game), ball, data[2], data[3]);
     } else {
         data[2]->clear();
         data[3]->clear();
     }
 }
 
-void BallDataPage::ShowRole(const BallRole& role, const DrawnBalls& balls, int ball, QLabel* lastDrawn, QLabel* count)
+void BallDataPage::ShowRole(const BallRole& role, int ball, QLabel* lastDrawn, QLabel* count)
 {
-    const BallAppearances found = FindBall(balls, role.slots, ball);
-    DrawRow draw;
-    if (found.drawsAgo)
-        draw = DrawAt(DrawListOf(game), *found.drawsAgo, game);
-    lastDrawn->setText(LastDrawnSentence(role, found.drawsAgo, Utf8(draw.day), DateFromIso(draw.date)));
-    count->setText(CountSentence(role, found.count));
+    const BallAppearances found = FindBall(DrawListOf(game), role, ball);
+    lastDrawn->setText(LastDrawnSentence(role, found));
+    count->setText(CountSentence(role, found));
 }
 
 QString BallDataPage::ControlName(const char* name) const

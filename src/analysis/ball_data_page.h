@@ -29,7 +29,7 @@ private:
     void enter_KeyPress();
     /// ShowMainBallData, ShowThunderballBallData.
     void ShowBallData(int ball);
-    void ShowRole(const BallRole& role, const DrawnBalls& balls, int ball, QLabel* lastDrawn, QLabel* count);
+    void ShowRole(const BallRole& role, int ball, QLabel* lastDrawn, QLabel* count);
     QString ControlName(const char* name) const;
 
     const Game& game;

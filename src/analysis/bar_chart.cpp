@@ -1,6 +1,5 @@
 #include "analysis/bar_chart.h"
 
-#include "analysis/bar_colours.h"
 #include "analysis/chart_texts.h"
 #include "look/theme.h"
 

@@ -1,22 +1,21 @@
 #include "analysis/chart_count.h"
 
 #include "base/numbers.h"
+#include "base/texts.h"
 #include "game/game.h"
+#include "store/draw_tables.h"
+#include "store/open_databases.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 
 namespace {
 
-constexpr int NotYet = std::numeric_limits<int>::max();
+// The functions that give a bar give its number, or 0 for what has no bar.
 
-/// A bar numbered by a value; 0 for a value that numbers none.
 int NumberedBar(double value, int bars)
 {
-    if (!(value >= 1 && value <= bars))
-        return 0;
-    const int whole = static_cast<int>(value);
-    return whole == value ? whole : 0;
+    return IsWholeBetween(value, 1, bars) ? static_cast<int>(value) : 0;
 }
 
 int ColourBar(double ball)
@@ -29,119 +28,68 @@ int ColourBar(double ball)
 
 int OddOrEvenBar(double ball)
 {
-    // Numbers too large for the conversion are whole and even anyhow.
-    constexpr double largest = 9007199254740992.0;
-    const double half = ball / 2;
-    const bool isWhole = !(half > -largest && half < largest) || half == static_cast<double>(static_cast<qint64>(half));
-    return isWhole ? 2 : 1;
+    return ball / 2 == std::trunc(ball / 2) ? 2 : 1;
 }
 
-int BallSetBar(std::string_view ballSet, int bars)
+int MachineBar(const QString& machine)
 {
-    // Nearly every set is one digit, and reading any number takes as long as the walk itself.
-    if (ballSet.size() == 1)
-        return NumberedBar(ballSet.front() - '0', bars);
-    return NumberedBar(NumericValue(ballSet), bars);
+    const auto* found = std::find(MachineNames.begin(), MachineNames.end(), machine);
+    return found == MachineNames.end() ? 0 : static_cast<int>(found - MachineNames.begin()) + 1;
+}
+
+int BallBar(const Chart& chart, double ball)
+{
+    if (chart.subject == ChartSubject::Colours)
+        return ColourBar(ball);
+    if (chart.subject == ChartSubject::OddAndEven)
+        return OddOrEvenBar(ball);
+    return NumberedBar(ball, chart.bars);
+}
+
+// The values stand at their bars' numbers; place 0 takes what has no bar.
+
+std::vector<int> CountDraws(const Chart& chart, SlotRange slots, RecordSet& draws)
+{
+    std::vector<int> values(static_cast<size_t>(chart.bars) + 1);
+    const auto addOne = [&values](int bar) { ++values[static_cast<size_t>(bar)]; };
+    for (draws.MoveFirst(); !draws.Eof(); draws.MoveNext()) {
+        if (chart.subject == ChartSubject::Machines)
+            addOne(MachineBar(FromUtf8(draws.Text(DrawField::Machine))));
+        else if (chart.subject == ChartSubject::BallSets)
+            addOne(NumberedBar(draws.Number(DrawField::BallSet), chart.bars));
+        else
+            for (int slot = slots.first; slot < slots.end; ++slot)
+                addOne(BallBar(chart, draws.Number(DrawField::FirstBall + slot)));
+    }
+    return values;
+}
+
+std::vector<int> CountDrawsSince(const Chart& chart, SlotRange slots, RecordSet& newestFirst)
+{
+    newestFirst.MoveFirst();
+    // A ball that never came is as old as the history is long.
+    std::vector<int> values(static_cast<size_t>(chart.bars) + 1, newestFirst.Count());
+    for (int since = 0; !newestFirst.Eof(); newestFirst.MoveNext(), ++since)
+        for (int slot = slots.first; slot < slots.end; ++slot) {
+            const int bar = NumberedBar(newestFirst.Number(DrawField::FirstBall + slot), chart.bars);
+            int& value = values[static_cast<size_t>(bar)];
+            value = std::min(value, since);
+        }
+    return values;
 }
 
 } // namespace
 
-ChartCount::ChartCount(const Chart& countedChart)
-    : chart(&countedChart), mainBalls(static_cast<size_t>(chart->bars) + 1), extraBall(mainBalls)
+std::vector<ChartBar> CountBars(const Chart& chart, BallType type)
 {
-    if (chart->subject == ChartSubject::DrawsSince) {
-        const SlotRange slots = chart->SlotsRead();
-        for (int slot : {slots.first, slots.end - 1})
-            std::fill(TallyOf(slot).begin() + 1, TallyOf(slot).end(), NotYet);
-        for (const Tally* tally : {&mainBalls, &extraBall})
-            missing += static_cast<int>(std::count(tally->begin(), tally->end(), NotYet));
-    }
-    // No two machines begin with the same letter, so that one comparison a draw tells them apart.
-    for (size_t bar = 1; bar < machines.size(); ++bar) {
-        machines.at(bar) = MachineNames.at(bar - 1).toStdString();
-        machineByLetter.at(static_cast<unsigned char>(machines.at(bar).front())) = static_cast<std::uint8_t>(bar);
-    }
-}
-
-ChartCount::Tally& ChartCount::TallyOf(int slot)
-{
-    return chart->game->IsExtra(slot) ? extraBall : mainBalls;
-}
-
-template <typename BarOf>
-void ChartCount::CountDraws(const DrawnBalls& balls, BarOf barOf)
-{
-    // Balls are first counted by their numbers, which is the quickest; only what is no ball goes to its bar at once.
-    const auto distance = static_cast<size_t>(balls.slots.Count());
-    for (int slot = balls.slots.first; slot < balls.slots.end; ++slot) {
-        std::array<int, HighestBall + 1> drawn{};
-        for (auto place = static_cast<size_t>(slot - balls.slots.first); place < balls.numbers.size();
-             place += distance)
-            ++drawn[balls.numbers[place]];
-        Tally& tally = TallyOf(slot);
-        for (int number = 1; number <= HighestBall; ++number)
-            tally[static_cast<size_t>(barOf(number))] += drawn[static_cast<size_t>(number)];
-    }
-    for (const auto& [place, value] : balls.others)
-        ++TallyOf(balls.slots.first + static_cast<int>(place % distance))[static_cast<size_t>(barOf(value))];
-}
-
-void ChartCount::CountDrawsSince(const DrawnBalls& balls)
-{
-    const int newDraws = balls.Draws();
-    for (int draw = 0; draw < newDraws && missing > 0; ++draw) {
-        for (int slot = balls.slots.first; slot < balls.slots.end; ++slot) {
-            const int number = balls.NumberAt(draw, slot);
-            int& since = TallyOf(slot)[static_cast<size_t>(number <= chart->bars ? number : 0)];
-            if (since != NotYet)
-                continue;
-            since = draws + draw;
-            --missing;
-        }
-    }
-}
-
-void ChartCount::AddDraws(const DrawnBalls& balls)
-{
-    if (chart->subject == ChartSubject::Colours)
-        CountDraws(balls, ColourBar);
-    else if (chart->subject == ChartSubject::OddAndEven)
-        CountDraws(balls, OddOrEvenBar);
-    else if (chart->subject == ChartSubject::DrawsSince)
-        CountDrawsSince(balls);
-    else
-        CountDraws(balls, [bars = chart->bars](double ball) { return NumberedBar(ball, bars); });
-    draws += balls.Draws();
-}
-
-void ChartCount::AddText(std::string_view text)
-{
-    const int bar = chart->subject == ChartSubject::Machines ? MachineBar(text) : BallSetBar(text, chart->bars);
-    ++mainBalls[static_cast<size_t>(bar)];
-    ++draws;
-}
-
-int ChartCount::MachineBar(std::string_view machine) const
-{
-    const size_t bar = machine.empty() ? 0 : machineByLetter[static_cast<unsigned char>(machine.front())];
-    return bar != 0 && machines[bar] == machine ? static_cast<int>(bar) : 0;
-}
-
-int ChartCount::Value(int bar, BallType type) const
-{
-    const int main = mainBalls[static_cast<size_t>(bar)];
-    const int extra = extraBall[static_cast<size_t>(bar)];
-    if (chart->subject != ChartSubject::DrawsSince)
-        return (type == BallType::ExtraBall ? 0 : main) + (type == BallType::MainBalls ? 0 : extra);
-    // A ball that never came is as old as the history is long.
-    return std::min({draws, type == BallType::ExtraBall ? NotYet : main, type == BallType::MainBalls ? NotYet : extra});
-}
-
-std::vector<ChartBar> ChartCount::Bars(BallType type) const
-{
+    const bool isSince = chart.subject == ChartSubject::DrawsSince;
+    RecordSet& draws = isSince ? DrawListOf(*chart.game) : DrawsOf(*chart.game);
+    const SlotRange slots = SlotsOf(*chart.game, type);
+    const std::vector<int> values = isSince ? CountDrawsSince(chart, slots, draws) : CountDraws(chart, slots, draws);
     std::vector<ChartBar> bars;
-    bars.reserve(static_cast<size_t>(chart->bars));
-    for (int bar = 1; bar <= chart->bars; ++bar)
-        bars.push_back({chart->label(bar), chart->colour(bar), Value(bar, type)});
+    if (draws.IsEmpty())
+        return bars;
+    for (int bar = 1; bar <= chart.bars; ++bar)
+        bars.push_back({chart.label(bar), chart.colour(bar), values[static_cast<size_t>(bar)]});
     return bars;
 }

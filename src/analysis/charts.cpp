@@ -69,46 +69,63 @@ BarColour AllRed(int /*bar*/)
     return BarColour::LightRed;
 }
 
-constexpr std::array<const char*, 3> DrawnAs{"as a main ball, ", "as a bonus ball, ", ""};
-constexpr std::array<const char*, 3> BallsHave{"main balls have ", "bonus ball has ", "lottery balls have "};
-constexpr std::array<const char*, 3> SinceDrawnAs{" as a main ball.", " as a bonus ball.", "."};
-constexpr std::array<const char*, 3> NoPhrases{"", "", ""};
+const std::array<QString, 3> DrawnAs{u"as a main ball, "_s, u"as a bonus ball, "_s, u""_s};
+const std::array<QString, 3> BallsHave{u"main balls have "_s, u"bonus ball has "_s, u"lottery balls have "_s};
+const std::array<QString, 3> SinceDrawnAs{u" as a main ball."_s, u" as a bonus ball."_s, u"."_s};
 
-constexpr Chart Charts[] = {
+const Chart Charts[] = {
     {1, &MainGame, ChartSubject::Balls, 49, BallType::AllBalls, true, NumberLabel, ColourOfBall,
-     "This is a bar chart, showing how many times each lottery ball has been drawn %1in the main lottery draw.",
+     u"This is a bar chart, showing how many times each lottery ball has been drawn %1in the main lottery draw."_s,
      DrawnAs},
     {2, &MainGame, ChartSubject::Colours, 5, BallType::AllBalls, true, BandLabel, ColourOfBand,
-     "This is a bar chart, showing how many times each different colour of lottery ball has been drawn %1in the main "
-     "lottery draw.",
+     u"This is a bar chart, showing how many times each different colour of lottery ball has been drawn %1in the main "
+     "lottery draw."_s,
      DrawnAs},
     {3, &MainGame, ChartSubject::OddAndEven, 2, BallType::AllBalls, true, OddOrEvenLabel, ColourOfOddOrEven,
-     "This is a bar chart, showing how many times the %1been either odd, or even, in the main lottery draw.",
+     u"This is a bar chart, showing how many times the %1been either odd, or even, in the main lottery draw."_s,
      BallsHave},
     {4, &MainGame, ChartSubject::DrawsSince, 49, BallType::AllBalls, true, NumberLabel, ColourOfBall,
-     "This is a bar chart, showing how many draws have taken place since each ball has been drawn%1", SinceDrawnAs},
+     u"This is a bar chart, showing how many draws have taken place since each ball has been drawn%1"_s, SinceDrawnAs},
     {5, &MainGame, ChartSubject::Machines, 4, BallType::AllBalls, false, MachineLabel, ColourInTurn,
-     "This is a bar chart, showing how many times each lottery machine has been used for the main draw.", NoPhrases},
+     u"This is a bar chart, showing how many times each lottery machine has been used for the main draw."_s},
     {6, &MainGame, ChartSubject::BallSets, 8, BallType::AllBalls, false, BallSetLabel, ColourInTurn,
-     "This is a bar chart, showing how many times each set of balls has been used for the main draw.", NoPhrases},
+     u"This is a bar chart, showing how many times each set of balls has been used for the main draw."_s},
     {21, &ThunderballGame, ChartSubject::Balls, 34, BallType::MainBalls, false, NumberLabel, AllBlue,
-     "This is a bar chart, showing how many times each main lottery ball has been drawn in the thunderball draw.",
-     NoPhrases},
+     u"This is a bar chart, showing how many times each main lottery ball has been drawn in the thunderball draw."_s},
     {22, &ThunderballGame, ChartSubject::DrawsSince, 34, BallType::MainBalls, false, NumberLabel, AllBlue,
-     "This is a bar chart, showing how many draws have taken place since each ball has been drawn as a main ball in "
-     "the thunderball draw.",
-     NoPhrases},
+     u"This is a bar chart, showing how many draws have taken place since each ball has been drawn as a main ball in "
+     "the thunderball draw."_s},
     {23, &ThunderballGame, ChartSubject::Balls, 14, BallType::ExtraBall, false, NumberLabel, AllRed,
-     "This is a bar chart, showing how many times each lottery ball has been drawn as the thunderball, in the "
-     "thunderball draw.",
-     NoPhrases},
+     u"This is a bar chart, showing how many times each lottery ball has been drawn as the thunderball, in the "
+     "thunderball draw."_s},
     {24, &ThunderballGame, ChartSubject::DrawsSince, 14, BallType::ExtraBall, false, NumberLabel, AllRed,
-     "This is a bar chart, showing how many draws have taken place since each ball has been drawn as a thunderball in "
-     "the thunderball draw.",
-     NoPhrases},
+     u"This is a bar chart, showing how many draws have taken place since each ball has been drawn as a thunderball in "
+     "the thunderball draw."_s},
 };
 
 } // namespace
+
+QColor FillOf(BarColour colour)
+{
+    switch (colour) {
+    case BarColour::LightBlue:
+        return {0x8C, 0xC8, 0xF5};
+    case BarColour::LightGreen:
+        return {0x8E, 0xDB, 0x9A};
+    case BarColour::LightRed:
+        return {0xF2, 0x8B, 0x82};
+    case BarColour::Yellow:
+        return {0xF5, 0xE2, 0x7A};
+    case BarColour::White:
+        break;
+    }
+    return Qt::white;
+}
+
+QColor OutlineOf(const QColor& fill)
+{
+    return fill.darker(fill.lightness() > 250 ? 170 : 145);
+}
 
 QString Chart::Title() const
 {
@@ -117,15 +134,7 @@ QString Chart::Title() const
 
 QString Chart::Description(BallType type) const
 {
-    const QString text = QLatin1String(description);
-    return hasBallTypeOption ? text.arg(QLatin1String(phrases.at(static_cast<size_t>(type)))) : text;
-}
-
-SlotRange Chart::SlotsRead() const
-{
-    if (subject == ChartSubject::Machines || subject == ChartSubject::BallSets)
-        return {};
-    return SlotsOf(*game, ballType);
+    return hasBallTypeOption ? description.arg(phrases.at(static_cast<size_t>(type))) : description;
 }
 
 std::span<const Chart> AllCharts()

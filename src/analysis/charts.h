@@ -1,7 +1,8 @@
 #pragma once
 
-#include "analysis/drawn_balls.h"
+#include "analysis/ball_type.h"
 
+#include <QColor>
 #include <QString>
 
 #include <array>
@@ -16,6 +17,12 @@ enum class BarColour
     Yellow = 14,
     White = 15
 };
+
+/// The softened colour in which bars of that palette colour are filled.
+QColor FillOf(BarColour colour);
+
+/// The line around a bar, dark enough to set a white bar off from the card.
+QColor OutlineOf(const QColor& fill);
 
 /// What the bars of a chart count.
 enum class ChartSubject
@@ -41,15 +48,11 @@ struct Chart
     QString (*label)(int bar);
     BarColour (*colour)(int bar);
     /// With a place for the phrase of the ball type, where there is one.
-    const char* description;
-    std::array<const char*, 3> phrases;
+    QString description;
+    std::array<QString, 3> phrases = {};
 
     QString Title() const;
     QString Description(BallType type) const;
-    /// The slots that the chart can ever need; none for a chart of machines or ball sets.
-    SlotRange SlotsRead() const;
-    /// Whether the draws must come newest first; in the table's own order otherwise.
-    bool NewestFirst() const { return subject == ChartSubject::DrawsSince; }
 };
 
 /// The charts of both games, in the order of their numbers.

@@ -1,7 +1,6 @@
 #include "analysis/graph_window.h"
 
 #include "analysis/bar_chart.h"
-#include "analysis/draw_history.h"
 #include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/label.h"
@@ -92,20 +91,20 @@ void GraphWindow::PrepareChart(int chartNumber)
     (hasOption ? static_cast<QWidget*>(balltype) : back)->setFocus();
     title->setText(chart->Title());
     graph->setAccessibleName(u"Bar chart, %1"_s.arg(chart->Title()));
-    count = CountChart(*chart);
     ComputeChart();
 }
 
 void GraphWindow::ComputeChart()
 {
     description->setText(chart->Description(ballType));
-    aborted = count->IsEmpty();
+    const std::vector<ChartBar> bars = CountBars(*chart, ballType);
+    aborted = bars.empty();
     if (aborted) {
         ShowMessage(u"There are no draws in the database."_s);
         reject();
         return;
     }
-    graph->ShowBars(count->Bars(ballType));
+    graph->ShowBars(bars);
 }
 
 void GraphWindow::balltype_Click(int index)

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 
 #include <QDialog>
-
-#include <optional>
 
 class BarChart;
 class Button;
@@ -33,7 +31,6 @@ private:
 
     const Chart* chart = nullptr;
     BallType ballType = BallType::AllBalls;
-    std::optional<ChartCount> count;
     bool aborted = false;
     QLabel* title;
     QLabel* description;

@@ -1,7 +1,7 @@
 #include "analysis/screen_button.h"
 
 #include "analysis/analysis_screens.h"
-#include "analysis/bar_colours.h"
+#include "analysis/charts.h"
 #include "game/ball_colours.h"
 #include "game/game.h"
 #include "look/button.h"

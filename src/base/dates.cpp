@@ -59,9 +59,10 @@ QString LongStoredDate(std::string_view iso)
     return date.isValid() ? LongDate(date) : FromUtf8(iso);
 }
 
-QString DateInWords(QDate date)
+QString StoredDateInWords(std::string_view iso)
 {
-    return English().toString(date, u"d MMMM yyyy"_s);
+    const QDate date = DateFromIso(iso);
+    return date.isValid() ? English().toString(date, u"d MMMM yyyy"_s) : FromUtf8(iso);
 }
 
 QString ShortDate(QDate date)

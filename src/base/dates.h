@@ -22,8 +22,8 @@ QString LongDate(QDate date);
 /// The same for a date as the files hold it; a text that is no date is given as it stands.
 QString LongStoredDate(std::string_view iso);
 
-/// "5 February 2000", always in English; empty for an invalid date.
-QString DateInWords(QDate date);
+/// "5 February 2000", always in English, for a date as the files hold it; a text that is no date is given as it stands.
+QString StoredDateInWords(std::string_view iso);
 
 /// The date in the desktop's own short form, with the year in four digits; empty for an invalid date.
 QString ShortDate(QDate date);

@@ -8,7 +8,7 @@
 #include "support/raw_file.h"
 
 #include "analysis/ball_data.h"
-#include "analysis/draw_history.h"
+#include "analysis/chart_count.h"
 #include "base/dates.h"
 #include "base/failure.h"
 #include "base/files.h"
@@ -219,9 +219,8 @@ void WalkGame(const Game& game)
         const DrawRow draw = ReadDraw(list, game);
         (void)(LongStoredDate(draw.date) + ShortStoredDate(draw.date));
     }
-    const DrawnBalls balls = ReadDrawnBalls(list, SlotsOf(game, BallType::AllBalls));
     for (int ball = 1; ball <= game.highestMain; ++ball)
-        (void)CountSentence(MainBallRole(game), FindBall(balls, MainBallRole(game).slots, ball).count);
+        (void)CountSentence(MainBallRole(game), FindBall(list, MainBallRole(game), ball));
     const std::vector<UserRow> people = ReadAllUsers(users);
     std::vector<CheckedUser> checked;
     checked.reserve(people.size());
@@ -261,7 +260,7 @@ int Walk()
     for (const Chart& chart : AllCharts())
         steps.emplace_back([&chart] {
             for (const BallType type : {BallType::MainBalls, BallType::ExtraBall, BallType::AllBalls})
-                (void)CountChart(chart).Bars(type);
+                (void)CountBars(chart, type);
         });
     for (const Game* game : {&MainGame, &ThunderballGame})
         steps.emplace_back([game] { WalkGame(*game); });

@@ -2,7 +2,7 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
-#include "analysis/draw_history.h"
+#include "analysis/chart_count.h"
 #include "records/compaction.h"
 
 #include <QElapsedTimer>
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(ReadUser(users).name, QString("42"));
         ukmainlist.MoveFirst();
         QCOMPARE(ukmainlist.Text(10), std::string_view("12"));
-        QCOMPARE(CountChart(FindChart(6)).Bars(BallType::AllBalls)[3].value, 2);
+        QCOMPARE(CountBars(FindChart(6), BallType::AllBalls)[3].value, 2);
     }
 
     void EngineAdmitsOnlyWhatTheProgramDoes()

@@ -1,4 +1,4 @@
-#include "analysis/drawn_balls.h"
+#include "analysis/ball_type.h"
 
 #include "game/game.h"
 

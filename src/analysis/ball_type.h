@@ -1,0 +1,20 @@
+#pragma once
+
+struct Game;
+
+/// Which balls of a draw are looked at. The values are the places in the list that the player chooses from.
+enum class BallType
+{
+    MainBalls = 0,
+    ExtraBall = 1,
+    AllBalls = 2
+};
+
+/// Some neighbouring slots of a draw: from `first` up to, but not including, `end`.
+struct SlotRange
+{
+    int first;
+    int end;
+};
+
+SlotRange SlotsOf(const Game& game, BallType type);
