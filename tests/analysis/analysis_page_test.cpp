@@ -188,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(AnalysisPageTest)
+TAVENOR_TEST(AnalysisPageTest)
 #include "analysis_page_test.moc"

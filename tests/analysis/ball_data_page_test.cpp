@@ -131,5 +131,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(BallDataPageTest)
+TAVENOR_TEST(BallDataPageTest)
 #include "ball_data_page_test.moc"

@@ -92,5 +92,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(ChartsTest)
+TAVENOR_TEST(ChartsTest)
 #include "charts_test.moc"

@@ -217,5 +217,5 @@ private:
     }
 };
 
-TAVENOR_TEST_MAIN(GraphWindowTest)
+TAVENOR_TEST(GraphWindowTest)
 #include "graph_window_test.moc"

@@ -1,8 +1,8 @@
+#include "support/run_tests.h"
+
 #include "base/dates.h"
 #include "base/numbers.h"
 #include "builder/random_source.h"
-
-#include <QTest>
 
 #include <cfloat>
 
@@ -71,5 +71,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TextRulesTest)
+TAVENOR_TEST(TextRulesTest)
 #include "text_rules_test.moc"

@@ -1,8 +1,8 @@
+#include "support/run_tests.h"
+
 #include "builder/entry_builders.h"
 
 #include "builder/random_source.h"
-
-#include <QTest>
 
 #include <algorithm>
 #include <map>
@@ -137,5 +137,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(EntryBuildersTest)
+TAVENOR_TEST(EntryBuildersTest)
 #include "entry_builders_test.moc"

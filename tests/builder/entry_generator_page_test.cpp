@@ -377,5 +377,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(EntryGeneratorPageTest)
+TAVENOR_TEST(EntryGeneratorPageTest)
 #include "entry_generator_page_test.moc"

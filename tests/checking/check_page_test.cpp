@@ -112,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(CheckPageTest)
+TAVENOR_TEST(CheckPageTest)
 #include "check_page_test.moc"

@@ -1,7 +1,8 @@
+#include "support/run_tests.h"
+
 #include "checking/check_report.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -77,5 +78,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(CheckReportTest)
+TAVENOR_TEST(CheckReportTest)
 #include "check_report_test.moc"

@@ -170,5 +170,5 @@ private:
     }
 };
 
-TAVENOR_TEST_MAIN(AddDrawPageTest)
+TAVENOR_TEST(AddDrawPageTest)
 #include "add_draw_page_test.moc"

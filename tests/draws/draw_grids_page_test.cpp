@@ -178,5 +178,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(DrawGridsPageTest)
+TAVENOR_TEST(DrawGridsPageTest)
 #include "draw_grids_page_test.moc"

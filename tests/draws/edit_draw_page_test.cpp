@@ -142,5 +142,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(EditDrawPageTest)
+TAVENOR_TEST(EditDrawPageTest)
 #include "edit_draw_page_test.moc"

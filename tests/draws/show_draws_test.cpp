@@ -124,5 +124,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(ShowDrawsTest)
+TAVENOR_TEST(ShowDrawsTest)
 #include "show_draws_test.moc"

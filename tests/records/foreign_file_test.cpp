@@ -230,5 +230,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(ForeignFileTest)
+TAVENOR_TEST(ForeignFileTest)
 #include "foreign_file_test.moc"

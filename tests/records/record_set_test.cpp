@@ -335,5 +335,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(RecordSetTest)
+TAVENOR_TEST(RecordSetTest)
 #include "record_set_test.moc"

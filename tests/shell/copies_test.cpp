@@ -134,5 +134,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(CopiesTest)
+TAVENOR_TEST(CopiesTest)
 #include "copies_test.moc"

@@ -115,5 +115,5 @@ private:
     }
 };
 
-TAVENOR_TEST_MAIN(FolderTroublesTest)
+TAVENOR_TEST(FolderTroublesTest)
 #include "folder_troubles_test.moc"

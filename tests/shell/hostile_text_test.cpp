@@ -176,5 +176,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(HostileTextTest)
+TAVENOR_TEST(HostileTextTest)
 #include "hostile_text_test.moc"

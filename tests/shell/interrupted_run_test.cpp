@@ -215,5 +215,5 @@ private:
     }
 };
 
-TAVENOR_TEST_MAIN(InterruptedRunTest)
+TAVENOR_TEST(InterruptedRunTest)
 #include "interrupted_run_test.moc"

@@ -68,6 +68,14 @@ class LookTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        // The size of most desktops, where the test's own screen has a smaller one.
+        QFont desktop = QApplication::font();
+        desktop.setPointSizeF(qEnvironmentVariableIsSet("LARGER_FONT") ? 10.5 * 1.5 : 10.5);
+        QApplication::setFont(desktop);
+    }
+
     void cleanup() { SetAppearance(Appearance::FromDesktop); }
 
     void APlantedFaultIsFound()
@@ -182,15 +190,5 @@ private:
     }
 };
 
-int main(int count, char** arguments)
-{
-    QApplication application(count, arguments);
-    // The size of most desktops, where the test's own screen has a smaller one.
-    QFont desktop = QApplication::font();
-    desktop.setPointSizeF(qEnvironmentVariableIsSet("LARGER_FONT") ? 10.5 * 1.5 : 10.5);
-    QApplication::setFont(desktop);
-    LookTest tests;
-    return RunTests(tests, count, arguments);
-}
-
+TAVENOR_TEST(LookTest)
 #include "look_test.moc"

@@ -261,5 +261,5 @@ private:
     }
 };
 
-TAVENOR_TEST_MAIN(MainWindowTest)
+TAVENOR_TEST(MainWindowTest)
 #include "main_window_test.moc"

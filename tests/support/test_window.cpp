@@ -1,6 +1,5 @@
 #include "support/test_window.h"
 
-#include "look/style.h"
 #include "records/database_creation.h"
 #include "utilities/shut_down.h"
 
@@ -290,10 +289,4 @@ QString TestWindow::ColoursOf(const QString& array, const QString& elements, QPa
 void PressIn(const QDialog& dialog, const QString& name)
 {
     QTest::mouseClick(dialog.findChild<QWidget*>(name), Qt::LeftButton);
-}
-
-int RunTests(QObject& tests, int count, char** arguments)
-{
-    QApplication::setStyle(new Style);
-    return QTest::qExec(&tests, count, arguments);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/run_tests.h"
 #include "support/stored_draws.h"
 
 #include "shell/main_window.h"
@@ -157,14 +158,3 @@ private:
 
 /// Clicks a control of a dialog.
 void PressIn(const QDialog& dialog, const QString& name);
-
-/// Sets up the application as the program does, and runs the tests of one class.
-int RunTests(QObject& tests, int count, char** arguments);
-
-#define TAVENOR_TEST_MAIN(TestClass)                                                                                   \
-    int main(int count, char** arguments)                                                                              \
-    {                                                                                                                  \
-        QApplication application(count, arguments);                                                                    \
-        TestClass tests;                                                                                               \
-        return RunTests(tests, count, arguments);                                                                      \
-    }

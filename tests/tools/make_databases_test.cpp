@@ -83,5 +83,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(MakeDatabasesTest)
+TAVENOR_TEST(MakeDatabasesTest)
 #include "make_databases_test.moc"

@@ -196,5 +196,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(AddEntriesPageTest)
+TAVENOR_TEST(AddEntriesPageTest)
 #include "add_entries_page_test.moc"

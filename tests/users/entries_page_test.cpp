@@ -234,5 +234,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(EntriesPageTest)
+TAVENOR_TEST(EntriesPageTest)
 #include "entries_page_test.moc"

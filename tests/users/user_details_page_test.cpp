@@ -215,5 +215,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(UserDetailsPageTest)
+TAVENOR_TEST(UserDetailsPageTest)
 #include "user_details_page_test.moc"

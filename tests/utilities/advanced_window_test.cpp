@@ -319,14 +319,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int count, char** arguments)
-{
-    const QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-        qunsetenv(folder);
-    QApplication application(count, arguments);
-    AdvancedWindowTest tests;
-    return RunTests(tests, count, arguments);
-}
+TAVENOR_TEST(AdvancedWindowTest)
 #include "advanced_window_test.moc"

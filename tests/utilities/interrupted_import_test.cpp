@@ -96,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(InterruptedImportTest)
+TAVENOR_TEST(InterruptedImportTest)
 #include "interrupted_import_test.moc"

@@ -145,5 +145,5 @@ private Q_SLOTS:
     }
 };
 
-TAVENOR_TEST_MAIN(LinksPageTest)
+TAVENOR_TEST(LinksPageTest)
 #include "links_page_test.moc"
