@@ -5,6 +5,7 @@
 #include "records/record_set.h"
 #include "store/draw_records.h"
 #include "store/draw_tables.h"
+#include "store/link_table.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
 #include "store/user_tables.h"

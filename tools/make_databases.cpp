@@ -14,6 +14,7 @@
 #include "records/record_set.h"
 #include "store/draw_records.h"
 #include "store/draw_tables.h"
+#include "store/link_table.h"
 #include "store/open_databases.h"
 #include "store/user_tables.h"
 
@@ -71,7 +72,7 @@ EnteredDraw ReadDrawn(const CsvRow& row, const Game& game)
         if (!whole)
             Refuse(row.place, row.fields[slot + 1] + " is not a ball");
     }
-    if (!IsPossibleDraw(game, std::span(draw.balls).first(static_cast<size_t>(game.BallCount()))))
+    if (!IsPossibleDraw(game, draw.balls))
         Refuse(row.place, "a ball is out of range or stands twice");
     if (!std::is_sorted(draw.balls.begin(), draw.balls.begin() + game.mainBalls))
         Refuse(row.place, "the main balls are not in ascending order");

@@ -73,12 +73,19 @@ double BallFields::NumberIn(int slot) const
     return NumericValue(Text(slot));
 }
 
-std::vector<double> BallFields::Numbers() const
+DrawBalls BallFields::TypedDraw() const
 {
-    std::vector<double> numbers;
-    numbers.reserve(fields.size());
+    DrawBalls balls{};
     for (int slot = 0; slot < Count(); ++slot)
-        numbers.push_back(NumberIn(slot));
+        balls.at(static_cast<size_t>(slot)) = NumberIn(slot);
+    return balls;
+}
+
+EntryNumbers BallFields::TypedEntry() const
+{
+    EntryNumbers numbers{};
+    for (int slot = 0; slot < Count(); ++slot)
+        numbers.at(static_cast<size_t>(slot)) = NumberIn(slot);
     return numbers;
 }
 

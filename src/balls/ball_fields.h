@@ -1,6 +1,8 @@
 #pragma once
 
 #include "game/ball_field_rules.h"
+#include "game/draw_row.h"
+#include "game/entry_row.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -34,14 +36,15 @@ public:
 
     /// The rule by which a field is checked. It may be changed at any time.
     void SetRule(const BallFieldRule& fieldRule) { rule = fieldRule; }
-    const BallFieldRule& Rule() const { return rule; }
 
     int Count() const { return static_cast<int>(fields.size()); }
     QString Text(int slot) const;
     void SetText(int slot, const QString& text);
+    /// The numeric value of what stands in a field.
     double NumberIn(int slot) const;
-    /// The numeric values of all fields, in slot order.
-    std::vector<double> Numbers() const;
+    /// The numeric values of all fields, as the balls of a draw or the numbers of an entry.
+    DrawBalls TypedDraw() const;
+    EntryNumbers TypedEntry() const;
 
     /// Puts the texts of the first `count` fields into ascending order of their values.
     void Sort(int count);

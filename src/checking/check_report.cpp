@@ -29,7 +29,7 @@ const GameWords ThunderballWords{"Thunderball"_L1, " + thunderball. "_L1, "  No 
 
 const GameWords& WordsOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? MainWords : ThunderballWords;
+    return game.IsMain() ? MainWords : ThunderballWords;
 }
 
 /// The entries that a section checks, by user, as indexes in their stored order.
@@ -113,7 +113,7 @@ bool IsWin(const Game& game, const EntryResult& result)
 {
     if (result.mainMatches >= 3)
         return true;
-    return game.drawType == ThunderballGame.drawType && result.mainMatches >= 1 && result.extraMatched;
+    return !game.IsMain() && result.mainMatches >= 1 && result.extraMatched;
 }
 
 CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const CheckedGame> games,

@@ -14,7 +14,7 @@
 struct CheckedDraw
 {
     QDate date;
-    std::array<double, 7> balls{};
+    DrawBalls balls{};
 };
 
 /// The user of one block of the report.

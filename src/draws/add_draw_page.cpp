@@ -10,14 +10,13 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
+#include "store/draw_changes.h"
 #include "store/open_databases.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +45,7 @@ constexpr PageTexts ThunderballTexts{
 
 const PageTexts& TextsOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? MainTexts : ThunderballTexts;
+    return game.IsMain() ? MainTexts : ThunderballTexts;
 }
 
 QString ControlName(const Game& game, const char* name)
@@ -115,7 +114,7 @@ void AddDrawPage::Prepare()
 
 void AddDrawPage::Store_Click()
 {
-    if (!BallsAreValid()) {
+    if (!IsPossibleDraw(game, balls->TypedDraw())) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Store' again."_s);
         return;
@@ -126,22 +125,15 @@ void AddDrawPage::Store_Click()
         ShowMessage(u"The data has NOT been stored."_s);
         return;
     }
-    DrawListOf(game).Requery();
     Prepare();
     ShowMessage(QLatin1String(TextsOf(game).stored));
-}
-
-bool AddDrawPage::BallsAreValid() const
-{
-    return IsPossibleDraw(game, balls->Numbers());
 }
 
 EnteredDraw AddDrawPage::ReadControls() const
 {
     EnteredDraw draw;
     draw.date = calendar->selectedDate();
-    const std::vector<double> numbers = balls->Numbers();
-    std::copy(numbers.begin(), numbers.end(), draw.balls.begin());
+    draw.balls = balls->TypedDraw();
     if (game.hasMachine) {
         draw.machine = machine->currentText();
         draw.ballSet = ballSet->currentText();
@@ -151,20 +143,22 @@ EnteredDraw AddDrawPage::ReadControls() const
 
 bool AddDrawPage::StoreDraw(const EnteredDraw& draw)
 {
-    RecordSet& table = DrawsOf(game);
     auto choice = DrawPromptChoice::AddNewDraw;
-    if (FindDrawByDate(table, draw.date)) {
+    if (FindDrawByDate(DrawsOf(game), draw.date)) {
         DrawPrompt frmmsgbox1(QLatin1String(TextsOf(game).gameInQuestion), this);
         frmmsgbox1.exec();
         choice = frmmsgbox1.MsgBoxChoice();
     }
-    if (choice == DrawPromptChoice::Cancel || choice == DrawPromptChoice::None)
-        return false;
-    Transaction transaction(DrawDb, "The draw could not be stored");
-    if (choice == DrawPromptChoice::OverwriteExistingDraw && FindDrawByDate(table, draw.date))
-        OverwriteDraw(table, game, draw);
-    else
-        AddDraw(table, game, draw);
-    transaction.Commit();
-    return true;
+    switch (choice) {
+    case DrawPromptChoice::AddNewDraw:
+        StoreNewDraw(game, draw);
+        return true;
+    case DrawPromptChoice::OverwriteExistingDraw:
+        OverwriteDrawOfDate(game, draw);
+        return true;
+    case DrawPromptChoice::Cancel:
+    case DrawPromptChoice::None:
+        break;
+    }
+    return false;
 }

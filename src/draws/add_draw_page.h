@@ -25,7 +25,6 @@ private:
     void BuildCards();
     /// F6Store_Click, F7Store_Click.
     void Store_Click();
-    bool BallsAreValid() const;
     EnteredDraw ReadControls() const;
     /// Stores the draw as a new row, or over the row of the same date when the player wants that; false on Cancel.
     bool StoreDraw(const EnteredDraw& draw);

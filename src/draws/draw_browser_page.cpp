@@ -20,11 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool IsMain(const Game& game)
-{
-    return game.drawType == MainGame.drawType;
-}
-
 QString ControlName(const Game& game, const char* name)
 {
     return u"F9%1%2"_s.arg(game.name.at(0)).arg(QLatin1String(name));
@@ -69,7 +64,7 @@ BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
 void BrowserSection::AddArrows()
 {
     auto* heading = new QHBoxLayout;
-    heading->addWidget(MakeLabel(IsMain(game) ? u"Main Draw"_s : u"Thunderball Draw"_s, TextRole::Heading,
+    heading->addWidget(MakeLabel(game.IsMain() ? u"Main Draw"_s : u"Thunderball Draw"_s, TextRole::Heading,
                                  ControlName(game, "labelmain")),
                        1);
     for (Button* arrow : {back, forward}) {

@@ -16,12 +16,12 @@ namespace {
 
 int PageOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? 14 : 15;
+    return game.IsMain() ? 14 : 15;
 }
 
 QString TitleOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? u"Main Lottery Draw"_s : u"Thunderball Draw"_s;
+    return game.IsMain() ? u"Main Lottery Draw"_s : u"Thunderball Draw"_s;
 }
 
 QString ControlName(const Game& game, const char* name)

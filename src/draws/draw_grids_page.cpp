@@ -9,7 +9,7 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
-#include "store/draw_records.h"
+#include "store/draw_changes.h"
 #include "store/open_databases.h"
 
 #include <QHBoxLayout>
@@ -38,7 +38,7 @@ constexpr SectionTexts ThunderballTexts{
 
 const SectionTexts& TextsOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? MainTexts : ThunderballTexts;
+    return game.IsMain() ? MainTexts : ThunderballTexts;
 }
 
 } // namespace
@@ -137,7 +137,6 @@ void DrawGridSection::Delete_Click()
         return;
     }
     DeleteSelectedDraws();
-    DrawListOf(game).Requery();
     Fill();
     ShowMessage(u"Deleted"_s);
 }
@@ -148,10 +147,7 @@ void DrawGridSection::DeleteSelectedDraws()
     const GridView::RowSpan rows = grid->SelectedRows();
     for (int row = rows.first; row <= rows.last; ++row)
         numbers.push_back(model->NumberOf(row));
-    Transaction transaction(DrawDb,
-                            rows.Count() == 1 ? "The draw could not be deleted" : "The draws could not be deleted");
-    DeleteRecords(DrawsOf(game), numbers);
-    transaction.Commit();
+    DeleteDraws(game, numbers);
 }
 
 DrawGridsPage::DrawGridsPage(PageSwitch& pages)

@@ -12,12 +12,10 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
-#include "store/draw_records.h"
+#include "store/draw_changes.h"
 #include "store/open_databases.h"
 
 #include <QGridLayout>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +37,7 @@ constexpr int AllDrawsPage = 10;
 
 const PageTexts& TextsOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? MainTexts : ThunderballTexts;
+    return game.IsMain() ? MainTexts : ThunderballTexts;
 }
 
 QString ControlName(const Game& game, const char* name)
@@ -120,7 +118,7 @@ void EditDrawPage::Back_Click()
 
 void EditDrawPage::Save_Click()
 {
-    if (!IsPossibleDraw(game, balls->Numbers())) {
+    if (!IsPossibleDraw(game, balls->TypedDraw())) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Save Changes' again."_s);
         return;
@@ -131,8 +129,7 @@ void EditDrawPage::Save_Click()
     }
     balls->Sort(game.mainBalls);
     balls->Recolour();
-    StoreChanges();
-    DrawListOf(game).Requery();
+    ChangeDraw(game, drawId, ReadControls());
     ShowMessage(QLatin1String(TextsOf(game).stored));
     hide();
     pages.Page(AllDrawsPage)->hide();
@@ -142,21 +139,10 @@ void EditDrawPage::Save_Click()
 EnteredDraw EditDrawPage::ReadControls() const
 {
     EnteredDraw draw;
-    const std::vector<double> numbers = balls->Numbers();
-    std::copy(numbers.begin(), numbers.end(), draw.balls.begin());
+    draw.balls = balls->TypedDraw();
     if (game.hasMachine) {
         draw.machine = machine->currentText();
         draw.ballSet = ballSet->currentText();
     }
     return draw;
-}
-
-void EditDrawPage::StoreChanges()
-{
-    RecordSet& table = DrawsOf(game);
-    const std::string doing = "The draw could not be changed";
-    Transaction transaction(DrawDb, doing);
-    MoveToDraw(table, drawId, doing);
-    OverwriteDraw(table, game, ReadControls());
-    transaction.Commit();
 }

@@ -33,7 +33,6 @@ private:
     /// F16back_Click, F17back_Click.
     void Back_Click();
     EnteredDraw ReadControls() const;
-    void StoreChanges();
 
     const Game& game;
     PageSwitch& pages;

@@ -46,7 +46,7 @@ const SectionTexts& TextsOf(const Game& game)
                                                "Label5",
                                                "There are no thunderball draws stored.",
                                                {u"F8Tdate"_s, u"F8Tnumber"_s, u"F8Tball"_s, {}, {}, {}}};
-    return game.drawType == MainGame.drawType ? mainTexts : thunderballTexts;
+    return game.IsMain() ? mainTexts : thunderballTexts;
 }
 
 } // namespace

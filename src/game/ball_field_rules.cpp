@@ -16,11 +16,6 @@ const BallFieldRule EditingThunderball{&ThunderballGame, u"Balls must be between
 const BallFieldRule EditingThunderballEntry{&ThunderballGame, u"Main ball values must be between 1 and 34"_s,
                                             u"Main ball values must be between 1 and 14"_s, false};
 
-bool IsMain(const Game& game)
-{
-    return game.drawType == MainGame.drawType;
-}
-
 BallColours ColoursOfEmptyField(const BallFieldRule& rule, int slot)
 {
     return rule.coloursAreFixed ? ColoursOfBall(*rule.game, slot, 0) : EmptyBallColours;
@@ -36,17 +31,17 @@ bool IsInRange(const BallFieldRule& rule, int slot, double value)
 
 const BallFieldRule& AddingRule(const Game& game)
 {
-    return IsMain(game) ? AddingMain : AddingThunderball;
+    return game.IsMain() ? AddingMain : AddingThunderball;
 }
 
 const BallFieldRule& DrawEditingRule(const Game& game)
 {
-    return IsMain(game) ? AddingMain : EditingThunderball;
+    return game.IsMain() ? AddingMain : EditingThunderball;
 }
 
 const BallFieldRule& EntryEditingRule(const Game& game)
 {
-    return IsMain(game) ? AddingMain : EditingThunderballEntry;
+    return game.IsMain() ? AddingMain : EditingThunderballEntry;
 }
 
 BallFieldVerdict CheckBallField(const BallFieldRule& rule, int slot, const QString& text)

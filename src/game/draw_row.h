@@ -4,8 +4,11 @@
 #include <cstdint>
 #include <string_view>
 
-class RecordSet;
-struct Game;
+/// The most balls that a draw of either game has.
+inline constexpr int MostBalls = 7;
+
+/// The balls of a draw in slot order; where there is none, 0.
+using DrawBalls = std::array<double, MostBalls>;
 
 /// One stored draw as the rules read it. Texts live until the record set's rows change.
 struct DrawRow
@@ -14,8 +17,7 @@ struct DrawRow
     /// YYYY-MM-DD.
     std::string_view date;
     std::string_view day;
-    /// In slot order; a field without a number is 0.
-    std::array<double, 7> balls{};
+    DrawBalls balls{};
     /// Empty in the Thunderball game.
     std::string_view machine;
     std::string_view ballSet;

@@ -3,8 +3,16 @@
 #include <array>
 #include <cstdint>
 
-/// The seven days of the week, indexed 0 to 6 = Monday to Sunday.
-using DaySet = std::array<bool, 7>;
+inline constexpr int DaysOfWeek = 7;
+
+/// The days on which an entry is played, indexed 0 to 6 = Monday to Sunday.
+using DaySet = std::array<bool, DaysOfWeek>;
+
+/// How many numbers an entry of either game has.
+inline constexpr int EntryBalls = 6;
+
+/// Six main balls, or five main balls and a thunderball; where there is none, 0.
+using EntryNumbers = std::array<double, EntryBalls>;
 
 /// One stored entry as the rules read it.
 struct EntryRow
@@ -13,6 +21,6 @@ struct EntryRow
     std::int64_t userId = 0;
     /// 1 for the Main game, 2 for the Thunderball game.
     int drawType = 0;
-    std::array<double, 6> numbers{};
+    EntryNumbers numbers{};
     DaySet days{};
 };

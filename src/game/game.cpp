@@ -2,6 +2,8 @@
 
 #include "base/numbers.h"
 
+#include <span>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,25 +28,26 @@ const Game ThunderballGame{2, u"Thunderball"_s, u"Thunderball"_s, 5, 34, 14, fal
 const std::array<QString, 4> MachineNames{u"ARTHUR"_s, u"GUINEVERE"_s, u"LANCELOT"_s, u"MERLIN"_s};
 const std::array<QString, 8> BallSetNames{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s};
 
+const Game& GameOfDrawType(int drawType)
+{
+    return drawType == MainGame.drawType ? MainGame : ThunderballGame;
+}
+
 QString Game::BallCaption(int slot) const
 {
     return IsExtra(slot) ? extraBallName : u"Ball %1"_s.arg(slot + 1);
 }
 
-bool IsPossibleDraw(const Game& game, std::span<const double> balls)
-{
-    if (balls.size() != static_cast<size_t>(game.BallCount()))
-        return false;
-    if (game.extraFromSameMachine)
-        return AreDifferentWholeNumbers(balls, game.highestMain);
-    return AreDifferentWholeNumbers(balls.first(balls.size() - 1), game.highestMain) &&
-           IsWholeBetween(balls.back(), 1, game.highestExtra);
-}
-
-bool IsPossibleEntry(const Game& game, std::span<const double> numbers)
+bool IsPossibleDraw(const Game& game, const DrawBalls& balls)
 {
     const auto mainBalls = static_cast<size_t>(game.mainBalls);
-    if (numbers.size() != 6 || !AreDifferentWholeNumbers(numbers.first(mainBalls), game.highestMain))
-        return false;
-    return numbers.size() == mainBalls || IsWholeBetween(numbers.back(), 1, game.highestExtra);
+    const size_t different = game.extraFromSameMachine ? mainBalls + 1 : mainBalls;
+    return AreDifferentWholeNumbers(std::span(balls).first(different), game.highestMain) &&
+           IsWholeBetween(balls.at(mainBalls), 1, game.highestExtra);
+}
+
+bool IsPossibleEntry(const Game& game, const EntryNumbers& numbers)
+{
+    return AreDifferentWholeNumbers(std::span(numbers).first(static_cast<size_t>(game.mainBalls)), game.highestMain) &&
+           (game.IsMain() || IsWholeBetween(numbers.back(), 1, game.highestExtra));
 }

@@ -35,8 +35,8 @@ void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing);
 struct EnteredDraw
 {
     QDate date;
-    /// In slot order, main balls ascending.
-    std::array<double, 7> balls{};
+    /// Main balls ascending.
+    DrawBalls balls{};
     QString machine;
     QString ballSet;
 };

@@ -41,24 +41,12 @@ const TableLayout& DrawTable(const Game& game)
                                                {"Ball5", "INTEGER"},
                                                {"Thunderball", "INTEGER"}},
                                               {}};
-    return game.drawType == MainGame.drawType ? mainDraws : thunderballDraws;
+    return game.IsMain() ? mainDraws : thunderballDraws;
 }
 
 const TableLayout& DrawList(const Game& game)
 {
     static const TableLayout mainList = ListOf(DrawTable(MainGame));
     static const TableLayout thunderballList = ListOf(DrawTable(ThunderballGame));
-    return game.drawType == MainGame.drawType ? mainList : thunderballList;
-}
-
-const TableLayout& LinksTable()
-{
-    static const TableLayout links{"links",
-                                   {{"SiteName", "TEXT"},
-                                    {"WebAddress", "TEXT"},
-                                    {"MailAddress", "TEXT"},
-                                    {"Description1", "TEXT"},
-                                    {"Description2", "TEXT"}},
-                                   {}};
-    return links;
+    return game.IsMain() ? mainList : thunderballList;
 }

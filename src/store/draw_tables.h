@@ -8,9 +8,6 @@ struct Game;
 const TableLayout& DrawTable(const Game& game);
 const TableLayout& DrawList(const Game& game);
 
-/// The table of web links, which lies in the same file.
-const TableLayout& LinksTable();
-
 namespace DrawField {
 inline constexpr int DrawId = 0;
 inline constexpr int Date = 1;

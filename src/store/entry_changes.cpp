@@ -2,18 +2,18 @@
 
 #include "base/failure.h"
 #include "game/game.h"
+#include "records/record_numbers.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
 
 namespace {
 
-const char* const Storing = "The entries could not be stored";
+const std::string StoringBatch = "The entries could not be stored";
 
-/// Moves to the user and reads it.
 UserRow FindOwner(const QString& userName)
 {
     if (!FindUserByName(users, userName))
-        throw Failure(Storing, "there is no user of this name any more", userName.toStdString());
+        throw Failure(StoringBatch, "there is no user of this name any more", userName.toStdString());
     return ReadUser(users);
 }
 
@@ -25,11 +25,43 @@ void MakeRoom(const UserRow& owner, int more, RaiseLimit raise)
     if (MayStoreEntries(count, more, owner.spendLimit))
         return;
     if (raise == RaiseLimit::No)
-        throw Failure(Storing, "the user's spend limit no longer allows them", "changed by another copy");
+        throw Failure(StoringBatch, "the user's spend limit no longer allows them", "changed by another copy");
     ChangeUser(users, owner.name, count + more);
 }
 
 } // namespace
+
+void StoreEntry(EntryRow entry)
+{
+    const std::string doing = "The entry could not be stored";
+    Transaction transaction(UserDb, doing);
+    // Another copy of the program may have changed the user or its entries since the user was chosen.
+    if (!FindUserByNumber(users, entry.userId))
+        throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
+    if (!MayStoreEntries(CountEntries(entries, entry.userId), 1, ReadUser(users).spendLimit))
+        throw Failure(doing, "the user's spend limit no longer allows it", "changed by another copy");
+    entry.number = entries.NextNumber();
+    AddEntry(entries, entry);
+    transaction.Commit();
+}
+
+void StoreEntryChanges(std::int64_t entryId, const EntryNumbers& numbers, const DaySet& days)
+{
+    const std::string doing = "The changes could not be stored";
+    Transaction transaction(UserDb, doing);
+    if (!FindRecord(entries, entryId))
+        throw Failure(doing, "another copy of the program has deleted the entry meanwhile",
+                      "no entry of number " + std::to_string(entryId));
+    ChangeEntry(entries, numbers, days);
+    transaction.Commit();
+}
+
+void DeleteEntries(const std::vector<std::int64_t>& entryIds)
+{
+    Transaction transaction(UserDb, "The entries could not be deleted");
+    DeleteRecords(entries, entryIds);
+    transaction.Commit();
+}
 
 bool ExceedsSpendLimit(const QString& userName, int more)
 {
@@ -41,7 +73,7 @@ void StoreEntriesOfUser(const QString& userName, const std::vector<EntryRow>& bu
                         RaiseLimit raise)
 {
     try {
-        Transaction transaction(UserDb, Storing);
+        Transaction transaction(UserDb, StoringBatch);
         const UserRow owner = FindOwner(userName);
         MakeRoom(owner, static_cast<int>(built.size()), raise);
         std::int64_t number = entries.NextNumber();
@@ -54,6 +86,6 @@ void StoreEntriesOfUser(const QString& userName, const std::vector<EntryRow>& bu
         }
         transaction.Commit();
     } catch (const Failure& failure) {
-        throw failure.During(Storing);
+        throw failure.During(StoringBatch);
     }
 }

@@ -4,22 +4,35 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <vector>
 
-// What the entry generator stores for the user of a name: the first one who has exactly this name.
+// Every change of the stored entries. Each function is one transaction, on disk when the function returns. All throw
+// Failure, and nothing has been changed then.
 
-/// What a batch of `more` entries needs from the user's spend limit.
+/// Stores an entry under the next number for the user whose number it carries. Fails where the user is gone or is up to
+/// the spend limit by now.
+void StoreEntry(EntryRow entry);
+
+/// Writes numbers and days over the entry of this number. Fails where there is none any more.
+void StoreEntryChanges(std::int64_t entryId, const EntryNumbers& numbers, const DaySet& days);
+
+/// Deletes the entries of these numbers. One that is gone already is no failure.
+void DeleteEntries(const std::vector<std::int64_t>& entryIds);
+
+/// Whether the first user of exactly this name would have more entries than its spend limit allows, if it had `more` of
+/// them. Throws Failure where there is no such user.
 bool ExceedsSpendLimit(const QString& userName, int more);
 
-/// Whether the user's limit may be raised for the batch.
+/// Whether a user's limit may be raised for a batch of entries.
 enum class RaiseLimit
 {
     No,
     Yes
 };
 
-/// Stores the numbers of the built rows, in their order, as the user's Main entries that are played on the given days.
-/// Where they do not fit under the limit and it may be raised, it becomes exactly what they need. All of this is
-/// stored, or none of it. Throws Failure: there is no such user, the limit may not be raised, the file.
+/// Stores the numbers of the built rows, in their order, as Main entries of the first user of exactly this name, played
+/// on the given days. Where they do not fit under the limit and it may be raised, it becomes exactly what they need.
+/// Fails where there is no such user, or the limit may not be raised.
 void StoreEntriesOfUser(const QString& userName, const std::vector<EntryRow>& built, const DaySet& days,
                         RaiseLimit raise);

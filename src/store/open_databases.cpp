@@ -5,6 +5,7 @@
 #include "records/held_file.h"
 #include "records/key_store.h"
 #include "store/draw_tables.h"
+#include "store/link_table.h"
 #include "store/user_tables.h"
 
 #include <QStringList>
@@ -49,12 +50,12 @@ QString CloseAndCompactFile(Database& database, const std::filesystem::path& liv
 
 RecordSet& DrawsOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? ukmain : ukthunder;
+    return game.IsMain() ? ukmain : ukthunder;
 }
 
 RecordSet& DrawListOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? ukmainlist : ukthunderlist;
+    return game.IsMain() ? ukmainlist : ukthunderlist;
 }
 
 void SetProgramDir(const std::filesystem::path& folder)

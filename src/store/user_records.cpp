@@ -1,17 +1,12 @@
 #include "store/user_records.h"
 
+#include "base/texts.h"
 #include "records/record_set.h"
 #include "store/user_tables.h"
 
 #include <cmath>
 
 namespace {
-
-QString FieldText(const RecordSet& set, int position)
-{
-    const std::string_view text = set.Text(position);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::int64_t WholeField(const RecordSet& set, int position)
 {
@@ -22,7 +17,7 @@ std::int64_t WholeField(const RecordSet& set, int position)
 
 void ReadNumbers(const RecordSet& entries, EntryRow& row)
 {
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < EntryBalls; ++i)
         row.numbers[static_cast<size_t>(i)] = entries.Number(EntryField::FirstBall + i);
 }
 
@@ -34,11 +29,11 @@ void SetUser(RecordSet& users, const QString& name, double spendLimit)
     users.Update();
 }
 
-void SetNumbersAndDays(RecordSet& entries, const std::array<double, 6>& numbers, const DaySet& days)
+void SetNumbersAndDays(RecordSet& entries, const EntryNumbers& numbers, const DaySet& days)
 {
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < EntryBalls; ++i)
         entries.SetField(EntryField::FirstBall + i, NumberField(numbers.at(static_cast<size_t>(i))));
-    for (int day = 0; day < 7; ++day)
+    for (int day = 0; day < DaysOfWeek; ++day)
         entries.SetField(EntryField::Monday + day, FlagField(days.at(static_cast<size_t>(day))));
     entries.Update();
 }
@@ -47,7 +42,7 @@ void SetNumbersAndDays(RecordSet& entries, const std::array<double, 6>& numbers,
 
 UserRow ReadUser(const RecordSet& users)
 {
-    return {WholeField(users, UserField::UserId), FieldText(users, UserField::UserName),
+    return {WholeField(users, UserField::UserId), FromUtf8(users.Text(UserField::UserName)),
             users.Number(UserField::SpendLimit)};
 }
 
@@ -58,7 +53,7 @@ EntryRow ReadEntry(const RecordSet& entries)
     row.userId = WholeField(entries, EntryField::UserId);
     row.drawType = static_cast<int>(WholeField(entries, EntryField::DrawType));
     ReadNumbers(entries, row);
-    for (int day = 0; day < 7; ++day)
+    for (int day = 0; day < DaysOfWeek; ++day)
         row.days.at(static_cast<size_t>(day)) = entries.Flag(EntryField::Monday + day);
     return row;
 }
@@ -102,7 +97,7 @@ std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int
 bool FindUserByName(RecordSet& users, const QString& name)
 {
     for (users.MoveFirst(); !users.Eof(); users.MoveNext())
-        if (FieldText(users, UserField::UserName) == name)
+        if (FromUtf8(users.Text(UserField::UserName)) == name)
             return true;
     return false;
 }
@@ -152,7 +147,7 @@ void AddEntry(RecordSet& entries, const EntryRow& entry)
     SetNumbersAndDays(entries, entry.numbers, entry.days);
 }
 
-void ChangeEntry(RecordSet& entries, const std::array<double, 6>& numbers, const DaySet& days)
+void ChangeEntry(RecordSet& entries, const EntryNumbers& numbers, const DaySet& days)
 {
     entries.Edit();
     SetNumbersAndDays(entries, numbers, days);

@@ -13,16 +13,14 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
+#include "store/entry_changes.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
-#include "store/user_tables.h"
 #include "users/day_boxes.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -198,7 +196,7 @@ void AddEntriesPage::F18store_Click()
                     u"Go to 'User Details' to change the spend limit, or choose another user."_s);
         return;
     }
-    if (!IsPossibleEntry(ChosenGame(), F18ent->Numbers())) {
+    if (!IsPossibleEntry(ChosenGame(), F18ent->TypedEntry())) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Store' again."_s);
         return;
@@ -222,16 +220,6 @@ void AddEntriesPage::StoreEntry()
     entry.userId = selectedUserNumber;
     entry.drawType = ChosenGame().drawType;
     entry.days = F18day->Days();
-    const std::vector<double> numbers = F18ent->Numbers();
-    std::copy(numbers.begin(), numbers.end(), entry.numbers.begin());
-    const std::string doing = "The entry could not be stored";
-    Transaction transaction(UserDb, doing);
-    // Another copy of the program may have changed the user or its entries since the user was chosen.
-    if (!FindUserByNumber(users, selectedUserNumber))
-        throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
-    if (CountEntries(entries, selectedUserNumber) >= users.Number(UserField::SpendLimit))
-        throw Failure(doing, "the user's spend limit no longer allows it", "changed by another copy");
-    entry.number = entries.NextNumber();
-    AddEntry(entries, entry);
-    transaction.Commit();
+    entry.numbers = F18ent->TypedEntry();
+    ::StoreEntry(entry);
 }

@@ -9,6 +9,7 @@
 #include "look/button.h"
 #include "look/theme.h"
 #include "records/record_numbers.h"
+#include "store/entry_changes.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
 #include "users/entry_grid_model.h"
@@ -176,8 +177,6 @@ void EntriesPage::F13delete_Click()
     std::vector<std::int64_t> numbers;
     for (int row = rows.first; row <= rows.last; ++row)
         numbers.push_back(model->NumberOf(row));
-    Transaction transaction(UserDb, "The entries could not be deleted");
-    DeleteRecords(entries, numbers);
-    transaction.Commit();
+    DeleteEntries(numbers);
     FillEntriesGrid();
 }

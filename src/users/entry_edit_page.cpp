@@ -2,21 +2,18 @@
 
 #include "balls/ball_edit.h"
 #include "balls/ball_fields.h"
-#include "base/failure.h"
 #include "base/numbers.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "game/game.h"
 #include "look/button.h"
-#include "records/record_numbers.h"
+#include "store/entry_changes.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
 #include "users/day_boxes.h"
 #include "users/entry_head.h"
 
 #include <QPushButton>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -48,7 +45,7 @@ EntryEditPage::EntryEditPage()
 void EntryEditPage::Prepare()
 {
     const EntryRow entry = ReadEntry(entries);
-    const Game& game = entry.drawType == MainGame.drawType ? MainGame : ThunderballGame;
+    const Game& game = GameOfDrawType(entry.drawType);
     const bool isMain = &game == &MainGame;
     entryId = entry.number;
     head->Show(ReadUser(users).name, game);
@@ -83,24 +80,10 @@ void EntryEditPage::F20store_Click()
         ShowMessage(first + Crlf + u"please retry."_s);
         return;
     }
-    StoreChanges();
+    StoreEntryChanges(entryId, F20num->TypedEntry(), F20day->Days());
     Q_EMIT Stored();
     ShowMessage(u"The changes have been stored."_s);
     hide();
-}
-
-void EntryEditPage::StoreChanges()
-{
-    const std::string doing = "The changes could not be stored";
-    const std::vector<double> typed = F20num->Numbers();
-    std::array<double, 6> numbers{};
-    std::copy(typed.begin(), typed.end(), numbers.begin());
-    Transaction transaction(UserDb, doing);
-    if (!FindRecord(entries, entryId))
-        throw Failure(doing, "another copy of the program has deleted the entry meanwhile",
-                      "no entry of number " + std::to_string(entryId));
-    ChangeEntry(entries, numbers, F20day->Days());
-    transaction.Commit();
 }
 
 void EntryEditPage::F20back_Click()

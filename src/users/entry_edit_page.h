@@ -22,7 +22,6 @@ private:
     void F20store_Click();
     void F20back_Click();
     bool HasEqualTexts() const;
-    void StoreChanges();
 
     std::int64_t entryId = 0;
     EntryHead* head;

@@ -29,8 +29,7 @@ void EntryGridModel::Fill(const Game& game, std::vector<EntryRow> entriesOfGame)
     beginResetModel();
     rows = std::move(entriesOfGame);
     endResetModel();
-    SetHeading(FirstBallColumn + BallColumns - 1,
-               &game == &MainGame ? MainGame.BallCaption(BallColumns - 1) : u"Thunder"_s);
+    SetHeading(FirstBallColumn + BallColumns - 1, game.IsMain() ? MainGame.BallCaption(BallColumns - 1) : u"Thunder"_s);
 }
 
 int EntryGridModel::rowCount(const QModelIndex& parent) const

@@ -53,7 +53,7 @@ Card* EntryViewPage::MakeDayCard()
 void EntryViewPage::Prepare()
 {
     const EntryRow entry = ReadEntry(entries);
-    const Game& game = entry.drawType == MainGame.drawType ? MainGame : ThunderballGame;
+    const Game& game = GameOfDrawType(entry.drawType);
     const bool isMain = &game == &MainGame;
     head->Show(ReadUser(users).name, game);
     balls->Show(game, entry.numbers);

@@ -9,6 +9,7 @@
 #include "look/button.h"
 #include "look/theme.h"
 #include "store/open_databases.h"
+#include "store/user_changes.h"
 #include "store/user_records.h"
 
 #include <QHBoxLayout>
@@ -36,36 +37,6 @@ QString UserCountText(int count)
     if (count == 1)
         return u"There is currently 1 user."_s;
     return u"There are currently "_s + SpacedNumber(count) + u" users."_s;
-}
-
-/// False, and nothing is stored, when there is a user of that name already.
-bool StoreNewUser(const QString& name, double spendLimit)
-{
-    Transaction transaction(UserDb, "The new user could not be stored");
-    if (FindUserByName(users, name))
-        return false;
-    AddUser(users, name, spendLimit);
-    transaction.Commit();
-    return true;
-}
-
-void StoreUserChanges(std::int64_t number, const QString& name, double spendLimit)
-{
-    const std::string doing = "The changes of the user could not be stored";
-    Transaction transaction(UserDb, doing);
-    if (!FindUserByNumber(users, number))
-        throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
-    ChangeUser(users, name, spendLimit);
-    transaction.Commit();
-}
-
-void DeleteUserWithEntries(std::int64_t number)
-{
-    Transaction transaction(UserDb, "The user could not be deleted");
-    DeleteUserEntries(entries, number);
-    if (FindUserByNumber(users, number))
-        users.Delete();
-    transaction.Commit();
 }
 
 } // namespace

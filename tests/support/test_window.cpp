@@ -1,6 +1,7 @@
 #include "support/test_window.h"
 
 #include "records/database_creation.h"
+#include "store/link_table.h"
 #include "utilities/shut_down.h"
 
 #include <QDir>
