@@ -15,20 +15,6 @@
 
 namespace {
 
-/// Closes the engine's handle on every way out.
-class Handle
-{
-public:
-    explicit Handle(sqlite3* owned) : engine(owned) {}
-    ~Handle() { sqlite3_close_v2(engine); }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-    sqlite3* Get() const { return engine; }
-
-private:
-    sqlite3* engine;
-};
-
 std::vector<std::string> TableNames(sqlite3* engine, const std::string& doing)
 {
     std::vector<std::string> names;
@@ -109,9 +95,9 @@ void CompactDatabase(const std::filesystem::path& source, const std::filesystem:
     try {
         FileLock lock;
         lock.Share(source, doing);
-        const Handle handle(OpenGuarded(source, connect, lock.FirstBytes(SaltBytes), doing));
-        AllowExport(handle.Get());
-        Export(handle.Get(), destination, doing);
+        const Engine engine = OpenGuarded(source, connect, lock.FirstBytes(SaltBytes), doing);
+        AllowExport(engine.get());
+        Export(engine.get(), destination, doing);
         std::filesystem::permissions(destination, std::filesystem::status(source).permissions());
     } catch (const std::filesystem::filesystem_error& error) {
         DeleteFileIfThere(destination);
@@ -128,9 +114,9 @@ std::map<std::string, std::int64_t> CountRows(const std::filesystem::path& file,
     std::string salt(SaltBytes, '\0');
     // Closed again before the engine opens the file, whose locks would go with it.
     std::ifstream(file, std::ios::binary).read(salt.data(), static_cast<std::streamsize>(salt.size()));
-    const Handle handle(OpenGuarded(file, connect, salt, doing));
+    const Engine engine = OpenGuarded(file, connect, salt, doing);
     std::map<std::string, std::int64_t> counts;
-    for (const std::string& table : TableNames(handle.Get(), doing))
-        counts[table] = Rows(handle.Get(), "main", table, doing);
+    for (const std::string& table : TableNames(engine.get(), doing))
+        counts[table] = Rows(engine.get(), "main", table, doing);
     return counts;
 }

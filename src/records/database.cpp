@@ -1,7 +1,6 @@
 #include "records/database.h"
 
 #include "base/failure.h"
-#include "records/engine.h"
 #include "records/statement.h"
 
 namespace {
@@ -24,7 +23,7 @@ void Database::Open(const std::filesystem::path& file, const std::string& connec
     lock.Share(file, doing);
     try {
         engine = OpenGuarded(file, connect, lock.FirstBytes(SaltBytes), doing);
-        versionQuery = std::make_unique<Statement>(engine, "PRAGMA data_version", NotReadable);
+        versionQuery = std::make_unique<Statement>(engine.get(), "PRAGMA data_version", NotReadable);
     } catch (...) {
         Close();
         throw;
@@ -37,8 +36,7 @@ void Database::Close()
         observers.back()->DatabaseCloses();
     versionQuery.reset();
     // The engine goes first: closing the lock's descriptor would drop the engine's own locks.
-    sqlite3_close_v2(engine);
-    engine = nullptr;
+    engine.reset();
     inTransaction = false;
     lock.Release();
 }
@@ -64,7 +62,7 @@ void Database::Unregister(DatabaseObserver* observer)
 void Database::RollBack()
 {
     // A failed commit may have rolled back already; the answer to a second attempt does not matter.
-    sqlite3_exec(engine, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_exec(engine.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     inTransaction = false;
     for (DatabaseObserver* observer : observers)
         observer->ChangesTakenBack();
@@ -74,7 +72,7 @@ Transaction::Transaction(Database& owner, std::string doingClause) : database(ow
 {
     if (database.inTransaction)
         throw Failure(doing, "another change is still going on", "nested transaction");
-    Execute(database.engine, "BEGIN IMMEDIATE", doing);
+    Execute(database.engine.get(), "BEGIN IMMEDIATE", doing);
     database.inTransaction = true;
     open = true;
 }
@@ -87,7 +85,7 @@ Transaction::~Transaction()
 
 void Transaction::Commit()
 {
-    Execute(database.engine, "COMMIT", doing);
+    Execute(database.engine.get(), "COMMIT", doing);
     open = false;
     database.inTransaction = false;
     for (DatabaseObserver* observer : database.observers)

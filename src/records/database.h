@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/engine.h"
 #include "records/file_lock.h"
 
 #include <cstdint>
@@ -8,7 +9,6 @@
 #include <string>
 #include <vector>
 
-struct sqlite3;
 class Statement;
 
 /// Who is told what happens to a database, as its record sets are.
@@ -55,7 +55,7 @@ private:
     void RollBack();
 
     FileLock lock;
-    sqlite3* engine = nullptr;
+    Engine engine;
     std::unique_ptr<Statement> versionQuery;
     std::vector<DatabaseObserver*> observers;
     bool inTransaction = false;

@@ -4,8 +4,6 @@
 #include "records/engine.h"
 #include "records/statement.h"
 
-#include <memory>
-
 namespace {
 
 std::string TableStatement(const TableLayout& table)
@@ -33,12 +31,7 @@ void CreateDatabase(const std::filesystem::path& file, const std::string& connec
     const std::string doing = "The file " + file.filename().string() + " could not be made";
     if (std::filesystem::exists(file))
         throw Failure(doing, "there is a file of that name already", file.string());
-    sqlite3* opened = nullptr;
-    const int code = sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(opened, sqlite3_close_v2);
-    if (code != SQLITE_OK)
-        ThrowEngineFailure(engine.get(), code, doing);
-    sqlite3_extended_result_codes(engine.get(), 1);
+    const Engine engine = OpenEngine(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, doing);
     const std::string password = PasswordOf(connect);
     if (!password.empty())
         sqlite3_key(engine.get(), password.data(), static_cast<int>(password.size()));

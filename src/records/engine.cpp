@@ -103,7 +103,6 @@ int AdmitExport(void* unused, int action, const char* first, const char* second,
 
 void SetGuards(sqlite3* engine)
 {
-    sqlite3_extended_result_codes(engine, 1);
     sqlite3_busy_timeout(engine, BusyMilliseconds);
     sqlite3_limit(engine, SQLITE_LIMIT_LENGTH, LongestFieldBytes);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -139,42 +138,50 @@ void LimitGrowth(sqlite3* engine, const std::string& doing)
 
 } // namespace
 
+void CloseEngine::operator()(sqlite3* engine) const
+{
+    sqlite3_close_v2(engine);
+}
+
+Engine OpenEngine(const std::filesystem::path& file, int flags, const std::string& doing)
+{
+    sqlite3* opened = nullptr;
+    const int code = sqlite3_open_v2(file.c_str(), &opened, flags, nullptr);
+    Engine engine(opened);
+    if (code != SQLITE_OK)
+        ThrowEngineFailure(opened, code, doing);
+    sqlite3_extended_result_codes(opened, 1);
+    return engine;
+}
+
 std::string PasswordOf(const std::string& connect)
 {
     constexpr std::string_view mark = ";pwd=";
     return connect.starts_with(mark) ? connect.substr(mark.size()) : std::string();
 }
 
-sqlite3* OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
-                     const std::string& doing)
+Engine OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
+                   const std::string& doing)
 {
     std::error_code missing;
     if (const auto bytes = std::filesystem::file_size(file, missing); !missing && bytes > LargestFileBytes)
         throw Failure(doing, "it is far larger than any file of this program", std::to_string(bytes) + " bytes");
-    sqlite3* engine = nullptr;
-    const int code = sqlite3_open_v2(file.c_str(), &engine, SQLITE_OPEN_READWRITE, nullptr);
-    try {
-        if (code != SQLITE_OK)
-            ThrowEngineFailure(engine, code, doing);
-        SetGuards(engine);
-        const std::string password = PasswordOf(connect);
-        if (!password.empty())
-            ApplyKey(engine, password, firstBytes, doing);
-        // The first key of a run wakes the engine's own log up, so it is silenced after it.
-        Execute(engine, "PRAGMA cipher_log_level = NONE; PRAGMA cell_size_check = 1", doing);
-        // A change is stored when its journal is gone from the disk too: it would take the change back after a power
-        // cut.
-        Execute(engine, "PRAGMA synchronous = EXTRA", doing);
-        Execute(engine, "SELECT count(*) FROM sqlite_master", doing);
-        LimitGrowth(engine, doing);
-        // Another tool may have had the file keep a log beside it. Its locks last as long as the file is open, and the
-        // closing of any other descriptor of the file would drop them. Where the tool still has it open, the log stays.
-        sqlite3_exec(engine, "PRAGMA journal_mode = delete", nullptr, nullptr, nullptr);
-    } catch (...) {
-        sqlite3_close_v2(engine);
-        throw;
-    }
-    return engine;
+    Engine owner = OpenEngine(file, SQLITE_OPEN_READWRITE, doing);
+    sqlite3* const engine = owner.get();
+    SetGuards(engine);
+    const std::string password = PasswordOf(connect);
+    if (!password.empty())
+        ApplyKey(engine, password, firstBytes, doing);
+    // The first key of a run wakes the engine's own log up, so it is silenced after it.
+    Execute(engine, "PRAGMA cipher_log_level = NONE; PRAGMA cell_size_check = 1", doing);
+    // A change is stored when its journal is gone from the disk too: it would take the change back after a power cut.
+    Execute(engine, "PRAGMA synchronous = EXTRA", doing);
+    Execute(engine, "SELECT count(*) FROM sqlite_master", doing);
+    LimitGrowth(engine, doing);
+    // Another tool may have had the file keep a log beside it. Its locks last as long as the file is open, and the
+    // closing of any other descriptor of the file would drop them. Where the tool still has it open, the log stays.
+    sqlite3_exec(engine, "PRAGMA journal_mode = delete", nullptr, nullptr, nullptr);
+    return owner;
 }
 
 void AllowExport(sqlite3* engine)

@@ -31,8 +31,7 @@ HeldFile::HeldFile(std::filesystem::path heldFile, std::string connectString, st
 void HeldFile::Settle() const
 {
     {
-        const std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine(
-            OpenGuarded(file, connect, lock->FirstBytes(SaltBytes), doing), sqlite3_close_v2);
+        const Engine engine = OpenGuarded(file, connect, lock->FirstBytes(SaltBytes), doing);
         // Another tool, which knows nothing of the program's own mark, may be in the middle of a change.
         Execute(engine.get(), "BEGIN IMMEDIATE; COMMIT", doing);
     }

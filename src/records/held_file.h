@@ -17,7 +17,6 @@ public:
     /// False when another copy of the program has the file open; it must not be replaced then.
     bool Alone() const { return alone; }
     const std::filesystem::path& Path() const { return file; }
-    const std::string& Connect() const { return connect; }
 
     /// Has the engine take back what a killed process left half done, so that the file is whole without the engine's
     /// journal beside it. Only while it is held alone. Throws Failure, also where another tool is about to change it.

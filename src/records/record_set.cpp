@@ -20,7 +20,7 @@ void RecordSet::Open(Database& owner, const TableLayout& tableLayout)
     database = &owner;
     layout = tableLayout;
     try {
-        ProveLayout(owner.engine, layout, Doing("opened"));
+        ProveLayout(owner.engine.get(), layout, Doing("opened"));
     } catch (...) {
         database = nullptr;
         throw;
@@ -56,7 +56,7 @@ void RecordSet::Load()
         throw Failure(Doing("read"), "the file is not open", "record set closed");
     // The version is taken first: a change that comes between the two is then seen once more, not missed.
     loadedVersion = database->ChangesByOthers();
-    rows = ReadRows(database->engine, layout, Doing("read"));
+    rows = ReadRows(database->engine.get(), layout, Doing("read"));
     loaded = true;
     current = rows.Places() == 0 ? -1 : 0;
 }
@@ -197,7 +197,7 @@ void RecordSet::StoreNewRow()
         std::string parameters = "?1";
         for (int column = 2; column <= layout.ColumnCount(); ++column)
             parameters += ", ?" + std::to_string(column);
-        insertRow = std::make_unique<Statement>(database->engine,
+        insertRow = std::make_unique<Statement>(database->engine.get(),
                                                 "INSERT INTO " + Quoted(layout.name) + " (" + ColumnNames(layout) +
                                                     ") VALUES (" + parameters + ")",
                                                 Doing("changed"));
@@ -207,7 +207,7 @@ void RecordSet::StoreNewRow()
     insertRow->Step();
     insertRow->Reset();
     const bool first = Count() == 0;
-    rows.Add(sqlite3_last_insert_rowid(database->engine), edited);
+    rows.Add(sqlite3_last_insert_rowid(database->engine.get()), edited);
     if (first)
         current = rows.Places() - 1;
 }
@@ -225,7 +225,7 @@ void RecordSet::StoreCurrentRow()
         const std::string number = std::to_string(columns + 1);
         // Another copy may have deleted the row and given its place to a new one; the number tells them apart.
         updateRow = std::make_unique<Statement>(
-            database->engine,
+            database->engine.get(),
             "UPDATE " + Quoted(layout.name) + " SET " + assignments + " WHERE rowid = ?" + number + " AND " +
                 Quoted(layout.columns[0].name) + " IS ?" + std::to_string(columns + 2),
             Doing("changed"));
@@ -236,7 +236,7 @@ void RecordSet::StoreCurrentRow()
     updateRow->Bind(static_cast<int>(columns) + 2, Field(0));
     updateRow->Step();
     updateRow->Reset();
-    if (sqlite3_changes(database->engine) == 0)
+    if (sqlite3_changes(database->engine.get()) == 0)
         throw Failure(Doing("changed"), "another copy of the program has deleted the row meanwhile", "no row changed");
     rows.Replace(current, edited);
 }
@@ -246,7 +246,7 @@ void RecordSet::Delete()
     if (!OnRecord())
         throw Failure(Doing("changed"), "there is no current record", "record set at its start or end");
     if (!deleteRow)
-        deleteRow = std::make_unique<Statement>(database->engine,
+        deleteRow = std::make_unique<Statement>(database->engine.get(),
                                                 "DELETE FROM " + Quoted(layout.name) + " WHERE rowid = ?1 AND " +
                                                     Quoted(layout.columns[0].name) + " IS ?2",
                                                 Doing("changed"));

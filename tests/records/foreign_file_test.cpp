@@ -14,11 +14,9 @@ QString DetailOf(const std::function<void()>& action)
     return FailureOf(action).detail;
 }
 
-using Engine = std::unique_ptr<sqlite3, int (*)(sqlite3*)>;
-
 Engine OpenUsers()
 {
-    return {OpenGuarded(UserDataPath, {}, {}, "opening"), sqlite3_close_v2};
+    return OpenGuarded(UserDataPath, {}, {}, "opening");
 }
 
 /// The program's two files, one of which somebody has worked over.
