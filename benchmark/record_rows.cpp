@@ -119,12 +119,12 @@ Row RequeryRow(const std::filesystem::path& work)
 
 void DeleteLast(RecordSet& table, int count)
 {
-    std::vector<std::int64_t> numbers;
+    std::vector<Bookmark> marks;
     table.MoveLast();
     for (int row = 0; row < count; ++row, table.MovePrevious())
-        numbers.push_back(static_cast<std::int64_t>(table.Number(0)));
+        marks.push_back(table.Mark());
     Transaction transaction(UserDb, "The entries could not be deleted");
-    DeleteRecords(table, numbers);
+    DeleteRecords(table, marks);
     transaction.Commit();
     table.MoveFirst();
 }

@@ -63,7 +63,7 @@ void DrawGridModel::Fill(RecordSet& list)
 void DrawGridModel::Take(const RecordSet& list)
 {
     Row& row = rows.emplace_back();
-    row.number = ReadDrawId(list);
+    row.mark = list.Mark();
     for (int slot = 0; slot < game.BallCount(); ++slot)
         row.balls[static_cast<size_t>(slot)] = list.Number(DrawField::FirstBall + slot);
     const std::string_view date = list.Text(DrawField::Date);

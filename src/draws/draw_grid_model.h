@@ -2,9 +2,9 @@
 
 #include "controls/grid_model.h"
 #include "controls/grid_view.h"
+#include "records/bookmark.h"
 
 #include <array>
-#include <cstdint>
 #include <map>
 
 class RecordSet;
@@ -22,8 +22,8 @@ public:
     void Fill(RecordSet& list);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    /// The DrawId of the draw in a row.
-    std::int64_t NumberOf(int row) const { return rows.at(static_cast<size_t>(row)).number; }
+    /// The bookmark of the draw in a row.
+    const Bookmark& MarkOf(int row) const { return rows.at(static_cast<size_t>(row)).mark; }
 
     /// The shares that the columns have of the grid's width.
     static std::vector<double> ColumnShares(const Game& game);
@@ -35,7 +35,7 @@ private:
     /// Date and day stand here as they are stored; they are read when the row is seen.
     struct Row
     {
-        std::int64_t number;
+        Bookmark mark;
         std::array<double, 7> balls;
         std::array<char, 10> date;
         std::array<char, 3> day;

@@ -110,7 +110,7 @@ bool DrawGridSection::MoveToSelectedDraw() const
         ShowMessage(u"Select only ONE draw."_s);
     if (rows.Count() != 1)
         return false;
-    MoveToDraw(DrawListOf(game), model->NumberOf(rows.first), "The draw could not be shown");
+    MoveToDraw(DrawListOf(game), model->MarkOf(rows.first), "The draw could not be shown");
     return true;
 }
 
@@ -143,11 +143,11 @@ void DrawGridSection::Delete_Click()
 
 void DrawGridSection::DeleteSelectedDraws()
 {
-    std::vector<std::int64_t> numbers;
+    std::vector<Bookmark> marks;
     const GridView::RowSpan rows = grid->SelectedRows();
     for (int row = rows.first; row <= rows.last; ++row)
-        numbers.push_back(model->NumberOf(row));
-    DeleteDraws(game, numbers);
+        marks.push_back(model->MarkOf(row));
+    DeleteDraws(game, marks);
 }
 
 DrawGridsPage::DrawGridsPage(PageSwitch& pages)

@@ -88,8 +88,9 @@ void EditDrawPage::BuildCard()
 
 void EditDrawPage::Prepare()
 {
-    const DrawRow draw = ReadDraw(DrawListOf(game), game);
-    drawId = draw.number;
+    const RecordSet& list = DrawListOf(game);
+    shown = list.Mark();
+    const DrawRow draw = ReadDraw(list, game);
     date->setText(LongStoredDate(draw.date));
     for (int slot = 0; slot < game.BallCount(); ++slot)
         balls->SetText(slot, PlainNumber(draw.balls.at(static_cast<size_t>(slot))));
@@ -106,7 +107,7 @@ void EditDrawPage::Prepare()
 
 void EditDrawPage::Reset_Click()
 {
-    MoveToDraw(DrawListOf(game), drawId, "The draw could not be shown");
+    MoveToDraw(DrawListOf(game), shown, "The draw could not be shown");
     Prepare();
 }
 
@@ -129,7 +130,7 @@ void EditDrawPage::Save_Click()
     }
     balls->Sort(game.mainBalls);
     balls->Recolour();
-    ChangeDraw(game, drawId, ReadControls());
+    ChangeDraw(game, shown, ReadControls());
     ShowMessage(QLatin1String(TextsOf(game).stored));
     hide();
     pages.Page(AllDrawsPage)->hide();

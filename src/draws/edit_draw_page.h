@@ -1,10 +1,9 @@
 #pragma once
 
 #include "controls/page_frame.h"
+#include "records/bookmark.h"
 
 #include <QLabel>
-
-#include <cstdint>
 
 class BallFields;
 class PageSwitch;
@@ -36,7 +35,7 @@ private:
 
     const Game& game;
     PageSwitch& pages;
-    std::int64_t drawId = 0;
+    Bookmark shown;
     QLabel* date;
     BallFields* balls;
     QComboBox* machine = nullptr;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string_view>
 
 /// The most balls that a draw of either game has.
@@ -13,7 +12,6 @@ using DrawBalls = std::array<double, MostBalls>;
 /// One stored draw as the rules read it. Texts live until the record set's rows change.
 struct DrawRow
 {
-    std::int64_t number = 0;
     /// YYYY-MM-DD.
     std::string_view date;
     std::string_view day;

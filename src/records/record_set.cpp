@@ -131,6 +131,22 @@ void RecordSet::Move(int count)
         Step(direction);
 }
 
+Bookmark RecordSet::Mark() const
+{
+    const double number = Number(0);
+    return {rows.RowId(current), number};
+}
+
+bool RecordSet::MoveTo(const Bookmark& mark)
+{
+    Refresh();
+    const int found = rows.PlaceOf(mark.rowId);
+    current = found < 0 ? rows.Places() : found;
+    if (found >= 0 && !(Mark() == mark))
+        current = rows.Places();
+    return current < rows.Places();
+}
+
 Value RecordSet::Field(int position) const
 {
     if (!OnRecord())

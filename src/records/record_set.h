@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/bookmark.h"
 #include "records/database.h"
 #include "records/stored_rows.h"
 #include "records/table_layout.h"
@@ -41,6 +42,11 @@ public:
     void MovePrevious();
     /// Moves by a number of rows, backwards when it is negative; a move past either end stops just outside it.
     void Move(int rows);
+
+    /// The bookmark of the current record.
+    Bookmark Mark() const;
+    /// Moves to the row of a bookmark; false, and at the end, when another copy of the program has deleted it.
+    bool MoveTo(const Bookmark& mark);
 
     /// The field at a position of the current record, counted from 0. Texts live until the rows change.
     Value Field(int position) const;

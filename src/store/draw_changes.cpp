@@ -22,22 +22,22 @@ void OverwriteDrawOfDate(const Game& game, const EnteredDraw& draw)
     DrawListOf(game).Requery();
 }
 
-void ChangeDraw(const Game& game, std::int64_t drawId, const EnteredDraw& draw)
+void ChangeDraw(const Game& game, const Bookmark& mark, const EnteredDraw& draw)
 {
     const std::string doing = "The draw could not be changed";
     Transaction transaction(DrawDb, doing);
     RecordSet& table = DrawsOf(game);
-    MoveToDraw(table, drawId, doing);
+    MoveToDraw(table, mark, doing);
     OverwriteDraw(table, game, draw);
     transaction.Commit();
     DrawListOf(game).Requery();
 }
 
-void DeleteDraws(const Game& game, const std::vector<std::int64_t>& drawIds)
+void DeleteDraws(const Game& game, const std::vector<Bookmark>& marks)
 {
     Transaction transaction(DrawDb,
-                            drawIds.size() == 1 ? "The draw could not be deleted" : "The draws could not be deleted");
-    DeleteRecords(DrawsOf(game), drawIds);
+                            marks.size() == 1 ? "The draw could not be deleted" : "The draws could not be deleted");
+    DeleteRecords(DrawsOf(game), marks);
     transaction.Commit();
     DrawListOf(game).Requery();
 }

@@ -12,9 +12,9 @@ void StoreNewDraw(const Game& game, const EnteredDraw& draw);
 /// deleted that draw meanwhile, a new row is stored.
 void OverwriteDrawOfDate(const Game& game, const EnteredDraw& draw);
 
-/// Writes balls, machine and set of balls over the draw of this number; its number, date and day stay. Fails where
+/// Writes balls, machine and set of balls over the draw of this bookmark; its number, date and day stay. Fails where
 /// there is none any more.
-void ChangeDraw(const Game& game, std::int64_t drawId, const EnteredDraw& draw);
+void ChangeDraw(const Game& game, const Bookmark& mark, const EnteredDraw& draw);
 
-/// Deletes the draws of these numbers. One that is gone already is no failure.
-void DeleteDraws(const Game& game, const std::vector<std::int64_t>& drawIds);
+/// Deletes the draws of these bookmarks. One that is gone already is no failure.
+void DeleteDraws(const Game& game, const std::vector<Bookmark>& marks);

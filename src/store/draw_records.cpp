@@ -6,8 +6,6 @@
 #include "records/record_set.h"
 #include "store/draw_tables.h"
 
-#include <algorithm>
-
 namespace {
 
 void SetText(RecordSet& table, int position, const QString& text)
@@ -28,17 +26,9 @@ void SetDrawnBalls(RecordSet& table, const Game& game, const EnteredDraw& draw)
 
 } // namespace
 
-std::int64_t ReadDrawId(const RecordSet& set)
-{
-    // Numbers beyond this bound are not whole any more; only a foreign file can hold them.
-    constexpr double largest = 9007199254740992.0;
-    return static_cast<std::int64_t>(std::clamp(set.Number(DrawField::DrawId), -largest, largest));
-}
-
 DrawRow ReadDraw(const RecordSet& set, const Game& game)
 {
     DrawRow row;
-    row.number = ReadDrawId(set);
     row.date = set.Text(DrawField::Date);
     row.day = set.Text(DrawField::Day);
     for (int slot = 0; slot < game.BallCount(); ++slot)
@@ -73,11 +63,10 @@ bool FindLastDrawOfDate(RecordSet& list, QDate date)
     return false;
 }
 
-void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing)
+void MoveToDraw(RecordSet& set, const Bookmark& mark, const std::string& doing)
 {
-    if (!FindRecord(set, drawId))
-        throw Failure(doing, "another copy of the program has deleted it meanwhile",
-                      "no draw of number " + std::to_string(drawId));
+    if (!set.MoveTo(mark))
+        throw Failure(doing, "another copy of the program has deleted it meanwhile", "the row is gone");
 }
 
 void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw)

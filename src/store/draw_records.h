@@ -1,7 +1,7 @@
 #pragma once
 
 #include "game/draw_row.h"
-#include "records/record_numbers.h"
+#include "records/bookmark.h"
 
 #include <QDate>
 #include <QString>
@@ -11,9 +11,6 @@
 
 class RecordSet;
 struct Game;
-
-/// The number of the current record of a draw table or list. Throws Failure where there is no record.
-std::int64_t ReadDrawId(const RecordSet& set);
 
 /// The current record of a draw table or list. Throws Failure where there is none.
 DrawRow ReadDraw(const RecordSet& set, const Game& game);
@@ -27,9 +24,9 @@ bool IsOnDate(RecordSet& list, QDate date);
 /// Moves the list to the last of its records of the given date; false, and at the start, when there is none.
 bool FindLastDrawOfDate(RecordSet& list, QDate date);
 
-/// Moves the table or list to the draw of the given number. Throws Failure where there is none any more; `doing` is
+/// Moves the table or list to the draw of the given bookmark. Throws Failure where there is none any more; `doing` is
 /// the clause that it carries.
-void MoveToDraw(RecordSet& set, std::int64_t drawId, const std::string& doing);
+void MoveToDraw(RecordSet& set, const Bookmark& mark, const std::string& doing);
 
 /// What a page knows of a draw that is to be stored.
 struct EnteredDraw

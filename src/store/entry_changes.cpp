@@ -2,7 +2,6 @@
 
 #include "base/failure.h"
 #include "game/game.h"
-#include "records/record_numbers.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
 
@@ -45,21 +44,20 @@ void StoreEntry(EntryRow entry)
     transaction.Commit();
 }
 
-void StoreEntryChanges(std::int64_t entryId, const EntryNumbers& numbers, const DaySet& days)
+void StoreEntryChanges(const Bookmark& mark, const EntryNumbers& numbers, const DaySet& days)
 {
     const std::string doing = "The changes could not be stored";
     Transaction transaction(UserDb, doing);
-    if (!FindRecord(entries, entryId))
-        throw Failure(doing, "another copy of the program has deleted the entry meanwhile",
-                      "no entry of number " + std::to_string(entryId));
+    if (!entries.MoveTo(mark))
+        throw Failure(doing, "another copy of the program has deleted the entry meanwhile", "the row is gone");
     ChangeEntry(entries, numbers, days);
     transaction.Commit();
 }
 
-void DeleteEntries(const std::vector<std::int64_t>& entryIds)
+void DeleteEntries(const std::vector<Bookmark>& marks)
 {
     Transaction transaction(UserDb, "The entries could not be deleted");
-    DeleteRecords(entries, entryIds);
+    DeleteRecords(entries, marks);
     transaction.Commit();
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "game/entry_row.h"
+#include "records/bookmark.h"
 
 #include <QString>
 
-#include <cstdint>
 #include <vector>
 
 // Every change of the stored entries. Each function is one transaction, on disk when the function returns. All throw
@@ -14,11 +14,11 @@
 /// the spend limit by now.
 void StoreEntry(EntryRow entry);
 
-/// Writes numbers and days over the entry of this number. Fails where there is none any more.
-void StoreEntryChanges(std::int64_t entryId, const EntryNumbers& numbers, const DaySet& days);
+/// Writes numbers and days over the entry of this bookmark. Fails where there is none any more.
+void StoreEntryChanges(const Bookmark& mark, const EntryNumbers& numbers, const DaySet& days);
 
-/// Deletes the entries of these numbers. One that is gone already is no failure.
-void DeleteEntries(const std::vector<std::int64_t>& entryIds);
+/// Deletes the entries of these bookmarks. One that is gone already is no failure.
+void DeleteEntries(const std::vector<Bookmark>& marks);
 
 /// Whether the first user of exactly this name would have more entries than its spend limit allows, if it had `more` of
 /// them. Throws Failure where there is no such user.

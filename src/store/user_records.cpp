@@ -21,6 +21,11 @@ void ReadNumbers(const RecordSet& entries, EntryRow& row)
         row.numbers[static_cast<size_t>(i)] = entries.Number(EntryField::FirstBall + i);
 }
 
+bool IsEntryOf(const RecordSet& entries, std::int64_t userId, int drawType)
+{
+    return WholeField(entries, EntryField::UserId) == userId && WholeField(entries, EntryField::DrawType) == drawType;
+}
+
 void SetUser(RecordSet& users, const QString& name, double spendLimit)
 {
     const std::string utf8 = name.toStdString();
@@ -83,7 +88,7 @@ std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int
     // Room that is never used costs nothing; rows that are moved while it grows do.
     rows.reserve(static_cast<size_t>(entries.Count()));
     for (; !entries.Eof(); entries.MoveNext()) {
-        if (WholeField(entries, EntryField::UserId) != userId || WholeField(entries, EntryField::DrawType) != drawType)
+        if (!IsEntryOf(entries, userId, drawType))
             continue;
         EntryRow& row = rows.emplace_back();
         row.number = WholeField(entries, EntryField::EntryId);
@@ -92,6 +97,15 @@ std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int
         ReadNumbers(entries, row);
     }
     return rows;
+}
+
+std::vector<Bookmark> MarkEntriesOf(RecordSet& entries, std::int64_t userId, int drawType)
+{
+    std::vector<Bookmark> marks;
+    for (entries.MoveFirst(); !entries.Eof(); entries.MoveNext())
+        if (IsEntryOf(entries, userId, drawType))
+            marks.push_back(entries.Mark());
+    return marks;
 }
 
 bool FindUserByName(RecordSet& users, const QString& name)

@@ -7,8 +7,8 @@
 
 #include <vector>
 
-class Database;
 class RecordSet;
+struct Bookmark;
 
 /// One stored user.
 struct UserRow
@@ -27,6 +27,9 @@ std::vector<EntryRow> ReadAllEntries(RecordSet& entries);
 
 /// The user's entries of one game, in the order in which they were added, without their days.
 std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
+
+/// The bookmarks of the same entries.
+std::vector<Bookmark> MarkEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
 
 /// Moves to the first user of exactly this name; false, and at the end, when there is none.
 bool FindUserByName(RecordSet& users, const QString& name);

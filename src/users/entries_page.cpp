@@ -8,7 +8,6 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
-#include "records/record_numbers.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
@@ -130,8 +129,11 @@ const Game& EntriesPage::ChosenGame() const
 void EntriesPage::FillEntriesGrid()
 {
     std::vector<EntryRow> rows;
-    if (selectedUserNumber)
+    marks.clear();
+    if (selectedUserNumber) {
+        marks = MarkEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType);
         rows = ReadEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType);
+    }
     model->Fill(ChosenGame(), std::move(rows));
     const bool empty = model->rowCount() == 0;
     F13grid->setHidden(empty);
@@ -147,7 +149,7 @@ void EntriesPage::OpenSelectedEntry(PageFrame* page, const QString& verb)
         return;
     }
     page->ShowInFront();
-    if (FindRecord(entries, model->NumberOf(rows.first)))
+    if (entries.MoveTo(marks.at(static_cast<size_t>(rows.first))))
         page->Prepare();
     else
         ShowMessage(u"An unexpected error has occured,"_s + Crlf + u"please try again."_s);
@@ -174,9 +176,6 @@ void EntriesPage::F13delete_Click()
         ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
-    std::vector<std::int64_t> numbers;
-    for (int row = rows.first; row <= rows.last; ++row)
-        numbers.push_back(model->NumberOf(row));
-    DeleteEntries(numbers);
+    DeleteEntries({marks.begin() + rows.first, marks.begin() + rows.last + 1});
     FillEntriesGrid();
 }

@@ -2,10 +2,12 @@
 
 #include "controls/page_frame.h"
 #include "game/entry_row.h"
+#include "records/bookmark.h"
 
 #include <QLabel>
 
 #include <optional>
+#include <vector>
 
 class Card;
 class EntryGridModel;
@@ -41,6 +43,8 @@ private:
 
     PageSwitch& pages;
     std::optional<std::int64_t> selectedUserNumber;
+    /// Of the entries in the grid, in its order.
+    std::vector<Bookmark> marks;
 
     QComboBox* F13user;
     QRadioButton* F13typemain;

@@ -47,7 +47,7 @@ void EntryEditPage::Prepare()
     const EntryRow entry = ReadEntry(entries);
     const Game& game = GameOfDrawType(entry.drawType);
     const bool isMain = &game == &MainGame;
-    entryId = entry.number;
+    shown = entries.Mark();
     head->Show(ReadUser(users).name, game);
     F20num->SetRule(EntryEditingRule(game));
     for (int slot = 0; slot < F20num->Count(); ++slot)
@@ -80,7 +80,7 @@ void EntryEditPage::F20store_Click()
         ShowMessage(first + Crlf + u"please retry."_s);
         return;
     }
-    StoreEntryChanges(entryId, F20num->TypedEntry(), F20day->Days());
+    StoreEntryChanges(shown, F20num->TypedEntry(), F20day->Days());
     Q_EMIT Stored();
     ShowMessage(u"The changes have been stored."_s);
     hide();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/page_frame.h"
-#include "game/entry_row.h"
+#include "records/bookmark.h"
 
 class BallFields;
 class DayBoxes;
@@ -23,7 +23,7 @@ private:
     void F20back_Click();
     bool HasEqualTexts() const;
 
-    std::int64_t entryId = 0;
+    Bookmark shown;
     EntryHead* head;
     BallFields* F20num;
     DayBoxes* F20day;

@@ -18,7 +18,6 @@ public:
     /// Takes the rows of one game.
     void Fill(const Game& game, std::vector<EntryRow> entriesOfGame);
     const std::vector<EntryRow>& Rows() const { return rows; }
-    std::int64_t NumberOf(int row) const { return rows.at(static_cast<size_t>(row)).number; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
 

@@ -151,6 +151,32 @@ private Q_SLOTS:
         QVERIFY(!window.IsShown("Frame_15") && window.IsShown("F10Grid2"));
     }
 
+    void ChosenRowIsTheOneThatIsUsed()
+    {
+        FiveDraws window;
+        // Another tool has given three draws one number, and taken those of the others away.
+        InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), DoubleNumbers);
+        window.OpenPage(2, 3);
+        GridDriver grid = window.MainGrid();
+        for (const int row : {0, 1, 3}) {
+            grid.Click(row);
+            window.Click("F10mainviewbutton");
+            QCOMPARE(window.TextOf("F14number_1").toInt(), 5 - row);
+            window.Click("F14back");
+        }
+        window.Click("F10maineditbutton");
+        window.Type("F16number_0", "9");
+        window.Click("F16save", {QMessageBox::Yes, QMessageBox::Ok});
+        const QStringList bonus = {"40", "9", "40", "40", "40"};
+        for (int draw = 0; draw < 5; ++draw)
+            QCOMPARE(TestFolder::StoredRows("ukmain").value(draw).section(u',', 9, 9), bonus[draw]);
+        grid.Select("click", 1, 2);
+        window.Click("F10maindeletebutton", {QMessageBox::Yes, QMessageBox::Ok});
+        QCOMPARE(grid.Rows(), 3);
+        for (const auto& [row, draw] : {std::pair(0, "5"), {1, "2"}, {2, "1"}})
+            QCOMPARE(grid.Cell(row, 2), QString(draw));
+    }
+
     /// The rows of the grid keep their meaning when another copy has changed the table under them.
     void AnotherCopysChangesHitNoOtherRow()
     {

@@ -237,7 +237,8 @@ void ChangeRows()
     {
         Transaction transaction(DrawDb, "");
         AddDraw(ukmain, MainGame, {QDate(2020, 1, 4), {1, 2, 3, 4, 5, 6, 7}, "MERLIN", "1"});
-        DeleteRecords(ukmain, {1, 2, 3});
+        ukmain.MoveFirst();
+        DeleteRecords(ukmain, {ukmain.Mark()});
         transaction.Commit();
     }
     Transaction transaction(UserDb, "");

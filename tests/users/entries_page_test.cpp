@@ -199,12 +199,35 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("0,4,15,22,38,41"));
     }
 
+    void ChosenEntryIsTheOneThatIsUsed()
+    {
+        Entries window;
+        // Another tool has given three entries one number, and taken those of the others away.
+        InAnotherCopy(UserDataPath, {}, EntriesTable(), DoubleNumbers);
+        window.OpenPage(3, 3);
+        for (const int row : {1, 3}) {
+            window.Edit(false, row);
+            QCOMPARE(window.TextOf("F20num_1").toInt(), row + 1);
+            window.Type("F20num_6", "48");
+            window.Click("F20store", {QMessageBox::Ok});
+        }
+        const QStringList last = {"49", "48", "49", "48", "6", "14", "49"};
+        for (int entry = 0; entry < 7; ++entry)
+            QCOMPARE(TestFolder::StoredRows("entries").value(entry).section(u',', 8, 8), last[entry]);
+        window.Grid().Select("click", 1, 3);
+        window.Click("F13delete", {QMessageBox::Yes});
+        QCOMPARE(window.Grid().Rows(), 2);
+        QCOMPARE(window.Grid().Cell(0, 2) + window.Grid().Cell(1, 2), QString("17"));
+    }
+
     void WhatAnotherCopyHasDeletedIsNotTouched()
     {
         Entries window;
         const auto deleteNumber = [](const TableLayout& layout, std::int64_t number) {
             InAnotherCopy(UserDataPath, {}, layout, [number](RecordSet& table) {
-                FindRecord(table, number);
+                table.MoveFirst();
+                while (table.Number(0) != static_cast<double>(number))
+                    table.MoveNext();
                 table.Delete();
             });
         };

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+class RecordSet;
+
+/// Names one stored row, also where a file of unknown origin holds its number twice or not at all. It names no other
+/// row after another copy of the program has deleted it.
+struct Bookmark
+{
+    /// The engine's own number of the row, which it may give again, and the number that the row was given.
+    std::int64_t rowId = 0;
+    double number = 0;
+
+    bool operator==(const Bookmark&) const = default;
+};
+
+/// Deletes the rows in one pass over the table; one that is gone already is no failure. Throws Failure; to be called
+/// inside a transaction.
+void DeleteRecords(RecordSet& table, const std::vector<Bookmark>& marks);
