@@ -37,7 +37,7 @@ BallAppearances FindBall(RecordSet& list, const BallRole& role, int ball)
             continue;
         if (found.count == 0) {
             found.drawsAgo = drawsAgo;
-            found.day = FromUtf8(list.Text(DrawField::Day));
+            found.day = ShownText(list.Text(DrawField::Day));
             found.date = StoredDateInWords(list.Text(DrawField::Date));
         }
         ++found.count;

@@ -75,8 +75,7 @@ void BallDataPage::BuildCards()
     box->setObjectName(ControlName("box"));
     for (int index = 1; index <= 4; ++index) {
         QLabel*& sentence = data.at(static_cast<size_t>(index) - 1);
-        sentence = MakeLabel({}, TextRole::Body, ElementName(ControlName("data"), index));
-        sentence->setWordWrap(true);
+        sentence = MakeStoredTextLabel({}, TextRole::Body, ElementName(ControlName("data"), index));
         sentence->setMinimumHeight(sentence->fontMetrics().lineSpacing());
         if (index == 3)
             box->Content()->addSpacing(Spacing::Cards);

@@ -56,7 +56,7 @@ QString LongDate(QDate date)
 QString LongStoredDate(std::string_view iso)
 {
     const QDate date = DateFromIso(iso);
-    return date.isValid() ? LongDate(date) : FromUtf8(iso);
+    return date.isValid() ? LongDate(date) : ShownText(iso);
 }
 
 QString StoredDateInWords(std::string_view iso)
@@ -74,7 +74,7 @@ QString ShortDate(QDate date)
 QString ShortStoredDate(std::string_view iso)
 {
     const QDate date = DateFromIso(iso);
-    return date.isValid() ? ShortDate(date) : FromUtf8(iso);
+    return date.isValid() ? ShortDate(date) : ShownText(iso);
 }
 
 std::string IsoDate(QDate date)

@@ -124,7 +124,9 @@ double GridView::TextWidth(int column) const
     double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
     for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
         widest = std::max(widest, MeasuredWidth(model()->index(row, column).data().toString()));
-    return widest;
+    // A file may hold a text of any length; what does not fit its column is cut there.
+    const double broadest = 20 * QFontMetricsF(measuredFont).averageCharWidth();
+    return std::min(widest, broadest);
 }
 
 double GridView::MeasuredWidth(const QString& text) const

@@ -14,6 +14,14 @@ QLabel* MakeLabel(const QString& text, TextRole role, const QString& name, QWidg
     return label;
 }
 
+QLabel* MakeStoredTextLabel(const QString& text, TextRole role, const QString& name)
+{
+    QLabel* label = MakeLabel(text, role, name);
+    label->setWordWrap(true);
+    label->setMinimumWidth(1);
+    return label;
+}
+
 QString ElementName(const QString& array, int index)
 {
     return array + u'_' + QString::number(index);

@@ -72,7 +72,7 @@ void DrawGridModel::Take(const RecordSet& list)
         std::copy(date.begin(), date.end(), row.date.begin());
         std::copy(day.begin(), day.end(), row.day.begin());
     } else {
-        oddTexts[static_cast<int>(rows.size()) - 1] = {ShortStoredDate(date), FromUtf8(day)};
+        oddTexts[static_cast<int>(rows.size()) - 1] = {ShortStoredDate(date), ShownText(day)};
     }
 }
 

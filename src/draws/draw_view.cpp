@@ -13,20 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// A stored text may be of any length: the label breaks it and never widens its page.
-QLabel* AddTextLabel(QBoxLayout* layout, const QString& text, TextRole role, const QString& name)
-{
-    QLabel* label = MakeLabel(text, role, name);
-    label->setWordWrap(true);
-    label->setMinimumWidth(1);
-    layout->addWidget(label, 1);
-    return label;
-}
-
-} // namespace
-
 DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& textPrefixes, QWidget* parent)
     : QWidget(parent),
       game(drawGame),
@@ -37,15 +23,17 @@ DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& tex
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Spacing::Between);
     if (!names.date.isEmpty())
-        date = AddTextLabel(layout, u"Date"_s, TextRole::Heading, names.date);
+        layout->addWidget(date = MakeStoredTextLabel(u"Date"_s, TextRole::Heading, names.date), 1);
     layout->addWidget(balls);
     if (!game.hasMachine)
         return;
     auto* line = new QHBoxLayout;
     line->setSpacing(Spacing::Between);
     layout->addLayout(line);
-    machine = AddTextLabel(line, prefixes.machine.trimmed(), TextRole::Body, names.machine);
-    ballSet = AddTextLabel(line, prefixes.ballSet.trimmed(), TextRole::Body, names.ballSet);
+    machine = MakeStoredTextLabel(prefixes.machine.trimmed(), TextRole::Body, names.machine);
+    ballSet = MakeStoredTextLabel(prefixes.ballSet.trimmed(), TextRole::Body, names.ballSet);
+    line->addWidget(machine, 1);
+    line->addWidget(ballSet, 1);
 }
 
 void DrawView::Show(const DrawRow& draw)
@@ -55,6 +43,6 @@ void DrawView::Show(const DrawRow& draw)
     balls->Show(game, draw.balls);
     if (machine == nullptr)
         return;
-    machine->setText(prefixes.machine + FromUtf8(draw.machine));
-    ballSet->setText(prefixes.ballSet + FromUtf8(draw.ballSet));
+    machine->setText(prefixes.machine + ShownText(draw.machine));
+    ballSet->setText(prefixes.ballSet + ShownText(draw.ballSet));
 }

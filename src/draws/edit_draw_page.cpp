@@ -51,7 +51,7 @@ EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
     : PageFrame(TextsOf(drawGame).page, QLatin1String(TextsOf(drawGame).title)),
       game(drawGame),
       pages(pageSwitch),
-      date(MakeLabel(QString(), TextRole::Heading, ControlName(game, "date"))),
+      date(MakeStoredTextLabel(QString(), TextRole::Heading, ControlName(game, "date"))),
       balls(new BallFields(
           DrawFieldNames(game, ControlName(game, "number"), ControlName(game, "ball"), ControlName(game, "entrylabel")),
           DrawBallCaptions(game))),

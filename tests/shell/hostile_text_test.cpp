@@ -5,6 +5,7 @@
 #include <QTextEdit>
 
 #include <cfloat>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -173,6 +174,41 @@ private Q_SLOTS:
         const QString report = pages.Find<QTextEdit>("F12text")->toPlainText();
         for (const QString& name : names)
             QVERIFY2(report.contains(name), qPrintable(name.left(80)));
+    }
+
+    void LongestTextOfAFileTakesNoTimeAndNoRoom()
+    {
+        Pages pages;
+        // A row has room for no more of them.
+        const std::string longest(250'000, 'W');
+        for (RecordSet* table : {&ukmain, &ukthunder, &users, &entries}) {
+            table->MoveFirst();
+            table->Edit();
+            // Dates, days, machines and sets of balls, names; numbers and days of entries.
+            for (const int field : table == &ukmain      ? std::vector{1, 2, 10, 11}
+                                   : table == &ukthunder ? std::vector{1, 2}
+                                   : table == &users     ? std::vector{1}
+                                                         : std::vector{3, 9})
+                table->SetField(field, std::string_view(longest));
+            table->Update();
+        }
+        ukmainlist.Requery();
+        ukthunderlist.Requery();
+        for (const Stop& stop : Stops) {
+            const std::clock_t before = std::clock();
+            pages.Open(stop);
+            for (const char* ball : {"F23enter", "F24enter"})
+                if (pages.IsShown(ball))
+                    pages.Type(ball, "1");
+            const double seconds = double(std::clock() - before) / CLOCKS_PER_SEC;
+            const int width = qMax(pages.Window().width(), pages.Window().minimumSizeHint().width());
+            QVERIFY2(seconds < 2 && width <= 1024, qPrintable(QString("%1 %2 %3: %4 s, %5 wide")
+                                                                  .arg(stop.group)
+                                                                  .arg(stop.suboption)
+                                                                  .arg(stop.opened)
+                                                                  .arg(seconds)
+                                                                  .arg(width)));
+        }
     }
 };
 
