@@ -24,7 +24,9 @@ void OpenAddress(const QString& address)
     const QString scheme = SchemeOf(address);
     if (!scheme.isEmpty() && scheme != "http"_L1 && scheme != "https"_L1 && scheme != "mailto"_L1)
         return;
-    const QUrl url(scheme.isEmpty() ? u"http://"_s + address : address);
+    QUrl url(scheme.isEmpty() ? u"http://"_s + address : address);
+    if (scheme == "mailto"_L1)
+        url = url.adjusted(QUrl::RemoveQuery | QUrl::RemoveFragment);
     if (url.isValid())
         QDesktopServices::openUrl(url);
 }
