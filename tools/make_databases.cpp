@@ -147,8 +147,13 @@ void MakeAll(const QStringList& sources, const std::filesystem::path& folder)
     std::filesystem::create_directories(work);
     MakeDrawDatabase(work / "drawdata.tv3", sources);
     CreateDatabase(work / "userdata.tv3", {}, {UsersTable(), EntriesTable()}, {});
-    for (const char* name : {"drawdata.tv3", "userdata.tv3"})
-        CopyFileOver(work / name, folder / name);
+    for (const char* name : {"drawdata.tv3", "userdata.tv3"}) {
+        const Descriptor made = OpenToRead(work / name);
+        TemporaryFile copy = TemporaryFile::Beside(folder / name, name);
+        copy.CopyFrom(made.Number());
+        copy.TakeRightsOf(made.Number());
+        copy.RenameOver();
+    }
     std::filesystem::remove_all(work);
 }
 

@@ -54,7 +54,7 @@ std::vector<int> CountDraws(const Chart& chart, SlotRange slots, RecordSet& draw
     const auto addOne = [&values](int bar) { ++values[static_cast<size_t>(bar)]; };
     for (draws.MoveFirst(); !draws.Eof(); draws.MoveNext()) {
         if (chart.subject == ChartSubject::Machines)
-            addOne(MachineBar(ShownText(draws.Text(DrawField::Machine))));
+            addOne(MachineBar(FromUtf8(draws.Text(DrawField::Machine))));
         else if (chart.subject == ChartSubject::BallSets)
             addOne(NumberedBar(draws.Number(DrawField::BallSet), chart.bars));
         else

@@ -2,14 +2,14 @@
 
 #include "base/failure.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
-#include <string>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -22,91 +22,118 @@ namespace {
         reason = "the file or its folder may not be changed";
     else if (error == ENOENT)
         reason = "the file or its folder is not there";
+    else if (error == EEXIST)
+        reason = "an old temporary file is in the way";
+    else if (error == ENAMETOOLONG)
+        reason = "its name is too long";
     throw Failure(doing, reason, std::generic_category().message(error));
 }
 
-[[noreturn]] void FailToRead(const std::filesystem::path& file, const std::string& detail)
+/// Has the disk keep what was renamed in a folder.
+void SyncFolder(const std::filesystem::path& folder)
 {
-    throw Failure("The file " + file.filename().string() + " could not be copied", "it cannot be read", detail);
+    // A folder that cannot be synced (some network disks) does not make the rename undone.
+    const Descriptor directory(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (directory.Number() >= 0)
+        ::fsync(directory.Number());
 }
 
-/// A file descriptor that is closed on every way out.
-class Descriptor
+} // namespace
+
+Descriptor::~Descriptor()
 {
-public:
-    Descriptor(const std::filesystem::path& path, int flags, mode_t mode = 0)
-        : descriptor(::open(path.c_str(), flags | O_CLOEXEC, mode))
-    {
-    }
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int Number() const { return descriptor; }
-    bool Close()
-    {
-        const int closing = descriptor;
-        descriptor = -1;
-        return closing < 0 || ::close(closing) == 0;
-    }
-
-private:
-    int descriptor;
-};
-
-/// Returns 0, or the error at which the copy stopped.
-int CopyContent(int source, int target)
-{
-    std::array<char, 1 << 16> buffer{};
-    while (true) {
-        const ssize_t got = ::read(source, buffer.data(), buffer.size());
-        if (got == 0)
-            return 0;
-        if (got < 0)
-            return errno;
-        for (ssize_t done = 0; done < got;) {
-            const ssize_t written = ::write(target, buffer.data() + done, static_cast<size_t>(got - done));
-            if (written < 0)
-                return errno;
-            done += written;
-        }
-    }
+    if (descriptor >= 0)
+        ::close(descriptor);
 }
 
-enum class Sync
-{
-    No,
-    Yes
-};
+Descriptor::Descriptor(Descriptor&& other) noexcept : descriptor(std::exchange(other.descriptor, -1)) {}
 
-/// Returns 0, or the error at which the writing stopped.
-int WriteCopy(const std::filesystem::path& source, const std::filesystem::path& copy, Sync sync)
+Descriptor& Descriptor::operator=(Descriptor&& other) noexcept
 {
-    // Without waiting for what may come out of a pipe.
-    const Descriptor from(source, O_RDONLY | O_NONBLOCK);
+    std::swap(descriptor, other.descriptor);
+    return *this;
+}
+
+Descriptor OpenToRead(const std::filesystem::path& file)
+{
+    Descriptor opened(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat attributes = {};
-    if (from.Number() < 0 || ::fstat(from.Number(), &attributes) != 0)
-        FailToRead(source, std::generic_category().message(errno));
+    const std::string doing = "The file " + file.filename().string() + " could not be copied";
+    if (opened.Number() < 0 || ::fstat(opened.Number(), &attributes) != 0)
+        throw Failure(doing, "it cannot be read", std::generic_category().message(errno));
     if (!S_ISREG(attributes.st_mode))
-        FailToRead(source, "not a regular file");
-    Descriptor to(copy, O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    if (to.Number() < 0)
-        return errno;
-    if (const int error = CopyContent(from.Number(), to.Number()))
-        return error;
-    if (::fchmod(to.Number(), attributes.st_mode & 07777) != 0)
-        return errno;
-    if (sync == Sync::Yes && ::fsync(to.Number()) != 0)
-        return errno;
-    return to.Close() ? 0 : errno;
+        throw Failure(doing, "it cannot be read", "not a regular file");
+    return opened;
 }
 
-std::string NotWritten(const std::filesystem::path& target)
+TemporaryFile::TemporaryFile(std::filesystem::path targetPath, std::filesystem::path file, int opened)
+    : target(std::move(targetPath)), path(std::move(file)), descriptor(opened)
+{
+    if (opened < 0)
+        Fail(NotWritten(), errno);
+}
+
+TemporaryFile::TemporaryFile(const std::filesystem::path& file)
+    : TemporaryFile(file, file, ::open(file.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600))
+{
+}
+
+TemporaryFile TemporaryFile::Beside(const std::filesystem::path& target, const std::string& name)
+{
+    const auto replaced = FileBehind(target);
+    std::string beside = (replaced.parent_path() / (name + UnfinishedMark + "XXXXXX")).string();
+    const int opened = ::mkostemp(beside.data(), O_CLOEXEC);
+    return {replaced, beside, opened};
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (descriptor.Number() >= 0)
+        ::unlink(path.c_str());
+}
+
+std::string TemporaryFile::NotWritten() const
 {
     return "The file " + target.filename().string() + " could not be written";
 }
 
-} // namespace
+void TemporaryFile::CopyFrom(int source)
+{
+    std::array<char, 1 << 16> block{};
+    std::array<char, 1 << 16> written{};
+    for (off_t place = 0;;) {
+        const ssize_t got = ::pread(source, block.data(), block.size(), place);
+        if (got == 0)
+            return;
+        const ssize_t put = got < 0 ? got : ::pwrite(Number(), block.data(), static_cast<size_t>(got), place);
+        if (put < 0)
+            Fail(NotWritten(), errno);
+        if (::pread(Number(), written.data(), static_cast<size_t>(put), place) != put ||
+            !std::equal(block.begin(), block.begin() + put, written.begin()))
+            throw Failure(NotWritten(), "the disk reported an error", "the copy differs");
+        place += put;
+    }
+}
+
+void TemporaryFile::TakeRightsOf(int source)
+{
+    struct stat rights = {};
+    if (::fstat(source, &rights) != 0)
+        return;
+    // Only root may give a file away, and others to their own groups only; some disks hold neither owners nor rights.
+    const bool owned = ::fchown(Number(), rights.st_uid, rights.st_gid) == 0;
+    if (!owned && ::fchown(Number(), static_cast<uid_t>(-1), rights.st_gid) != 0)
+        rights.st_mode &= ~static_cast<mode_t>(S_IRWXG);
+    ::fchmod(Number(), rights.st_mode & 0777);
+}
+
+void TemporaryFile::RenameOver()
+{
+    if (::fsync(Number()) != 0 || ::rename(path.c_str(), target.c_str()) != 0)
+        Fail(NotWritten(), errno);
+    descriptor = Descriptor();
+    SyncFolder(target.parent_path());
+}
 
 std::filesystem::path FileBehind(const std::filesystem::path& path)
 {
@@ -114,67 +141,8 @@ std::filesystem::path FileBehind(const std::filesystem::path& path)
     return std::filesystem::is_symlink(path, missing) ? std::filesystem::weakly_canonical(path, missing) : path;
 }
 
-void CopyFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath,
-                  const std::function<void(const std::filesystem::path& beside)>& beforeRename)
-{
-    // A link stays a link: the file that it leads to is the one replaced.
-    const auto target = FileBehind(targetPath);
-    const auto beside = BesideFile(target);
-    try {
-        if (const int error = WriteCopy(source, beside, Sync::Yes))
-            Fail(NotWritten(target), error);
-        if (beforeRename)
-            beforeRename(beside);
-        if (::rename(beside.c_str(), target.c_str()) != 0)
-            Fail(NotWritten(target), errno);
-    } catch (...) {
-        ::unlink(beside.c_str());
-        throw;
-    }
-    SyncFolder(target.parent_path());
-}
-
-void CopyWorkingFile(const std::filesystem::path& source, const std::filesystem::path& copy)
-{
-    try {
-        if (const int error = WriteCopy(source, copy, Sync::No))
-            Fail(NotWritten(copy), error);
-    } catch (...) {
-        ::unlink(copy.c_str());
-        throw;
-    }
-}
-
-void MoveFileOver(const std::filesystem::path& source, const std::filesystem::path& targetPath)
-{
-    const auto target = FileBehind(targetPath);
-    if (::rename(source.c_str(), target.c_str()) == 0) {
-        SyncFolder(target.parent_path());
-        return;
-    }
-    if (errno != EXDEV)
-        Fail(NotWritten(target), errno);
-    CopyFileOver(source, target);
-    DeleteFileIfThere(source);
-}
-
-std::filesystem::path BesideFile(const std::filesystem::path& target)
-{
-    auto beside = target;
-    beside += ".new";
-    return beside;
-}
-
 void DeleteFileIfThere(const std::filesystem::path& file)
 {
     if (::unlink(file.c_str()) != 0 && errno != ENOENT)
         Fail("The file " + file.filename().string() + " could not be deleted", errno);
-}
-
-void SyncFolder(const std::filesystem::path& folder)
-{
-    // A folder that cannot be synced (some network disks) does not make the rename undone.
-    const Descriptor directory(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
-    if (directory.Number() >= 0)
-        ::fsync(directory.Number());
 }

@@ -1,16 +1,10 @@
 #include "records/compaction.h"
 
 #include "base/failure.h"
-#include "base/files.h"
 #include "records/engine.h"
 #include "records/file_lock.h"
 #include "records/statement.h"
 
-#include <cerrno>
-#include <fcntl.h>
-#include <filesystem>
-#include <fstream>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -55,15 +49,6 @@ void CopyMarks(sqlite3* engine, const std::string& doing)
     }
 }
 
-void MakeEmptyFile(const std::filesystem::path& file, const std::string& doing)
-{
-    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (descriptor < 0)
-        throw Failure(doing, errno == EEXIST ? "an old temporary file is in the way" : "the folder may not be changed",
-                      file.filename().string());
-    ::close(descriptor);
-}
-
 void Export(sqlite3* engine, const std::filesystem::path& destination, const std::string& doing)
 {
     {
@@ -91,32 +76,9 @@ void CompactDatabase(const std::filesystem::path& source, const std::filesystem:
                      const std::string& connect)
 {
     const std::string doing = "The file " + source.filename().string() + " could not be compacted";
-    MakeEmptyFile(destination, doing);
-    try {
-        FileLock lock;
-        lock.Share(source, doing);
-        const Engine engine = OpenGuarded(source, connect, lock.FirstBytes(SaltBytes), doing);
-        AllowExport(engine.get());
-        Export(engine.get(), destination, doing);
-        std::filesystem::permissions(destination, std::filesystem::status(source).permissions());
-    } catch (const std::filesystem::filesystem_error& error) {
-        DeleteFileIfThere(destination);
-        throw Failure(doing, "the access rights could not be copied", error.what());
-    } catch (...) {
-        DeleteFileIfThere(destination);
-        throw;
-    }
-}
-
-std::map<std::string, std::int64_t> CountRows(const std::filesystem::path& file, const std::string& connect,
-                                              const std::string& doing)
-{
-    std::string salt(SaltBytes, '\0');
-    // Closed again before the engine opens the file, whose locks would go with it.
-    std::ifstream(file, std::ios::binary).read(salt.data(), static_cast<std::streamsize>(salt.size()));
-    const Engine engine = OpenGuarded(file, connect, salt, doing);
-    std::map<std::string, std::int64_t> counts;
-    for (const std::string& table : TableNames(engine.get(), doing))
-        counts[table] = Rows(engine.get(), "main", table, doing);
-    return counts;
+    FileLock lock;
+    lock.Share(source, doing);
+    const Engine engine = OpenGuarded(source, connect, lock.FirstBytes(SaltBytes), doing);
+    AllowExport(engine.get());
+    Export(engine.get(), destination, doing);
 }

@@ -1,6 +1,7 @@
 #include "records/engine.h"
 
 #include "base/failure.h"
+#include "records/journals.h"
 #include "records/key_store.h"
 #include "records/statement.h"
 
@@ -166,6 +167,7 @@ Engine OpenGuarded(const std::filesystem::path& file, const std::string& connect
     std::error_code missing;
     if (const auto bytes = std::filesystem::file_size(file, missing); !missing && bytes > LargestFileBytes)
         throw Failure(doing, "it is far larger than any file of this program", std::to_string(bytes) + " bytes");
+    RefuseJournalOfSeveralFiles(file, doing);
     Engine owner = OpenEngine(file, SQLITE_OPEN_READWRITE, doing);
     sqlite3* const engine = owner.get();
     SetGuards(engine);

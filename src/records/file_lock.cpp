@@ -30,16 +30,16 @@ bool TryLock(int descriptor, short kind)
 
 bool FileLock::SharePresentFile(const std::filesystem::path& file, const std::string& doing)
 {
-    descriptor = ::open(file.c_str(), O_RDWR | O_CLOEXEC);
-    if (descriptor < 0 && (errno == EACCES || errno == EROFS || errno == EPERM))
-        descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
+    descriptor = Descriptor(::open(file.c_str(), O_RDWR | O_CLOEXEC));
+    if (Number() < 0 && (errno == EACCES || errno == EROFS || errno == EPERM))
+        descriptor = Descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (Number() < 0)
         throw Failure(doing, errno == ENOENT ? "the file is not there" : "the file cannot be opened",
                       std::strerror(errno));
     struct stat held = {};
     struct stat present = {};
     // Another copy may have renamed a new file over the one that was just opened.
-    const bool shared = TryLock(descriptor, F_RDLCK) && ::fstat(descriptor, &held) == 0 &&
+    const bool shared = TryLock(Number(), F_RDLCK) && ::fstat(Number(), &held) == 0 &&
                         ::stat(file.c_str(), &present) == 0 && held.st_dev == present.st_dev &&
                         held.st_ino == present.st_ino;
     if (!shared)
@@ -60,26 +60,13 @@ void FileLock::Share(const std::filesystem::path& file, const std::string& doing
 
 bool FileLock::TryAlone() const
 {
-    return descriptor >= 0 && TryLock(descriptor, F_WRLCK);
-}
-
-void FileLock::ShareAgain() const
-{
-    if (descriptor >= 0)
-        TryLock(descriptor, F_RDLCK);
+    return TryLock(Number(), F_WRLCK);
 }
 
 std::string FileLock::FirstBytes(std::size_t count) const
 {
     std::string bytes(count, '\0');
-    const ssize_t got = ::pread(descriptor, bytes.data(), count, 0);
+    const ssize_t got = ::pread(Number(), bytes.data(), count, 0);
     bytes.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
     return bytes;
-}
-
-void FileLock::Release()
-{
-    if (descriptor >= 0)
-        ::close(descriptor);
-    descriptor = -1;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
+#include "base/files.h"
 
 /// The mark by which copies of the program know of each other on one database file: every copy holds it shared while it
 /// has the file open, and only a copy that gets it alone may replace the file. A killed process leaves no mark behind.
@@ -9,27 +8,22 @@
 class FileLock
 {
 public:
-    FileLock() = default;
-    ~FileLock() { Release(); }
-    FileLock(const FileLock&) = delete;
-    FileLock& operator=(const FileLock&) = delete;
-
     /// Shares the file with other copies; waits a few seconds for one that is replacing it. Throws Failure.
     void Share(const std::filesystem::path& file, const std::string& doing);
 
     /// Tries to become the only holder, without waiting; false when another copy has the file open.
     bool TryAlone() const;
 
-    /// Lets other copies share the file again.
-    void ShareAgain() const;
+    /// The locked file, for what reads it without touching the engine's own locks.
+    int Number() const { return descriptor.Number(); }
 
-    /// Up to `count` bytes from the start of the locked file, read without touching the engine's own locks.
+    /// Up to `count` bytes from the start of the locked file.
     std::string FirstBytes(std::size_t count) const;
 
-    void Release();
+    void Release() { descriptor = Descriptor(); }
 
 private:
     bool SharePresentFile(const std::filesystem::path& file, const std::string& doing);
 
-    int descriptor = -1;
+    Descriptor descriptor;
 };

@@ -22,7 +22,7 @@ int main(int count, char** arguments)
     {
         SplashWindow frmsplash;
         frmsplash.ShowAtOnce();
-        OpenDatabasesAtStart();
+        OpenDatabases();
     }
     const TerminationWatch termination;
     MainWindow frmmain;

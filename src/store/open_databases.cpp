@@ -67,13 +67,18 @@ void SetProgramDir(const std::filesystem::path& folder)
 
 void OpenDatabaseFiles()
 {
-    DrawDb.Open(DrawDataPath, DrawConnect);
+    OpenDatabaseFilesWith(DrawDataPath, DrawDataPath);
+}
+
+void OpenDatabaseFilesWith(const std::filesystem::path& other, const std::filesystem::path& replacedLive)
+{
+    DrawDb.Open(replacedLive == DrawDataPath ? other : DrawDataPath, DrawConnect);
     ukmain.Open(DrawDb, DrawTable(MainGame));
     ukthunder.Open(DrawDb, DrawTable(ThunderballGame));
     ukmainlist.Open(DrawDb, DrawList(MainGame));
     ukthunderlist.Open(DrawDb, DrawList(ThunderballGame));
     links.Open(DrawDb, LinksTable());
-    UserDb.Open(UserDataPath);
+    UserDb.Open(replacedLive == UserDataPath ? other : UserDataPath);
     users.Open(UserDb, UsersTable());
     entries.Open(UserDb, EntriesTable());
 }

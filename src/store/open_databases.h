@@ -42,6 +42,9 @@ void SetProgramDir(const std::filesystem::path& folder);
 /// Opens both databases with their record sets, in place of those open before. Throws Failure.
 void OpenDatabaseFiles();
 
+/// The same with another file in the place of one of the two live ones.
+void OpenDatabaseFilesWith(const std::filesystem::path& other, const std::filesystem::path& replacedLive);
+
 /// Closes both databases with their record sets.
 void CloseDatabaseFiles();
 

@@ -19,8 +19,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -121,10 +119,16 @@ void AdvancedWindow::Import_Click(const DatabaseFile& file)
         ShowMessage(u"You can't use the current database files,"_s + Crlf + notAltered + u'.');
         return;
     }
-    const auto import = ReopeningOnFailure(notAltered, [&] {
+    const bool replaced = ReopeningOnFailure(notAltered, [&] {
         CloseDatabaseFiles();
-        return std::make_unique<Import>(file, PathOf(chosen));
+        Import import(file, PathOf(chosen));
+        if (!OpenOrEnd([&] { import.Prove(); }))
+            return false;
+        import.Complete();
+        return true;
     });
-    if (OpenImportedDatabases(*import))
-        ShowMessage(file.importDone);
+    if (!replaced)
+        return;
+    OpenDatabases();
+    ShowMessage(file.importDone);
 }

@@ -1,5 +1,7 @@
 #include "utilities/database_file.h"
 
+#include "base/failure.h"
+#include "base/files.h"
 #include "store/open_databases.h"
 
 #include <QFile>
@@ -24,6 +26,19 @@ DatabaseFile UserDatabaseFile()
             u"The user entry database"_s,
             u"A copy of the user entry database has been stored."_s,
             u"The user entry database has been replaced."_s};
+}
+
+void RefuseWorkingFile(const std::filesystem::path& chosen, const std::string& doing)
+{
+    const std::string name = chosen.filename().string();
+    for (const auto& live : {DrawDataPath, UserDataPath}) {
+        const std::string liveName = live.filename().string();
+        std::error_code missing;
+        if ((name.starts_with(live.stem().string() + ".tp1") || name.starts_with(live.stem().string() + ".tp2") ||
+             name.starts_with(liveName + UnfinishedMark) || name.starts_with(liveName + '-')) &&
+            std::filesystem::equivalent(chosen.parent_path(), live.parent_path(), missing))
+            throw Failure(doing, "the chosen name is that of one of the program's own working files", chosen.string());
+    }
 }
 
 bool IsLivePath(const QString& chosen)

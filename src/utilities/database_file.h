@@ -20,5 +20,9 @@ struct DatabaseFile
 DatabaseFile DrawDatabaseFile();
 DatabaseFile UserDatabaseFile();
 
+/// Refuses a path that is that of a file which the program itself puts beside a live file for a while, and would delete
+/// or take for its own there. Throws Failure with the given clause.
+void RefuseWorkingFile(const std::filesystem::path& chosen, const std::string& doing);
+
 /// Whether a chosen path is, letter for letter, that of one of the two live files.
 bool IsLivePath(const QString& chosen);

@@ -1,32 +1,29 @@
 #pragma once
 
 #include "records/held_file.h"
+#include "utilities/database_file.h"
 
-#include <filesystem>
-#include <string>
+#include <optional>
 
-struct DatabaseFile;
-
-/// The replacement of a live file by another one, as one transaction: from the first step on the old file lies aside,
-/// as .tp0 in the program folder, until the import is completed. Where that does not come, for whatever reason, the
-/// next start puts the old file back. Both databases are closed at the beginning.
+/// The replacement of a live file by another one. The chosen file is copied beside the live one and proved there, so
+/// that the live file is, at every moment, the old one or the whole new one, of which every row could be read. Until
+/// the import is over, no other copy of the program opens the live file. Both databases are closed at the beginning.
 class Import
 {
 public:
-    /// Keeps the live file aside and replaces it by a copy of the chosen one, whose content is not looked at. Throws
-    /// Failure when another copy of the program has the file open, the chosen one is in the middle of a change, or the
-    /// disk refuses; the live file is then as it was and nothing lies aside.
-    Import(const DatabaseFile& file, const std::filesystem::path& chosen);
+    /// Copies the chosen file, whose content is not looked at. Throws Failure when another copy of the program has the
+    /// live file open, the chosen one is in the middle of a change, or the disk refuses.
+    Import(const DatabaseFile& imported, const std::filesystem::path& chosen);
 
-    /// To be called when both databases are open on the new file and proved readable: lets go of the old one. Throws
-    /// Failure; the next start puts the old file back then.
+    /// Opens both databases, with the copy in the place of the live file, reads every row and closes them again. Throws
+    /// Failure; the import is over then, and nothing is left of it.
+    void Prove();
+
+    /// Puts the copy in the place of the live file. Throws Failure; the live file is as it was then.
     void Complete();
 
 private:
-    HeldFile live;
+    DatabaseFile file;
+    std::optional<HeldFile> live;
+    std::optional<TemporaryFile> copy;
 };
-
-/// Puts back the live files that unfinished imports kept aside, and clears away what else an interrupted run left in
-/// the program folder. What belongs to another running copy of the program is left alone. Both databases are closed.
-/// Throws Failure where a kept file cannot be put back.
-void PutBackKeptFiles();

@@ -2,17 +2,13 @@
 
 #include "controls/message_box.h"
 #include "store/open_databases.h"
-#include "utilities/import.h"
 #include "utilities/shut_down.h"
 
 #include <QStringList>
 
 #include <exception>
-#include <functional>
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 bool OpenOrEnd(const std::function<void()>& open)
 {
@@ -30,26 +26,7 @@ bool OpenOrEnd(const std::function<void()>& open)
     }
 }
 
-} // namespace
-
 void OpenDatabases()
 {
     OpenOrEnd(OpenDatabaseFiles);
-}
-
-void OpenDatabasesAtStart()
-{
-    OpenOrEnd([] {
-        PutBackKeptFiles();
-        OpenDatabaseFiles();
-    });
-}
-
-bool OpenImportedDatabases(Import& import)
-{
-    return OpenOrEnd([&] {
-        OpenDatabaseFiles();
-        ReadEveryRow();
-        import.Complete();
-    });
 }

@@ -1,17 +1,24 @@
 #include "support/forked.h"
 #include "support/test_window.h"
 
+#include "records/held_file.h"
+
 #include <QSet>
 
+#include <cstdarg>
+#include <fcntl.h>
 #include <memory>
 #include <random>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int Rounds = 8;
+std::function<void()> BeforeTheNextLock;
 
 /// One copy of the program: it opens, stores and ends again and again, and says which rows were stored.
 void UseFolder(unsigned seed, const ForkedProcess::Say& say)
@@ -87,6 +94,17 @@ void RunCopies(int copies)
 
 } // namespace
 
+extern "C" int fcntl(int file, int command, ...)
+{
+    va_list rest;
+    va_start(rest, command);
+    void* argument = va_arg(rest, void*);
+    va_end(rest);
+    if (command == F_OFD_SETLK && BeforeTheNextLock)
+        std::exchange(BeforeTheNextLock, nullptr)();
+    return static_cast<int>(::syscall(SYS_fcntl, file, command, argument));
+}
+
 class CopiesTest : public QObject
 {
     Q_OBJECT
@@ -113,6 +131,19 @@ private Q_SLOTS:
         QCOMPARE(CloseAndCompactFiles(), QString());
         QVERIFY(FileNumber(UserDataPath) != before);
         QCOMPARE(TestFolder::StoredRows("users"), (QStringList{"1,Ann,1", "2,Ann,1"}));
+    }
+
+    void FileThatIsReplacedBeforeItIsLockedIsOpenedAnew()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const QString next = folder.Path("next.tv3");
+        QFile::copy(folder.Path("userdata.tv3"), next);
+        InAnotherCopy(next.toStdString(), {}, UsersTable(), [](RecordSet& theirs) { AddUser(theirs, "New", 1); });
+        BeforeTheNextLock = [&] { std::filesystem::rename(next.toStdString(), UserDataPath); };
+        HeldFile held(UserDataPath, {}, "The file could not be held");
+        QVERIFY(!BeforeTheNextLock && held.Alone());
+        held.Compact();
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
     }
 
     void OtherCopysChangeIsOnTheNextPage()

@@ -6,7 +6,9 @@
 
 #include <QDir>
 
+#include <cerrno>
 #include <ctime>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -15,6 +17,7 @@ namespace {
 
 constexpr uid_t Nobody = 65534;
 time_t ClockSetBack = 0;
+bool RightsRefused = false;
 
 using Trouble = std::function<void(const QString& folder)>;
 
@@ -40,6 +43,19 @@ extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
     return result;
 }
 
+// As on a disk that holds neither owners nor rights.
+extern "C" int fchmod(int file, mode_t mode) noexcept
+{
+    errno = EPERM;
+    return RightsRefused ? -1 : static_cast<int>(::syscall(SYS_fchmod, file, mode));
+}
+
+extern "C" int chmod(const char* file, mode_t mode) noexcept
+{
+    errno = EPERM;
+    return RightsRefused ? -1 : static_cast<int>(::syscall(SYS_fchmodat, AT_FDCWD, file, mode));
+}
+
 class FolderTroublesTest : public QObject
 {
     Q_OBJECT
@@ -51,6 +67,7 @@ private Q_SLOTS:
         const Trouble moved = [](const QString& folder) { QDir().rename(folder, folder + ".moved"); };
         const Trouble removed = [](const QString& folder) { QDir(folder).removeRecursively(); };
         const Trouble clockSetBack = [](const QString&) { ClockSetBack = 40L * 365 * 86400; };
+        const Trouble rightsRefused = [](const QString&) { RightsRefused = true; };
         const QString refused = "could not be changed, because the file or its folder may not be changed.";
         const bool isRoot = ::geteuid() == 0;
         // What is wrong at the start and what meanwhile, and what is told of it.
@@ -63,7 +80,8 @@ private Q_SLOTS:
               {Rights("userdata.tv3", isRoot ? 0600 : 0, true), none, "There is a problem with the database files."},
               {none, moved, refused},
               {none, removed, refused},
-              {none, clockSetBack, {}}})
+              {none, clockSetBack, {}},
+              {none, rightsRefused, {}}})
             StoreAUser(atStart, meanwhile, told);
     }
 
@@ -88,7 +106,7 @@ private:
                 say(window.modals.TakeTexts().join(u'|').replace("\r\n", " "));
                 ::_exit(0);
             };
-            OpenDatabasesAtStart();
+            OpenDatabases();
             window.OpenPage(3, 1);
             window.Click("F11adduser");
             window.Find<QLineEdit>("F11seluser")->setText("Ben");
@@ -107,7 +125,7 @@ private:
         // Whoever may has the rights back, and finds all that was stored.
         Rights({}, 0700)(folder);
         Rights("userdata.tv3", 0600)(folder);
-        OpenDatabasesAtStart();
+        OpenDatabases();
         QCOMPARE(TestFolder::StoredRows("users"),
                  (told.isEmpty() ? QStringList{"1,Ann,1", "2,Ben,0"} : QStringList{"1,Ann,1"}));
         QCOMPARE(CloseAndCompactFiles(), QString());

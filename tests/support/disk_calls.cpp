@@ -4,6 +4,10 @@
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <string>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -18,12 +22,80 @@ int CallsMade = 0;
 int Error = 0;
 bool Came = false;
 
+/// The bytes of a file as of its last sync.
+using Synced = std::shared_ptr<std::string>;
+/// By the files' own numbers, and under the names that the folders had as of their last sync.
+std::map<ino_t, Synced> SyncedFiles;
+std::map<std::filesystem::path, std::map<std::string, Synced>> SyncedFolders;
+
+ino_t FileNumber(const std::filesystem::path& file)
+{
+    struct stat attributes = {};
+    return ::lstat(file.c_str(), &attributes) == 0 ? attributes.st_ino : 0;
+}
+
+Synced& SyncedFile(ino_t number)
+{
+    Synced& file = SyncedFiles[number];
+    if (file == nullptr)
+        file = std::make_shared<std::string>();
+    return file;
+}
+
+void SyncNames(const std::filesystem::path& folder)
+{
+    auto& names = SyncedFolders[folder];
+    names.clear();
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        names[entry.path().filename()] = SyncedFile(FileNumber(entry.path()));
+}
+
+/// Through the descriptor itself: another one, once closed, would take the engine's locks with it.
+void SyncBytes(int descriptor, const struct stat& attributes)
+{
+    std::string bytes(static_cast<size_t>(attributes.st_size), '\0');
+    (void)!::pread(descriptor, bytes.data(), bytes.size(), 0);
+    *SyncedFile(attributes.st_ino) = bytes;
+}
+
+void Sync(int descriptor)
+{
+    struct stat attributes = {};
+    if (SyncedFolders.empty() || ::fstat(descriptor, &attributes) != 0)
+        return;
+    if (S_ISREG(attributes.st_mode))
+        SyncBytes(descriptor, attributes);
+    for (const auto& [folder, names] : SyncedFolders)
+        if (FileNumber(folder) == attributes.st_ino)
+            SyncNames(folder);
+}
+
+/// The file that loses its name is not that of its number any more.
+void Forget(const char* path)
+{
+    SyncedFiles.erase(FileNumber(path));
+}
+
+void LoseWhatIsNotSynced()
+{
+    for (const auto& [folder, names] : SyncedFolders) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            ::syscall(SYS_unlink, entry.path().c_str());
+        for (const auto& [name, bytes] : names)
+            std::ofstream(folder / name, std::ios::binary) << *bytes;
+    }
+}
+
 /// Whether this call fails. `takesRoom`: whether a full disk would refuse it.
 bool Fails(bool takesRoom)
 {
     if (ChosenCall == 0 || ++CallsMade < ChosenCall)
         return false;
-    if (Planned == DiskFault::Stop)
+    if (Planned == DiskFault::PowerCut) {
+        ChosenCall = 0;
+        LoseWhatIsNotSynced();
+    }
+    if (Planned == DiskFault::Stop || Planned == DiskFault::PowerCut)
         ::kill(::getpid(), SIGKILL);
     if (Planned == DiskFault::OneFailure ? CallsMade > ChosenCall : Error == ENOSPC && !takesRoom)
         return false;
@@ -42,8 +114,16 @@ bool Fails(int descriptor, bool takesRoom)
 
 } // namespace
 
-void PlanDiskFault(DiskFault fault, int call, int error)
+void PlanDiskFault(DiskFault fault, int call, int error, const std::vector<std::filesystem::path>& folders)
 {
+    for (const auto& folder : folders) {
+        SyncNames(folder);
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            const int file = ::open(entry.path().c_str(), O_RDONLY);
+            Sync(file);
+            ::close(file);
+        }
+    }
     Planned = fault;
     ChosenCall = call;
     CallsMade = 0;
@@ -59,24 +139,33 @@ extern "C" {
 
 int rename(const char* from, const char* to) noexcept
 {
-    return Fails(false) ? -1 : static_cast<int>(::syscall(SYS_rename, from, to));
+    if (Fails(false))
+        return -1;
+    Forget(to);
+    return static_cast<int>(::syscall(SYS_rename, from, to));
 }
 
 int unlink(const char* path) noexcept
 {
     // The engine also deletes what is not there.
-    return ::access(path, F_OK) == 0 && Fails(false) ? -1 : static_cast<int>(::syscall(SYS_unlink, path));
+    if (::access(path, F_OK) == 0 && Fails(false))
+        return -1;
+    Forget(path);
+    return static_cast<int>(::syscall(SYS_unlink, path));
 }
 
 // What a killed process has written is not lost with it, so there is no need to wait for the disk.
 int fsync(int descriptor)
 {
-    return Fails(descriptor, false) ? -1 : 0;
+    if (Fails(descriptor, false))
+        return -1;
+    Sync(descriptor);
+    return 0;
 }
 
 int fdatasync(int descriptor)
 {
-    return Fails(descriptor, false) ? -1 : 0;
+    return fsync(descriptor);
 }
 
 int ftruncate64(int descriptor, off64_t length) noexcept

@@ -1,9 +1,12 @@
+#include "support/failure_of.h"
 #include "support/file_bytes.h"
 #include "support/full_disk.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
-#include "records/file_lock.h"
+#include "utilities/backup.h"
+#include "utilities/database_file.h"
+#include "utilities/shut_down.h"
 #include "utilities/start_up.h"
 
 #include <QDialogButtonBox>
@@ -88,7 +91,7 @@ public:
     static void StartAgain()
     {
         CloseDatabaseFiles();
-        OpenDatabasesAtStart();
+        OpenDatabases();
     }
 
     TestWindow window{TestFolder::Content::Starter};
@@ -151,20 +154,43 @@ private Q_SLOTS:
     {
         Utilities utilities;
         const QString copy = utilities.Own("copy.tv3");
+        WriteBytes(copy, "old");
+        const auto refused = [&](const QString& why) {
+            utilities.Do("exportuser", copy, {QMessageBox::Yes, QMessageBox::Ok});
+            const QString told = utilities.window.modals.TakeTexts().last();
+            QVERIFY2(told.startsWith(UserNotStored + "\r\n") && told.contains(why), qPrintable(told));
+            QCOMPARE(BytesOf(copy), QByteArray("old"));
+        };
         // Beside the new file it would be taken for a journal of that one.
         const QString journal = utilities.Own("copy.tv3-journal");
-        WriteBytes(copy, "old");
         WriteBytes(journal, "old");
-        // A backup that fails half-way keeps the older one.
-        QVERIFY(QDir(copy + ".new").mkpath("."));
-        utilities.Do("exportuser", copy, {QMessageBox::Yes, QMessageBox::Ok});
-        QVERIFY(utilities.window.modals.TakeTexts().last().startsWith(UserNotStored + "\r\n"));
-        QCOMPARE(BytesOf(copy), QByteArray("old"));
-        QVERIFY(QDir().rmdir(copy + ".new"));
+        refused("a change of it was cut short");
+        QVERIFY(QFile::remove(journal));
+        FileLock otherCopy;
+        otherCopy.Share(copy.toStdString(), "The other copy could not open the file");
+        refused("another copy of the program is using the chosen file");
+        otherCopy.Release();
         utilities.Do("exportuser", copy, {QMessageBox::No});
-        QVERIFY(BytesOf(copy) == "old" && QFile::exists(journal));
+        QCOMPARE(BytesOf(copy), QByteArray("old"));
+        // The player's own, whatever names they have.
+        WriteBytes(copy + ".new", "own");
+        WriteBytes(copy + ".new-journal", "own");
         utilities.Do("exportuser", copy, {QMessageBox::Yes, QMessageBox::Ok});
-        QVERIFY(BytesOf(copy) != "old" && !QFile::exists(journal));
+        QCOMPARE(BytesOf(copy), BytesOf(utilities.Live("user")));
+        QVERIFY(BytesOf(copy + ".new") == "own" && BytesOf(copy + ".new-journal") == "own");
+    }
+
+    void LongNameIsTakenOrRefusedAtOnce()
+    {
+        Utilities utilities;
+        for (const auto& [length, reason] : {std::pair(250, ""), {255, ""}, {256, "the chosen name is too long"}}) {
+            const QByteArray before = BytesOf(utilities.Live("user"));
+            const QString copy = utilities.Own(QString(length - 4, u'n') + ".tv3");
+            CloseDatabaseFiles();
+            QCOMPARE(FailureOf([&] { BackUp(UserDatabaseFile(), copy.toStdString()); }).reason, QString(reason));
+            QCOMPARE(BytesOf(*reason == '\0' ? copy : utilities.Live("user")),
+                     *reason == '\0' ? BytesOf(utilities.Live("user")) : before);
+        }
     }
 
     void LiveFilesAreRefused()
@@ -186,8 +212,14 @@ private Q_SLOTS:
         }
         QVERIFY(QFile::link(utilities.Live("user"), utilities.Own("other.tv3")));
         refused("exportdraw", utilities.Own("other.tv3"), DrawNotStored + "\r\n");
-        for (const QString own : {"drawdata.tp0", "userdata.tp2", "userdata.tv3.new", "userdata.tv3-journal"})
-            refused("exportdraw", utilities.window.files.Path(own), DrawNotStored + "\r\n");
+        for (const QString name :
+             {"drawdata.tp1", "userdata.tp2", "userdata.tv3.unfinished-x", "userdata.tv3-journal"}) {
+            const QString own = utilities.window.files.Path(name);
+            refused("exportdraw", own, DrawNotStored + "\r\n");
+            WriteBytes(own, {});
+            refused("importdraw", own, DrawNotAltered + "\r\n");
+            QVERIFY(QFile::remove(own));
+        }
         QFile::copy(TAVENOR_STARTER "/userdata.tv3", utilities.Own("unfinished.tv3"));
         WriteBytes(utilities.Own("unfinished.tv3-journal"), "rows");
         refused("importuser", utilities.Own("unfinished.tv3"),
@@ -198,11 +230,22 @@ private Q_SLOTS:
     void LeftoversAreClearedAwayWhereTheyCan()
     {
         Utilities utilities;
-        QVERIFY(QDir().mkdir(utilities.window.files.Path("drawdata.tp1")));
-        WriteBytes(utilities.window.files.Path("drawdata.tp2"), "left");
+        const auto inFolder = [&](const char* name) { return utilities.window.files.Path(name); };
+        WriteBytes(utilities.Own("letter"), "mine");
+        for (const char* name : {"drawdata.tp1", "drawdata.tp2", "userdata.tv3.unfinished-x"})
+            WriteBytes(inFolder(name), "left");
+        for (const char* name :
+             {"userdata.tp1", "userdata.tp2", "userdata.tv3.new", "drawdata.tv3.new", "drawdata.tp0"})
+            QVERIFY(QFile::link(utilities.Own("letter"), inFolder(name)));
+        QCOMPARE(CloseAndCompactFiles(), QString());
+        QCOMPARE(utilities.window.files.Files(),
+                 (QStringList{"drawdata.tp0", "drawdata.tv3", "drawdata.tv3.new", "userdata.tv3", "userdata.tv3.new"}));
+        QCOMPARE(BytesOf(utilities.Own("letter")), QByteArray("mine"));
+        QVERIFY(QDir().mkdir(inFolder("drawdata.tp1")));
         Utilities::StartAgain();
         QVERIFY(!utilities.window.ended);
-        QCOMPARE(utilities.window.files.Files(), BothFiles);
+        QCOMPARE(Utilities::Rows(), utilities.rows);
+        QVERIFY(CloseAndCompactFiles().contains("drawdata.tp1 could not be deleted"));
         QCOMPARE(Utilities::Rows(), utilities.rows);
     }
 
@@ -211,14 +254,17 @@ private Q_SLOTS:
         for (const Kind& kind : Kinds) {
             Utilities utilities;
             const QString other = utilities.Live(kind.name == "draw" ? "user" : "draw");
-            const QString chosen = utilities.Own("chosen.tv3");
+            // Names that the program has no files of its own under.
+            const QString chosen =
+                utilities.window.files.Path(kind.name == "draw" ? "drawdata.tp0" : "userdata.tv3.new");
             QFile::copy(TAVENOR_STARTER "/" + kind.name + "data.tv3", chosen);
             QFile::setPermissions(chosen, QFile::ReadOwner);
             const QByteArray untouched = BytesOf(other);
             utilities.Do("import" + kind.name, chosen, {QMessageBox::Ok});
             QCOMPARE(utilities.window.modals.TakeTexts(), QStringList{kind.replaced});
-            QCOMPARE(BytesOf(utilities.Live(kind.name)), BytesOf(chosen));
+            QCOMPARE(BytesOf(utilities.Live(kind.name)), BytesOf(TAVENOR_STARTER "/" + kind.name + "data.tv3"));
             QCOMPARE(BytesOf(other), untouched);
+            QVERIFY(QFile::remove(chosen));
             QVERIFY(QFile::permissions(utilities.Live(kind.name)) & QFile::WriteOwner);
             QCOMPARE(utilities.window.files.Files(), BothFiles);
             AddUser(users, "Bob", 1);
@@ -240,13 +286,24 @@ private Q_SLOTS:
             const QString bad = utilities.Own("bad.tv3");
             WriteBytes(bad, bytes);
             RunSql(bad.toStdString(), connect, sql);
+            // Before the process ends, another copy of the program is at work already.
+            EndProcess = [&utilities] {
+                utilities.window.ended = true;
+                InAnotherCopy(UserDataPath, {}, UsersTable(), [](RecordSet& theirs) { AddUser(theirs, "Eve", 1); });
+            };
             utilities.Do("import" + kind, bad, {QMessageBox::Ok});
             const QList<SeenBox> seen = utilities.window.modals.TakeSeen();
             QVERIFY2(seen.size() == 1 && seen[0].icon == QMessageBox::Critical && utilities.window.ended, name);
             QVERIFY(seen[0].text.startsWith("There is a problem with the database files."));
             Utilities::StartAgain();
-            QVERIFY2(Utilities::Rows() == utilities.rows, name);
+            QVERIFY2(Utilities::Rows() == utilities.rows + QStringList{"3,Eve,1"}, name);
             QCOMPARE(utilities.window.files.Files(), BothFiles);
+            // The player does as the message says; no file of another kind takes the good one's place.
+            CloseDatabaseFiles();
+            WriteBytes(utilities.window.files.Path("userdata.tp0"), "kept");
+            RunSql(UserDataPath, {}, "DELETE FROM users");
+            OpenDatabases();
+            QVERIFY(users.IsEmpty());
         };
         costs("garbage as draws", "draw", QByteArray(100000, 'g'));
         costs("garbage as users", "user", QByteArray(100000, 'g'));
@@ -285,7 +342,6 @@ private Q_SLOTS:
             QCOMPARE(Utilities::Rows(), utilities.rows);
         };
         fails("exportdraw", 0, 40000, DrawNotStored + "\r\nThe file drawdata.tp1");
-        fails("importdraw", 100, 40000, DrawNotAltered + "\r\nThe file drawdata.tp0");
         fails("importuser", 200000, 150000, UserNotAltered + "\r\nThe file userdata.tv3");
     }
 
@@ -296,11 +352,15 @@ private Q_SLOTS:
         FileLock otherCopy;
         otherCopy.Share(live.toStdString(), "The other copy could not open the file");
         const QByteArray bytes = BytesOf(live);
+        const QString theirs = utilities.window.files.Path("userdata.tp2");
+        WriteBytes(theirs, "theirs");
         const auto told = [&](const QString& button) {
             utilities.Do(button, utilities.Own("copy.tv3"), {QMessageBox::Ok});
             return utilities.window.modals.TakeTexts().value(0);
         };
         QCOMPARE(told("exportuser"), Kinds[1].stored);
+        QCOMPARE(BytesOf(theirs), QByteArray("theirs"));
+        QVERIFY(QFile::remove(theirs));
         QVERIFY(told("importuser")
                     .startsWith(UserNotAltered + "\r\nThe file userdata.tv3 could not be replaced, because another "
                                                  "copy of the program"));

@@ -6,7 +6,8 @@
 
 #include "utilities/database_file.h"
 #include "utilities/import.h"
-#include "utilities/start_up.h"
+
+#include <QtEndian>
 
 #include <csignal>
 #include <sys/stat.h>
@@ -36,36 +37,26 @@ class InterruptedImportTest : public QObject
 private Q_SLOTS:
     void UnfinishedChangeIsTakenBackBeforeTheFileIsReplaced()
     {
-        TestFolder folder(TestFolder::Content::Empty);
-        OpenDatabaseFiles();
-        AddUser(users, "Old", 1);
-        CloseDatabaseFiles();
-        QVERIFY(LeaveUnfinishedChange());
-        QVERIFY(QFile::exists(folder.Path("userdata.tv3-journal")));
-        const QTemporaryDir own;
-        WriteBytes(own.filePath("garbage.tv3"), "garbage");
-        {
-            const Import import(UserDatabaseFile(), own.filePath("garbage.tv3").toStdString());
-            QVERIFY(!QFile::exists(folder.Path("userdata.tv3-journal")));
+        // In the folder, or where a link in it leads to.
+        for (const bool link : {false, true}) {
+            const TestFolder folder(TestFolder::Content::Empty);
+            const QTemporaryDir own;
+            const QString live = folder.Path("userdata.tv3");
+            const QString real = link ? own.filePath("real.tv3") : live;
+            QFile::copy(live, own.filePath("chosen.tv3"));
+            RunSql(own.filePath("chosen.tv3").toStdString(), {}, "INSERT INTO users VALUES (1, 'New', 1)");
+            RunSql(UserDataPath, {}, "INSERT INTO users VALUES (1, 'Old', 1)");
+            if (link)
+                QVERIFY(QFile::rename(live, real) && QFile::link(real, live));
+            QVERIFY(LeaveUnfinishedChange() && QFile::exists(real + "-journal"));
+            Import import(UserDatabaseFile(), own.filePath("chosen.tv3").toStdString());
+            QVERIFY(!QFile::exists(real + "-journal"));
+            import.Prove();
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+            import.Complete();
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
+            QVERIFY(QFileInfo(live).isSymLink() == link);
         }
-        OpenDatabasesAtStart();
-        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
-    }
-
-    void JournalBesideTheFileBehindALinkIsNotTakenForTheOldFiles()
-    {
-        const TestFolder folder(TestFolder::Content::Empty);
-        const QTemporaryDir own;
-        RunSql(UserDataPath, {}, "INSERT INTO users VALUES (1, 'Old', 1)");
-        QFile::rename(folder.Path("userdata.tv3"), folder.Path("userdata.tp0"));
-        QFile::copy(folder.Path("userdata.tp0"), own.filePath("real.tv3"));
-        QFile::link(own.filePath("real.tv3"), folder.Path("userdata.tv3"));
-        RunSql(UserDataPath, {}, "DELETE FROM users; INSERT INTO users VALUES (2, hex(zeroblob(20000)), 2)");
-        QVERIFY(LeaveUnfinishedChange());
-        QVERIFY(QFile::exists(own.filePath("real.tv3-journal")));
-        OpenDatabasesAtStart();
-        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
-        QVERIFY(QFileInfo(folder.Path("userdata.tv3")).isSymLink());
     }
 
     void PipeIsNoFileToImport()
@@ -79,20 +70,47 @@ private Q_SLOTS:
         QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
     }
 
-    void OtherCopysImportIsLeftAlone()
+    void NoCopyOpensAFileWhoseImportIsNotProved()
     {
-        TestFolder folder(TestFolder::Content::Empty);
+        const TestFolder folder(TestFolder::Content::Empty);
         const QTemporaryDir own;
-        const QString chosen = own.filePath("chosen.tv3");
-        QFile::copy(folder.Path("userdata.tv3"), chosen);
-        RunSql(chosen.toStdString(), {}, "INSERT INTO users VALUES (1, 'New', 1)");
-        Import import(UserDatabaseFile(), chosen.toStdString());
-        // A second copy of the program starts while the first one is still about to open the new file.
-        OpenDatabasesAtStart();
-        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
-        QVERIFY(QFile::exists(folder.Path("userdata.tp0")));
-        import.Complete();
-        QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+        QFile::copy(folder.Path("userdata.tv3"), own.filePath("chosen.tv3"));
+        {
+            Import import(UserDatabaseFile(), own.filePath("chosen.tv3").toStdString());
+            QCOMPARE(FailureOf(OpenDatabaseFiles).reason, QString("another program is using the file"));
+            import.Prove();
+            import.Complete();
+        }
+        OpenDatabaseFiles();
+        QCOMPARE(users.Count(), 0);
+    }
+
+    void JournalThatNamesAnotherFileIsRefused()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const QTemporaryDir own;
+        const QString letter = own.filePath("letter");
+        const QByteArray mark = QByteArray::fromHex("d9d505f920a163d7");
+        const QByteArray name = letter.toLocal8Bit();
+        QByteArray journal = mark;
+        journal.resize(600);
+        quint32 sum = 0;
+        for (const char byte : name)
+            sum += static_cast<quint32>(byte);
+        const auto number = [](quint32 value) {
+            QByteArray bytes(4, 0);
+            qToBigEndian(value, bytes.data());
+            return bytes;
+        };
+        journal += number(0x40000001) + name + number(static_cast<quint32>(name.size())) + number(sum) + mark;
+        for (const char* live : {"userdata.tv3", "drawdata.tv3"}) {
+            WriteBytes(letter, "mine");
+            WriteBytes(folder.Path(QString(live) + "-journal"), journal);
+            QCOMPARE(FailureOf(OpenDatabaseFiles).reason, QString("the journal beside it names another file"));
+            QVERIFY(CloseAndCompactFiles().contains("the journal beside it names another file"));
+            QCOMPARE(BytesOf(letter), QByteArray("mine"));
+            QVERIFY(QFile::remove(folder.Path(QString(live) + "-journal")));
+        }
     }
 };
 
