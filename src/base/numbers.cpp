@@ -1,5 +1,8 @@
 #include "base/numbers.h"
 
+#include <QLocale>
+
+#include <algorithm>
 #include <cfloat>
 #include <charconv>
 #include <cmath>
@@ -7,71 +10,45 @@
 
 namespace {
 
-constexpr double LargestExactWhole = 9007199254740992.0;
-
-template <typename Text>
-double ReadLeadingNumber(const Text& text)
+bool IsDigit(char character)
 {
-    std::string number;
-    bool point = false;
-    bool digits = false;
-    for (const auto character : text) {
-        const auto unit = static_cast<char32_t>(QChar(character).unicode());
-        if (unit == U' ' || unit == U'\t')
-            continue;
-        if ((unit == U'-' || unit == U'+') && number.empty()) {
-            number += static_cast<char>(unit);
-        } else if (unit == U'.' && !point) {
-            point = true;
-            number += '.';
-        } else if (unit >= U'0' && unit <= U'9') {
-            digits = true;
-            number += static_cast<char>(unit);
-        } else {
-            break;
-        }
-    }
-    if (!digits)
-        return 0;
-    const char* first = number.c_str() + (number.front() == '+' ? 1 : 0);
-    double value = 0;
-    const auto result = std::from_chars(first, number.c_str() + number.size(), value, std::chars_format::fixed);
-    if (result.ec == std::errc::result_out_of_range) {
-        // The same error stands for too large and for too close to zero; only the first has a digit before the point.
-        const auto whole = number.substr(0, number.find('.'));
-        if (whole.find_first_of("123456789") == std::string::npos)
-            return 0;
-        return number.front() == '-' ? -DBL_MAX : DBL_MAX;
-    }
-    return value == 0 ? 0 : value;
+    return character >= '0' && character <= '9';
 }
 
 } // namespace
 
 double NumericValue(QStringView text)
 {
-    return ReadLeadingNumber(text);
+    const QByteArray utf8 = text.toUtf8();
+    return NumericValue(std::string_view(utf8.constData(), static_cast<size_t>(utf8.size())));
 }
 
 double NumericValue(std::string_view utf8)
 {
-    // Every byte of a character outside ASCII ends the number, so the bytes can be read one by one.
-    struct Bytes
-    {
-        const unsigned char* first;
-        const unsigned char* last;
-        const unsigned char* begin() const { return first; }
-        const unsigned char* end() const { return last; }
-    };
-    const auto* first = reinterpret_cast<const unsigned char*>(utf8.data());
-    return ReadLeadingNumber(Bytes{first, first + utf8.size()});
+    std::string number;
+    for (const char character : utf8) {
+        if (character == ' ' || character == '\t')
+            continue;
+        const bool isSign = number.empty() && (character == '-' || character == '+');
+        const bool isPoint = character == '.' && number.find('.') == std::string::npos;
+        if (!IsDigit(character) && !isSign && !isPoint)
+            break;
+        number += character;
+    }
+    const bool isNegative = number.starts_with('-');
+    if (isNegative || number.starts_with('+'))
+        number.erase(0, 1);
+    double value = 0;
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::fixed);
+    // Out of range is what is too large, and what is too close to zero, with no digit that counts before the point.
+    if (read.ec == std::errc::result_out_of_range && number.find_first_of("123456789") < number.find('.'))
+        value = DBL_MAX;
+    return isNegative ? 0 - value : value;
 }
 
 QString PlainNumber(double value)
 {
-    if (value == std::floor(value) && std::fabs(value) < LargestExactWhole)
-        return QString::number(static_cast<qint64>(value));
-    return QString::number(value, 'g', 15);
+    return QString::number(std::clamp(value, -DBL_MAX, DBL_MAX) + 0.0, 'f', QLocale::FloatingPointShortest);
 }
 
 QString SpacedNumber(double value)

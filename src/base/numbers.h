@@ -10,12 +10,15 @@
 double NumericValue(QStringView text);
 double NumericValue(std::string_view utf8);
 
-/// The number as a grid cell or a text box shows it: plain decimal, no leading blank, no exponent for whole numbers
-/// below 2 to the power of 53.
+/// The number as a grid cell or a text box shows it: the shortest plain decimal that NumericValue reads as the same
+/// number, so without an exponent and without a leading blank.
 QString PlainNumber(double value);
 
 /// The number as it is joined into a message: with one leading space in the place of the sign when it is not negative.
 QString SpacedNumber(double value);
+
+/// 2 to the power of 53: up to here every whole number is a double of its own.
+inline constexpr double LargestExactWhole = 9007199254740992.0;
 
 /// Whether the value is a whole number within the given bounds, both included.
 bool IsWholeBetween(double value, int low, int high);

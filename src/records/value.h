@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/numbers.h"
+
 #include <cstdint>
 #include <string_view>
 #include <variant>
@@ -10,8 +12,8 @@ using Value = std::variant<std::monostate, std::int64_t, double, std::string_vie
 /// A numeric value in the form in which the files hold it: whole numbers as such, all others as real numbers.
 inline Value NumberField(double value)
 {
-    constexpr double largest = 9007199254740992.0;
-    if (value > -largest && value < largest && value == static_cast<double>(static_cast<std::int64_t>(value)))
+    if (value > -LargestExactWhole && value < LargestExactWhole &&
+        value == static_cast<double>(static_cast<std::int64_t>(value)))
         return static_cast<std::int64_t>(value);
     return value;
 }

@@ -1,5 +1,6 @@
 #include "store/user_records.h"
 
+#include "base/numbers.h"
 #include "base/texts.h"
 #include "records/record_set.h"
 #include "store/user_tables.h"
@@ -10,9 +11,8 @@ namespace {
 
 std::int64_t WholeField(const RecordSet& set, int position)
 {
-    constexpr double largest = 9007199254740992.0;
     const double number = set.Number(position);
-    return std::fabs(number) < largest ? static_cast<std::int64_t>(number) : 0;
+    return std::fabs(number) < LargestExactWhole ? static_cast<std::int64_t>(number) : 0;
 }
 
 void ReadNumbers(const RecordSet& entries, EntryRow& row)

@@ -34,9 +34,12 @@ private Q_SLOTS:
 
     void NumbersAreWrittenPlainOrWithTheSignsPlace()
     {
-        QCOMPARE(PlainNumber(-12), QString("-12"));
-        QCOMPARE(PlainNumber(10.5), QString("10.5"));
-        QCOMPARE(PlainNumber(9007199254740991.0), QString("9007199254740991"));
+        // Each is written as it is read.
+        for (const char* text : {"0", "-12", "10.5", "0.1", "9007199254740991", "9007199254740992",
+                                 "100000000000000000000", "0.00001", "-0.3333333333333333"})
+            QCOMPARE(PlainNumber(NumericValue(QString(text))), QString(text));
+        for (const double value : {DBL_MAX, DBL_MIN, DBL_TRUE_MIN, 1e300, 0.1 + 0.2})
+            QVERIFY(NumericValue(PlainNumber(value)) == value);
         QCOMPARE(SpacedNumber(0) + SpacedNumber(49) + SpacedNumber(-1), QString(" 0 49-1"));
     }
 
