@@ -29,8 +29,9 @@ void ClickLabel::paintEvent(QPaintEvent* /*event*/)
     drawn.setUnderline(drawn.underline() || underMouse());
     painter.setFont(drawn);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect().adjusted(Spacing::Inside, 0, -Spacing::Inside, 0),
-                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    const QRect line = rect().adjusted(Spacing::Inside, 0, -Spacing::Inside, 0);
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, line.width()));
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

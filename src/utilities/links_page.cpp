@@ -24,6 +24,42 @@ constexpr int FirstDescription = 3;
 const QString NotSpecified = u"Not Specified."_s;
 const QString PlaceForASite = u"Your web site HERE."_s;
 
+/// What of a field can be shown: its beginning, without the characters that would steer the drawing.
+QString ShownField(int field)
+{
+    constexpr int mostCharacters = 300;
+    const QString text = links.IsEmpty() ? QString() : FromUtf8(links.Text(field));
+    QString shown = text.left(mostCharacters);
+    for (QChar& character : shown)
+        if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
+            character = u' ';
+    return text.size() > mostCharacters ? shown + u'\x2026' : shown;
+}
+
+QString AddressIn(int field)
+{
+    const QString text = FromUtf8(links.Text(field));
+    return field == MailAddress ? u"mailto:"_s + text : text;
+}
+
+QLabel* MakeFieldLabel(int field, TextRole role)
+{
+    QLabel* label = MakeLabel({}, role, ElementName(u"F25link"_s, field));
+    label->setWordWrap(true);
+    // A word that is too long for the page is cut off and does not widen it.
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return label;
+}
+
+QLabel* MakeHeading(const QString& caption, int index)
+{
+    QLabel* label = MakeLabel(caption, TextRole::Caption, ElementName(u"F25label"_s, index));
+    // The caption's first line stands level with the text beside it, which is larger and has room around it.
+    label->setContentsMargins(0, Spacing::Inside / 2 + 1, 0, 0);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    return label;
+}
+
 } // namespace
 
 LinksPage::LinksPage() : PageFrame(25, u"Internet Links"_s)
@@ -37,39 +73,33 @@ LinksPage::LinksPage() : PageFrame(25, u"Internet Links"_s)
     ConnectGuarded(F25prev, &QPushButton::clicked, this, [this] { F25prev_Click(); });
     ConnectGuarded(F25next, &QPushButton::clicked, this, [this] { F25next_Click(); });
     ConnectGuarded(F25back, &QPushButton::clicked, this, [this] { hide(); });
-    for (const int index : {WebAddress, MailAddress})
-        ConnectGuarded(F25link.at(static_cast<size_t>(index)), &QAbstractButton::clicked, this,
-                       [this, index] { F25link_Click(index); });
+    for (const int field : {WebAddress, MailAddress})
+        ConnectGuarded(addresses.at(static_cast<size_t>(field - WebAddress)), &QAbstractButton::clicked, this,
+                       [this, field] { F25link_Click(field); });
 }
 
 QWidget* LinksPage::BuildCard()
 {
-    for (int index = 0; index < static_cast<int>(F25link.size()); ++index) {
-        const int mostLines = index < FirstDescription ? 1 : 3;
-        F25link.at(static_cast<size_t>(index)) = new LinkLabel(
-            ElementName(u"F25link"_s, index), index == SiteName ? TextRole::Heading : TextRole::Body, mostLines);
-    }
-    const auto heading = [](const QString& caption, int index) {
-        QLabel* label = MakeLabel(caption, TextRole::Caption, ElementName(u"F25label"_s, index));
-        // The caption's first line stands level with the text beside it, which is larger and has room around it.
-        label->setContentsMargins(0, Spacing::Inside / 2 + 1, 0, 0);
-        label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-        return label;
-    };
-    auto* card = new Card;
+    siteName = MakeFieldLabel(SiteName, TextRole::Heading);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Spacing::Cards);
     grid->setVerticalSpacing(Spacing::Inside);
     grid->setColumnStretch(1, 1);
-    card->Content()->addWidget(F25link[SiteName]);
+    const QStringList headings{u"Web Site:"_s, u"E-Mail:"_s, u"Description:"_s};
+    for (int row = 0; row < headings.size(); ++row)
+        grid->addWidget(MakeHeading(headings[row], row), row, 0);
+    for (int row = 0; row < 2; ++row) {
+        auto& address = addresses.at(static_cast<size_t>(row));
+        address = new LinkLabel(ElementName(u"F25link"_s, WebAddress + row));
+        grid->addWidget(address, row, 1, Qt::AlignLeft);
+        auto& description = descriptions.at(static_cast<size_t>(row));
+        description = MakeFieldLabel(FirstDescription + row, TextRole::Body);
+        description->setContentsMargins(Spacing::Inside, Spacing::Inside / 2, 0, 0);
+        grid->addWidget(description, 2 + row, 1);
+    }
+    auto* card = new Card;
+    card->Content()->addWidget(siteName);
     card->Content()->addLayout(grid);
-    grid->addWidget(heading(u"Web Site:"_s, 0), 0, 0);
-    grid->addWidget(F25link[WebAddress], 0, 1);
-    grid->addWidget(heading(u"E-Mail:"_s, 1), 1, 0);
-    grid->addWidget(F25link[MailAddress], 1, 1);
-    grid->addWidget(heading(u"Description:"_s, 2), 2, 0);
-    grid->addWidget(F25link[FirstDescription], 2, 1);
-    grid->addWidget(F25link[FirstDescription + 1], 3, 1);
     return card;
 }
 
@@ -82,27 +112,27 @@ void LinksPage::Prepare()
 
 void LinksPage::ShowLink()
 {
-    static const std::array<QString, 5> captions{u"Site"_s, u"Web Site:"_s, u"E-Mail:"_s, u"Description:"_s,
-                                                 u"Description:"_s};
-    const bool empty = links.IsEmpty();
-    for (int index = 0; index < static_cast<int>(F25link.size()); ++index) {
-        QString text = empty ? QString() : FromUtf8(links.Text(index));
-        const bool address = index == WebAddress || index == MailAddress;
-        if (address && text.isEmpty() && !empty)
-            text = NotSpecified;
-        const bool placeholder = text == NotSpecified || (index == WebAddress && text == PlaceForASite);
-        const auto place = static_cast<size_t>(index);
-        F25link.at(place)->ShowText(text,
-                                    address && !empty && !placeholder ? LinkLabel::Look::Link : LinkLabel::Look::Plain,
-                                    captions.at(place));
-    }
+    siteName->setText(ShownField(SiteName));
+    ShowAddress(WebAddress, u"Web Site:"_s);
+    ShowAddress(MailAddress, u"E-Mail:"_s);
+    descriptions[0]->setText(ShownField(FirstDescription));
+    descriptions[1]->setText(ShownField(FirstDescription + 1));
 }
 
-void LinksPage::F25link_Click(int index)
+void LinksPage::ShowAddress(int field, const QString& caption)
 {
-    const LinkLabel* label = F25link.at(static_cast<size_t>(index));
-    if (label->IsLink())
-        OpenAddress((index == MailAddress ? u"mailto:"_s : QString()) + label->text());
+    QString text = ShownField(field);
+    if (text.isEmpty() && !links.IsEmpty())
+        text = NotSpecified;
+    const bool isPlaceholder = text.isEmpty() || text == NotSpecified || (field == WebAddress && text == PlaceForASite);
+    addresses.at(static_cast<size_t>(field - WebAddress))
+        ->ShowText(text, !isPlaceholder && CanBeOpened(AddressIn(field)), caption);
+}
+
+void LinksPage::F25link_Click(int field)
+{
+    if (addresses.at(static_cast<size_t>(field - WebAddress))->IsLink())
+        OpenAddress(AddressIn(field));
 }
 
 void LinksPage::F25next_Click()

@@ -5,6 +5,7 @@
 #include <array>
 
 class LinkLabel;
+class QLabel;
 
 /// Page 25, "Internet Links": the records of the links table one at a time.
 class LinksPage : public PageFrame
@@ -20,9 +21,12 @@ public:
 private:
     QWidget* BuildCard();
     void ShowLink();
-    void F25link_Click(int index);
+    void ShowAddress(int field, const QString& caption);
+    void F25link_Click(int field);
     void F25next_Click();
     void F25prev_Click();
 
-    std::array<LinkLabel*, 5> F25link{};
+    QLabel* siteName;
+    std::array<LinkLabel*, 2> addresses{};
+    std::array<QLabel*, 2> descriptions{};
 };

@@ -17,16 +17,22 @@ QString SchemeOf(const QString& address)
     return found.hasMatch() && !hostAndPort.match(address).hasMatch() ? found.captured(1).toLower() : QString();
 }
 
+QUrl UrlOf(const QString& address)
+{
+    const QString scheme = SchemeOf(address);
+    const QUrl url(scheme.isEmpty() ? u"http://"_s + address : address);
+    return scheme == "mailto"_L1 ? url.adjusted(QUrl::RemoveQuery | QUrl::RemoveFragment) : url;
+}
+
 } // namespace
+
+bool CanBeOpened(const QString& address)
+{
+    static const QStringList schemes{{}, u"http"_s, u"https"_s, u"mailto"_s};
+    return schemes.contains(SchemeOf(address)) && UrlOf(address).isValid();
+}
 
 void OpenAddress(const QString& address)
 {
-    const QString scheme = SchemeOf(address);
-    if (!scheme.isEmpty() && scheme != "http"_L1 && scheme != "https"_L1 && scheme != "mailto"_L1)
-        return;
-    QUrl url(scheme.isEmpty() ? u"http://"_s + address : address);
-    if (scheme == "mailto"_L1)
-        url = url.adjusted(QUrl::RemoveQuery | QUrl::RemoveFragment);
-    if (url.isValid())
-        QDesktopServices::openUrl(url);
+    QDesktopServices::openUrl(UrlOf(address));
 }

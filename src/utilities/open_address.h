@@ -2,8 +2,10 @@
 
 #include <QString>
 
-/// Opens a web or mail address in the player's default program. The address is handed over unchanged, save that one
-/// without a scheme is taken as http, and a mail address loses its parameters, which could attach a file. Addresses of
-/// any other kind than http, https and mailto, which a database of unknown origin may hold, are not opened. Nothing is
-/// reported.
+/// Whether it is a web or mail address that may be handed over. One without a scheme is a web address; any other
+/// scheme, which a file of unknown origin may name, would start who knows what.
+bool CanBeOpened(const QString& address);
+
+/// Opens it in the default program. It must be one that can be opened; a failure is not reported. A mail address loses
+/// its parameters, which could attach a file.
 void OpenAddress(const QString& address);
