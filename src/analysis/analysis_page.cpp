@@ -64,7 +64,7 @@ AnalysisPage::AnalysisPage(const Game& drawGame, PageSwitch& pageSwitch)
     : PageFrame(PageOf(drawGame), {}), game(drawGame), pages(pageSwitch), shape(new ScreenFrame(this))
 {
     setAccessibleName(TitleOf(game));
-    shape->setObjectName(ControlName("shape"));
+    shape->setObjectName(ControlName(PageOf(game), u"shape"_s));
     shape->hide();
     BuildHead();
     BuildScreens();
@@ -72,8 +72,8 @@ AnalysisPage::AnalysisPage(const Game& drawGame, PageSwitch& pageSwitch)
 
 void AnalysisPage::BuildHead()
 {
-    title = MakeLabel(u"Ball Frequency"_s, TextRole::Title, ControlName("title"));
-    label = MakeLabel(u"Information about this option."_s, TextRole::Body, ControlName("label"));
+    title = MakeLabel(u"Ball Frequency"_s, TextRole::Title, ControlName(PageOf(game), u"title"_s));
+    label = MakeLabel(u"Information about this option."_s, TextRole::Body, ControlName(PageOf(game), u"label"_s));
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setForegroundRole(QPalette::PlaceholderText);
@@ -81,7 +81,7 @@ void AnalysisPage::BuildHead()
     label->setMinimumHeight(DescriptionLines * label->fontMetrics().lineSpacing());
     for (QLabel* clickable : {title, label})
         clickable->installEventFilter(this);
-    loading = MakeLabel(u"Loading..."_s, TextRole::Strong, ControlName("loading"));
+    loading = MakeLabel(u"Loading..."_s, TextRole::Strong, ControlName(PageOf(game), u"loading"_s));
     QSizePolicy keepsRoom = loading->sizePolicy();
     keepsRoom.setRetainSizeWhenHidden(true);
     loading->setSizePolicy(keepsRoom);
@@ -102,7 +102,7 @@ void AnalysisPage::BuildScreens()
     grid->setSpacing(Spacing::Page);
     int index = 0;
     for (const AnalysisScreen& described : ScreensOf(game)) {
-        auto* screen = new ScreenButton(game, described, ElementName(ControlName("screen"), ++index));
+        auto* screen = new ScreenButton(game, described, ElementName(ControlName(PageOf(game), u"screen"_s), ++index));
         grid->addWidget(screen, (index - 1) / Columns, (index - 1) % Columns);
         screens.push_back(screen);
         ConnectGuarded(screen, &ScreenButton::PointedAt, this, [this, index] { screen_MouseMove(index); });
@@ -142,8 +142,8 @@ void AnalysisPage::screen_MouseMove(int index)
     PlaceShape();
     for (QLabel* clickable : {title, label})
         clickable->setCursor(Qt::PointingHandCursor);
-    title->setText(QLatin1String(screen.title));
-    label->setText(screen.Description());
+    title->setText(screen.title);
+    label->setText(screen.description);
 }
 
 void AnalysisPage::screen_Click()
@@ -195,9 +195,4 @@ bool AnalysisPage::eventFilter(QObject* watched, QEvent* event)
             Guard([this] { screen_Click(); });
     }
     return PageFrame::eventFilter(watched, event);
-}
-
-QString AnalysisPage::ControlName(const char* name) const
-{
-    return u"F%1%2"_s.arg(PageOf(game)).arg(QLatin1String(name));
 }

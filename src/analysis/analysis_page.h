@@ -34,7 +34,6 @@ private:
     void screen_Click();
     void ShowChart(int chartNumber);
     void PlaceShape();
-    QString ControlName(const char* name) const;
 
     const Game& game;
     PageSwitch& pages;

@@ -30,7 +30,6 @@ private:
     /// ShowMainBallData, ShowThunderballBallData.
     void ShowBallData(int ball);
     void ShowRole(const BallRole& role, int ball, QLabel* lastDrawn, QLabel* count);
-    QString ControlName(const char* name) const;
 
     const Game& game;
     QLineEdit* enter;

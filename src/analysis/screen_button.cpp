@@ -32,9 +32,9 @@ ScreenButton::ScreenButton(const Game& drawGame, const AnalysisScreen& shownScre
     : game(drawGame), screen(shownScreen)
 {
     setObjectName(name);
-    setText(QLatin1String(screen.title));
+    setText(screen.title);
     setAccessibleName(text());
-    setAccessibleDescription(screen.Description());
+    setAccessibleDescription(screen.description);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);

@@ -32,19 +32,19 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     card->Content()->addWidget(board, 0, Qt::AlignCenter);
     auto* fillRow = new QHBoxLayout;
     auto* endRow = new QHBoxLayout;
-    const auto addButton = [this](QHBoxLayout* row, const char* caption, const char* name, auto handler) {
-        auto* button = new Button(QLatin1String(caption), QLatin1String(name));
+    const auto addButton = [this](QHBoxLayout* row, const QString& caption, const QString& name, auto handler) {
+        auto* button = new Button(caption, name);
         row->addWidget(button);
         ConnectGuarded(button, &QPushButton::clicked, this, handler);
     };
     fillRow->setSpacing(Spacing::Between);
-    addButton(fillRow, "Select All", "Selall", [this] { board->SetAll(true); });
-    addButton(fillRow, "Clear All", "clear", [this] { board->SetAll(false); });
-    addButton(fillRow, "Random Selection", "random", [this] { random_Click(); });
+    addButton(fillRow, u"Select All"_s, u"Selall"_s, [this] { board->SetAll(true); });
+    addButton(fillRow, u"Clear All"_s, u"clear"_s, [this] { board->SetAll(false); });
+    addButton(fillRow, u"Random Selection"_s, u"random"_s, [this] { random_Click(); });
     fillRow->addStretch(1);
     endRow->setSpacing(Spacing::Between);
     endRow->addStretch(1);
-    addButton(endRow, "Go Back Without Storing", "nostore", [this] { nostore_Click(); });
+    addButton(endRow, u"Go Back Without Storing"_s, u"nostore"_s, [this] { nostore_Click(); });
     endRow->addWidget(store);
     // The button keeps its room while it is hidden, so that the window does not jump.
     QSizePolicy keepsRoom = store->sizePolicy();

@@ -34,14 +34,14 @@ TextBox* MakeCountBox()
     return box;
 }
 
-Button* MakeButton(const char* caption, const char* name)
+Button* MakeButton(const QString& caption, const QString& name)
 {
-    return KeepingRoom(new Button(QLatin1String(caption), QLatin1String(name)));
+    return KeepingRoom(new Button(caption, name));
 }
 
-QLabel* MakeStepLabel(const char* caption, TextRole role, int index)
+QLabel* MakeStepLabel(const QString& caption, TextRole role, int index)
 {
-    return KeepingRoom(MakeLabel(QLatin1String(caption), role, ElementName(u"Label"_s, index)));
+    return KeepingRoom(MakeLabel(caption, role, ElementName(u"Label"_s, index)));
 }
 
 } // namespace
@@ -49,43 +49,43 @@ QLabel* MakeStepLabel(const char* caption, TextRole role, int index)
 StepCard::StepCard()
     : F26combo{MakeList(0, u"Select User"_s), MakeList(1, u"Select Build Type"_s), MakeList(2, u"Select Options"_s)},
       F26text(MakeCountBox()),
-      F26info(MakeButton("i", "F26info")),
-      F26choose(MakeButton("Choose Numbers", "F26choose")),
-      F26go(MakeButton("GO !", "F26go")),
-      entriesLabel(MakeStepLabel("1- 200 entries", TextRole::Caption, 8)),
-      promptLabel(MakeStepLabel("How many entries? (1 - 200)", TextRole::Caption, 9)),
-      noNumbersLabel(MakeStepLabel("No numbers needed", TextRole::Body, 12))
+      F26info(MakeButton(u"i"_s, u"F26info"_s)),
+      F26choose(MakeButton(u"Choose Numbers"_s, u"F26choose"_s)),
+      F26go(MakeButton(u"GO !"_s, u"F26go"_s)),
+      entriesLabel(MakeStepLabel(u"1- 200 entries"_s, TextRole::Caption, 8)),
+      promptLabel(MakeStepLabel(u"How many entries? (1 - 200)"_s, TextRole::Caption, 9)),
+      noNumbersLabel(MakeStepLabel(u"No numbers needed"_s, TextRole::Body, 12))
 {
     F26info->setAccessibleName(u"About this build type"_s);
     F26info->setFixedWidth(F26info->sizeHint().height());
     F26go->MakeAccent();
     Content()->setSpacing(Spacing::Inside);
-    AddStep("Step 1:", "Select User");
+    AddStep(u"Step 1:"_s, u"Select User"_s);
     Content()->addWidget(F26combo[0]);
-    AddStep("Step 2:", "Select Build Type");
+    AddStep(u"Step 2:"_s, u"Select Build Type"_s);
     auto* typeRow = new QHBoxLayout;
     typeRow->setSpacing(Spacing::Inside);
     typeRow->addWidget(F26combo[1], 1);
     typeRow->addWidget(F26info);
     Content()->addLayout(typeRow);
     Content()->addWidget(entriesLabel);
-    AddStep("Step 3:", "Select Options");
+    AddStep(u"Step 3:"_s, u"Select Options"_s);
     Content()->addWidget(promptLabel);
     AddInOnePlace(F26combo[2], F26text, {});
-    AddStep("Step 4:", "Select Numbers");
+    AddStep(u"Step 4:"_s, u"Select Numbers"_s);
     AddInOnePlace(F26choose, noNumbersLabel, Qt::AlignLeft);
-    AddStep("Step 5:", "Start Build Process");
+    AddStep(u"Step 5:"_s, u"Start Build Process"_s);
     Content()->addWidget(F26go, 0, Qt::AlignLeft);
 }
 
-void StepCard::AddStep(const char* number, const char* title)
+void StepCard::AddStep(const QString& number, const QString& title)
 {
     if (Content()->count() > 0)
         Content()->addSpacing(Spacing::Between);
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Spacing::Inside);
-    heading->addWidget(MakeLabel(QLatin1String(number), TextRole::Caption), 0, Qt::AlignBaseline);
-    heading->addWidget(MakeLabel(QLatin1String(title), TextRole::Strong), 1, Qt::AlignBaseline);
+    heading->addWidget(MakeLabel(number, TextRole::Caption), 0, Qt::AlignBaseline);
+    heading->addWidget(MakeLabel(title, TextRole::Strong), 1, Qt::AlignBaseline);
     Content()->addLayout(heading);
 }
 

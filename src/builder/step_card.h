@@ -40,7 +40,7 @@ public:
     Button* F26go;
 
 private:
-    void AddStep(const char* number, const char* title);
+    void AddStep(const QString& number, const QString& title);
     void AddInOnePlace(QWidget* first, QWidget* second, Qt::Alignment alignmentOfFirst);
 
     QLabel* entriesLabel;

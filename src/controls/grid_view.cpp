@@ -16,7 +16,7 @@ namespace {
 
 constexpr int CellMargins = 2 * Spacing::Inside;
 
-/// Draws a quiet line under each row.
+/// Draws a quiet line under each row, and leaves a cell that has a colour of its own that colour when it is selected.
 class RowLines : public QStyledItemDelegate
 {
 public:
@@ -24,7 +24,10 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyleOptionViewItem cell(option);
+        if (index.data(Qt::BackgroundRole).isValid())
+            cell.state.setFlag(QStyle::State_Selected, false);
+        QStyledItemDelegate::paint(painter, cell, index);
         painter->setPen(option.palette.color(QPalette::Mid));
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     }

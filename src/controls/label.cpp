@@ -2,6 +2,8 @@
 
 #include "look/theme.h"
 
+using namespace Qt::StringLiterals;
+
 QLabel* MakeLabel(const QString& text, TextRole role, const QString& name, QWidget* parent)
 {
     auto* label = new QLabel(parent);
@@ -20,6 +22,11 @@ QLabel* MakeStoredTextLabel(const QString& text, TextRole role, const QString& n
     label->setWordWrap(true);
     label->setMinimumWidth(1);
     return label;
+}
+
+QString ControlName(int page, const QString& control)
+{
+    return u"F%1%2"_s.arg(page).arg(control);
 }
 
 QString ElementName(const QString& array, int index)

@@ -12,10 +12,10 @@
 
 using namespace Qt::StringLiterals;
 
-PageFrame::PageFrame(int index, const QString& title, const QString& titleName)
+PageFrame::PageFrame(int pageNumber, const QString& title, const QString& titleName)
     : body(new QVBoxLayout), footer(new QHBoxLayout)
 {
-    setObjectName(ElementName(u"Frame"_s, index));
+    setObjectName(ElementName(u"Frame"_s, pageNumber));
     setAccessibleName(title);
     setAutoFillBackground(true);
     auto* page = new QVBoxLayout(this);

@@ -13,8 +13,8 @@ class PageFrame : public QFrame
     Q_OBJECT
 
 public:
-    /// `index` is the page's place in the frame array; a page without a title has an empty one.
-    PageFrame(int index, const QString& title, const QString& titleName = {});
+    /// `pageNumber` is the page's place in the frame array; a page without a title has an empty one.
+    PageFrame(int pageNumber, const QString& title, const QString& titleName = {});
 
     /// Fills the page and makes it visible. Throws Failure.
     virtual void Prepare();

@@ -44,11 +44,7 @@ QString AddressIn(int field)
 
 QLabel* MakeFieldLabel(int field, TextRole role)
 {
-    QLabel* label = MakeLabel({}, role, ElementName(u"F25link"_s, field));
-    label->setWordWrap(true);
-    // A word that is too long for the page is cut off and does not widen it.
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    return label;
+    return MakeStoredTextLabel({}, role, ElementName(u"F25link"_s, field));
 }
 
 QLabel* MakeHeading(const QString& caption, int index)

@@ -237,7 +237,12 @@ private Q_SLOTS:
         QCOMPARE(window.Grid().Rows(), 4);
         for (const char* row : {"1,2,3,4,5,6,7", "2,1,3,4,5,6,8", "3,1,2,4,5,7,8", "4,1,2,3,6,7,8"})
             QCOMPARE(window.GridRow(row[0] - '1'), QString(row));
-        QVERIFY(window.Grid().view->isColumnHidden(0) && !window.Grid().view->isColumnHidden(1));
+        const GridView* grid = window.Grid().view;
+        QVERIFY(grid->isColumnHidden(0) && !grid->isColumnHidden(1));
+        const QImage picture = grid->viewport()->grab().toImage();
+        for (const int row : {0, 1})
+            QCOMPARE(picture.pixelColor(grid->visualRect(grid->model()->index(row, 1)).topLeft() + QPoint(3, 3)),
+                     QColor(0x5B, 0x74, 0xD7));
         window.Open();
         window.ChooseAll({1, 1, 0});
         QCOMPARE(window.Pick({"?", "n_1", "n_2", "n_3", "n_4", "n_5", "n_6", "?", "close"}),
