@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Refused =
+const QString SaveRefused =
     u"Error detected in the data that you entered.\r\nPlease re-check and press 'Save Changes' again."_s;
 const QString Sure = u"Are you sure you want to replace the old data with this new data?"_s;
 const QString Lost = u"All changes will be lost, are you sure you want to continue?"_s;
@@ -98,7 +98,7 @@ private Q_SLOTS:
             EditedDraw window(*game);
             const QStringList before = TestFolder::StoredRows(table);
             window.TypeBalls(balls);
-            QCOMPARE(window.Click(window.prefix + "save", {QMessageBox::Ok}), QStringList{Refused});
+            QCOMPARE(window.Click(window.prefix + "save", {QMessageBox::Ok}), QStringList{SaveRefused});
             QCOMPARE(TestFolder::StoredRows(table), before);
             QCOMPARE(window.TextOf(window.prefix + "number_2"), QString("2"));
         }
