@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include <cstdio>
 #include <map>
 
 namespace {
@@ -23,7 +24,7 @@ RegisteredTest::RegisteredTest(const char* name, Run run)
 }
 
 /// Runs every class of tests of the program, or the one that the first argument names; the other arguments are the test
-/// library's, such as the name of a function.
+/// library's, such as the name of a function. "-classes" lists the classes.
 int main(int count, char** arguments)
 {
     const QTemporaryDir home;
@@ -37,6 +38,11 @@ int main(int count, char** arguments)
     if (chosen != RegisteredTests().end()) {
         rest.removeAt(1);
         return chosen->second(rest);
+    }
+    if (rest.value(1) == "-classes") {
+        for (const auto& [name, run] : RegisteredTests())
+            std::puts(qPrintable(name));
+        return 0;
     }
     int failures = 0;
     for (const auto& [name, run] : RegisteredTests())
