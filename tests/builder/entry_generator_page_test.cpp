@@ -132,7 +132,8 @@ private Q_SLOTS:
               "go:typed count none go grid store;count 6:typed count none go grid store;"
               "count x:typed count grid store;count 6:typed count none go grid store;"
               "user 0:typed count none store;count 7:typed count none go store;late 500:typed count store;"
-              "leave 7:typed count none go store;type 0:typed count none store;user 1:type store;open:",
+              "leave 7:typed count none go store;type 0:typed count none store;user 1:type store;"
+              "type 0:typed count store;open:",
               "user 0:type;type 3:typed none go;go:typed none go grid store;user 0:typed none store;"
               "type 0:typed count none store;type 1:typed option store;type 0:typed count store",
               "user 1:type;type 1:typed option;option 0:typed option choose;back:typed option choose;"

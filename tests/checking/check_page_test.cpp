@@ -60,6 +60,20 @@ private Q_SLOTS:
         QCOMPARE(bold, (QStringList{"Tavenor v3.0", "User: Ann"}));
     }
 
+    void FirstOfTwoUsersOfOneNameIsChecked()
+    {
+        TestWindow window;
+        AddUser(users, "Ann", 9);
+        AddUser(users, "Ann", 9);
+        StoreDraws(MainGame, {"2026-11-21,1,2,3,4,5,6,7,,"});
+        AddEntry(entries, {1, 2, 1, {1, 2, 3, 4, 5, 6}, {true, true, true, true, true, true, true}});
+        window.OpenPage(3, 4);
+        window.Find<QComboBox>("F12user")->setCurrentIndex(2);
+        window.Find<QRadioButton>("F12typem")->click();
+        QCOMPARE(Check(window),
+                 QString("User: Ann\n  Draw type: Main (21/11/2026)\n    No main entries on this date.\n\n"));
+    }
+
     void ReportFollowsTheChoices()
     {
         TestWindow window;

@@ -166,6 +166,7 @@ private:
         });
         QCOMPARE(window.Click(page.store, {QMessageBox::Ok}), QStringList{message});
         QCOMPARE(TestFolder::StoredRows(page.table), rows);
+        QVERIFY(window.IsShown(thunderball ? "Frame_7" : "Frame_6"));
         QCOMPARE(window.TextOf(page.field.arg(1)), message == NotStored ? QString("11") : QString());
     }
 };

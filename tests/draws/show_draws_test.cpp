@@ -6,7 +6,7 @@
 
 namespace {
 
-const QDate Saturday(2026, 11, 21);
+const QDate DrawDay(2026, 11, 21);
 
 void ChooseDate(const TestWindow& window, QDate date)
 {
@@ -32,8 +32,10 @@ private Q_SLOTS:
     void LatestDrawIsTheNewestOfEachGame()
     {
         TestWindow window;
+        window.OpenPage(2, 1);
+        const QSize room = window.Find("F8Mbox")->size();
         StoreDraws(ThunderballGame, {"2000-02-05,1,2,3,4,5,14", "1999-06-12,6,7,8,9,10,11"});
-        window.Window().ChooseMenu(2, 1);
+        window.OpenPage(2, 1);
         QVERIFY(window.IsShown("blankshapem") && window.IsShown("Label4") && !window.IsShown("Label5"));
         QCOMPARE(window.TextsOf({"Label4", "Label5", "F8Tdate"}),
                  QString("There are no main draws stored.|There are no thunderball draws stored.|"
@@ -49,6 +51,7 @@ private Q_SLOTS:
                  QString("Saturday, 21 November 2026|Machine: ARTHUR|Set of balls: 4"));
         QCOMPARE(window.ColoursOf("F8Mball", "1234560", QPalette::Window),
                  QString("#FFFFFF #80FFFF #FF8080 #80FF80 #FFFF80 #FFFF80 #FFFFFF"));
+        QCOMPARE(window.Find("F8Mbox")->size(), room);
     }
 
     void BrowserStepsThroughTheDrawsOfADate()
@@ -62,11 +65,14 @@ private Q_SLOTS:
                     StoreDraws(*game, {QString("2026-11-21,%1,11,12,13,14,10,16,,").arg(ball)});
                 StoreDraws(*game, {"2026-11-20,30,31,32,33,34,10,12,,", "2026-11-22,30,31,32,33,34,10,12,,"});
                 window.Window().ChooseMenu(2, 2);
-                ChooseDate(window, Saturday);
+                ChooseDate(window, DrawDay);
                 const QString letter = game->name.left(1);
                 QStringList seen{State(window, letter)};
                 for (const char* click = clicks; *click != '\0'; ++click) {
-                    window.Click("F9" + letter + (*click == '>' ? "forward" : "back"));
+                    const QStringList arrows{"F9" + letter + "back", "F9" + letter + "forward"};
+                    const QString& clicked = arrows[*click == '>' ? 1 : 0];
+                    window.Click(clicked);
+                    QCOMPARE(window.FocusedName(), window.IsShown(clicked) ? clicked : arrows[*click == '>' ? 0 : 1]);
                     seen.append(State(window, letter));
                 }
                 QCOMPARE(seen.join(u' '), QString(expected));
@@ -80,7 +86,7 @@ private Q_SLOTS:
         StoreDraws(MainGame, {"2026-11-21,3,15,22,38,41,49,9,ARTHUR,4"});
         StoreDraws(ThunderballGame, {"2026-11-20,1,2,3,4,5,14"});
         window.Window().ChooseMenu(2, 2);
-        ChooseDate(window, Saturday);
+        ChooseDate(window, DrawDay);
         QCOMPARE(window.TextsOf("F9Mballnum", "1234560"), QString("3 15 22 38 41 49 9"));
         QCOMPARE(window.TextsOf({"F9Mmachine", "F9Msetofballs"}), QString("Machine:  ARTHUR|Set of balls:  4"));
         QCOMPARE(window.ColourOf("F9Mball_2", QPalette::Window), QColor("#80FFFF"));

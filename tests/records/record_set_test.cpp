@@ -6,12 +6,17 @@
 #include "records/compaction.h"
 #include "records/database_creation.h"
 #include "records/held_file.h"
+#include "records/key_store.h"
 
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
+#include <fcntl.h>
 #include <map>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -89,6 +94,23 @@ class RecordSetTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void NoKeyIsLeftInMemory()
+    {
+        const std::string& key = DerivedKeyText("secret", std::string(16, 's'));
+        const auto place = reinterpret_cast<off_t>(key.data());
+        std::array<char, 96> kept{};
+        std::array<char, 96> left{};
+        QVERIFY(key.copy(kept.data(), kept.size()) == kept.size());
+        // The freed memory is read by way of the system; nothing may take it meanwhile.
+        const int memory = ::open("/proc/self/mem", O_RDONLY);
+        WipeDerivedKeys();
+        const auto got = ::pread(memory, left.data(), left.size(), place);
+        ::close(memory);
+        QCOMPARE(static_cast<std::size_t>(got), left.size());
+        // The first bytes are the allocator's by now.
+        QVERIFY(!std::equal(kept.begin() + 48, kept.end(), left.begin() + 48));
+    }
+
     void PositionsBehaveAtBothEndsAndOverDeletedRows()
     {
         const std::pair<const char*, const char*> rows[] = {

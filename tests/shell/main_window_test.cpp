@@ -183,15 +183,17 @@ private Q_SLOTS:
     {
         const TestFolder folder(TestFolder::Content::Starter);
         OpenDatabaseFiles();
-        QProcess copy;
-        copy.setWorkingDirectory(folder.Path("."));
-        copy.start(TAVENOR_PROGRAM, {});
-        QVERIFY(copy.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(CatchesTermination(copy.processId()), 60000);
-        copy.terminate();
-        QVERIFY(copy.waitForFinished(60000));
-        QCOMPARE(copy.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(copy.exitCode(), 0);
+        for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+            QProcess copy;
+            copy.setWorkingDirectory(folder.Path("."));
+            copy.start(TAVENOR_PROGRAM, {});
+            QVERIFY(copy.waitForStarted());
+            QTRY_VERIFY_WITH_TIMEOUT(CatchesTermination(copy.processId()), 60000);
+            QCOMPARE(::kill(static_cast<pid_t>(copy.processId()), signal), 0);
+            QVERIFY(copy.waitForFinished(60000));
+            QCOMPARE(copy.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(copy.exitCode(), 0);
+        }
         ukmain.MoveLast();
         ukmain.Delete();
         QCOMPARE(CloseAndCompactFiles(), QString());

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Stored = u"The changes have been stored."_s;
+const QString ChangesStored = u"The changes have been stored."_s;
 
 /// The page with two users: Ann with five Main entries, each beginning with its number and played on Monday and Sunday,
 /// and one Thunderball entry; Bob with one Main entry.
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QTest::keyClicks(QApplication::focusWidget(), "3");
         window.Click("F20day_0");
         window.Click("F20day_2");
-        QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});
+        QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{ChangesStored});
         QCOMPARE(TestFolder::StoredRows("entries").value(0), QString("1,1,1,3,22,38,40,41,49,0,0,-1,0,0,0,-1"));
         QCOMPARE(window.Grid().Row(0), QString("1,1,3,22,38,40,41,49"));
         QVERIFY(!window.IsShown("Frame_20") && window.IsShown("Frame_13"));
@@ -139,7 +139,7 @@ private Q_SLOTS:
         window.TypeInTurn("F20num_1", {"34", "30", "22", "15", "3", "3"});
         QCOMPARE(window.FocusedName(), QString("F20store"));
         QCOMPARE(window.ColourOf("F20ball_6", QPalette::Window), QColor("#FF0000"));
-        QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{Stored});
+        QCOMPARE(window.Click("F20store", {QMessageBox::Ok}), QStringList{ChangesStored});
         QCOMPARE(TestFolder::StoredRows("entries").value(5), QString("6,1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1"));
         QCOMPARE(window.Grid().Rows(), 1);
         QVERIFY(window.Find<QRadioButton>("F13typethunder")->isChecked());
@@ -153,11 +153,17 @@ private Q_SLOTS:
              {std::tuple(false, "49", "balls"), {true, "34", "main balls"}, {false, "", "balls"}}) {
             window.Edit(thunderball, 0);
             window.Type("F20num_1", number);
+            QCOMPARE(window.FocusedName(), QString("F20num_1"));
             // Two empty boxes are equal too.
             if (*number == '\0')
                 window.Type("F20num_2", number);
             QCOMPARE(window.Click("F20store", {QMessageBox::Ok}),
                      QStringList{QString("Two or more %1 have the same value,\r\nplease retry.").arg(balls)});
+            if (number == QLatin1String("49")) {
+                QCOMPARE(window.TextsOf("F20num", "123456"), QString("15 22 38 41 49 49"));
+                QCOMPARE(window.ColoursOf("F20num", "123456", QPalette::Base),
+                         QString("#80FFFF #FF8080 #80FF80 #FFFF80 #FFFF80 #FFFF80"));
+            }
             window.Click("F20back", {QMessageBox::No});
         }
         QCOMPARE(TestFolder::StoredRows("entries"), before);
@@ -194,7 +200,7 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("4,15,22,38,41,49"));
         window.Edit(false, 3);
         window.Type("F20num_6", "");
-        QCOMPARE(window.Click("F20back", {QMessageBox::Yes, QMessageBox::Ok}), QStringList({question, Stored}));
+        QCOMPARE(window.Click("F20back", {QMessageBox::Yes, QMessageBox::Ok}), QStringList({question, ChangesStored}));
         QVERIFY(!window.IsShown("Frame_20"));
         QCOMPARE(TestFolder::StoredRows("entries").value(3).section(u',', 3, 8), QString("0,4,15,22,38,41"));
     }

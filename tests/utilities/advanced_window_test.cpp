@@ -124,12 +124,14 @@ private Q_SLOTS:
         const QByteArray draws = BytesOf(utilities.Live("draw"));
         for (const QString button : {"exportdraw", "importdraw", "exportuser", "importuser"}) {
             utilities.Choose(button, [&](QFileDialog& dialog) {
-                seen = QStringList{dialog.objectName(), dialog.findChild<QLineEdit*>("fileNameEdit")->text()} +
+                seen = QStringList{dialog.windowTitle(), dialog.objectName(),
+                                   dialog.findChild<QLineEdit*>("fileNameEdit")->text()} +
                        dialog.nameFilters();
                 dialog.reject();
             });
             utilities.window.Click("advanced");
-            QCOMPARE(seen, (QStringList{"CommonDialog1", button.mid(6) + "data.tv3", "Tavenor 3 Files (*.tv3)"}));
+            QCOMPARE(seen, (QStringList{button.startsWith("export") ? "Backup" : "Import", "CommonDialog1",
+                                        button.mid(6) + "data.tv3", "Tavenor 3 Files (*.tv3)"}));
         }
         QCOMPARE(BytesOf(utilities.Live("draw")), draws);
     }
