@@ -73,9 +73,7 @@ EntryRow MakeEntry(const Game& game, Chance& chance)
 
 void MakeDraws(int count, const std::filesystem::path& file)
 {
-    CreateDatabase(
-        file, DrawConnect, {DrawTable(MainGame), DrawTable(ThunderballGame), LinksTable()},
-        {{DrawList(MainGame), DrawTable(MainGame).name}, {DrawList(ThunderballGame), DrawTable(ThunderballGame).name}});
+    CreateDatabase(file, DrawConnect, DrawDatabaseLayouts());
     Database database;
     database.Open(file, DrawConnect);
     Chance chance(3);
@@ -91,7 +89,7 @@ void MakeDraws(int count, const std::filesystem::path& file)
 
 void MakeUsers(const DataSize& size, int entriesOfFirstUser, const std::filesystem::path& file)
 {
-    CreateDatabase(file, {}, {UsersTable(), EntriesTable()}, {});
+    CreateDatabase(file, {}, {UsersTable(), EntriesTable()});
     Database database;
     database.Open(file);
     RecordSet userTable;

@@ -128,9 +128,7 @@ int StoreLinks(Database& database, const QString& path)
 
 void MakeDrawDatabase(const std::filesystem::path& file, const QStringList& sources)
 {
-    CreateDatabase(
-        file, DrawConnect, {DrawTable(MainGame), DrawTable(ThunderballGame), LinksTable()},
-        {{DrawList(MainGame), DrawTable(MainGame).name}, {DrawList(ThunderballGame), DrawTable(ThunderballGame).name}});
+    CreateDatabase(file, DrawConnect, DrawDatabaseLayouts());
     Database database;
     database.Open(file, DrawConnect);
     const int mainDraws = StoreDraws(database, MainGame, sources[0]);
@@ -146,7 +144,7 @@ void MakeAll(const QStringList& sources, const std::filesystem::path& folder)
     std::filesystem::remove_all(work);
     std::filesystem::create_directories(work);
     MakeDrawDatabase(work / "drawdata.tv3", sources);
-    CreateDatabase(work / "userdata.tv3", {}, {UsersTable(), EntriesTable()}, {});
+    CreateDatabase(work / "userdata.tv3", {}, {UsersTable(), EntriesTable()});
     for (const char* name : {"drawdata.tv3", "userdata.tv3"}) {
         const Descriptor made = OpenToRead(work / name);
         TemporaryFile copy = TemporaryFile::Beside(folder / name, name);

@@ -73,10 +73,17 @@ void EntryGeneratorPage::ConnectHandlers()
     ConnectGuarded(F26store, &QPushButton::clicked, this, [this] { StoreBuiltEntries(); });
 }
 
+void EntryGeneratorPage::ShowBuilt(std::vector<EntryRow> rows)
+{
+    built = std::move(rows);
+    lines.Fill(MainGame, static_cast<int>(built.size()),
+               [this](int row) { return built.at(static_cast<size_t>(row)); });
+}
+
 void EntryGeneratorPage::Prepare()
 {
     steps.Begin();
-    lines.Fill(MainGame, {});
+    ShowBuilt({});
     F26combo[0]->clear();
     const std::vector<UserRow> allUsers = ReadAllUsers(users);
     if (allUsers.empty()) {
@@ -185,7 +192,7 @@ void EntryGeneratorPage::F26go_Click()
     // The press may have taken the focus from a count that was refused.
     if (!steps.MayBuild())
         return;
-    lines.Fill(MainGame, AsEntries(Build()));
+    ShowBuilt(AsEntries(Build()));
     steps.LinesBuilt();
     ShowControls();
     // A selected row is what shows that the grid has the keys.
@@ -226,7 +233,7 @@ void EntryGeneratorPage::StoreBuiltEntries()
         raise = RaiseLimit::Yes;
     }
     DrawDayWindow(state.BuilderDays, this).exec();
-    StoreEntriesOfUser(userName, lines.Rows(), state.BuilderDays, raise);
+    StoreEntriesOfUser(userName, built, state.BuilderDays, raise);
     ShowMessage(u"The entries have been stored."_s);
     Prepare();
 }

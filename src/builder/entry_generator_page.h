@@ -36,12 +36,14 @@ private:
     void F26go_Click();
     void StoreBuiltEntries();
     void ShowControls();
+    void ShowBuilt(std::vector<EntryRow> rows);
     int ChosenOptionNumbers() const;
     std::vector<Line> Build();
 
     PageSwitch& pages;
     BuilderState state;
     BuilderSteps steps;
+    std::vector<EntryRow> built;
     EntryGridModel lines;
 
     StepCard* card;

@@ -5,10 +5,9 @@
 #include "base/texts.h"
 #include "game/game.h"
 #include "records/record_set.h"
-#include "store/draw_records.h"
 #include "store/draw_tables.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -44,50 +43,23 @@ std::vector<double> DrawGridModel::ColumnShares(const Game& game)
 
 void DrawGridModel::Fill(RecordSet& list)
 {
+    RecordList shown = list.List();
     beginResetModel();
-    rows.clear();
-    oddTexts.clear();
-    try {
-        list.MoveFirst();
-        rows.reserve(static_cast<size_t>(list.Count()));
-        for (; !list.Eof(); list.MoveNext())
-            Take(list);
-    } catch (...) {
-        rows.clear();
-        endResetModel();
-        throw;
-    }
+    rows = std::move(shown);
     endResetModel();
-}
-
-void DrawGridModel::Take(const RecordSet& list)
-{
-    Row& row = rows.emplace_back();
-    row.mark = list.Mark();
-    for (int slot = 0; slot < game.BallCount(); ++slot)
-        row.balls[static_cast<size_t>(slot)] = list.Number(DrawField::FirstBall + slot);
-    const std::string_view date = list.Text(DrawField::Date);
-    const std::string_view day = list.Text(DrawField::Day);
-    if (date.size() == row.date.size() && day.size() == row.day.size()) {
-        std::copy(date.begin(), date.end(), row.date.begin());
-        std::copy(day.begin(), day.end(), row.day.begin());
-    } else {
-        oddTexts[static_cast<int>(rows.size()) - 1] = {ShortStoredDate(date), ShownText(day)};
-    }
 }
 
 int DrawGridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(rows.size());
+    return parent.isValid() ? 0 : rows.Count();
 }
 
 QString DrawGridModel::CellText(int row, int column) const
 {
-    const Row& draw = rows.at(static_cast<size_t>(row));
-    if (column >= FirstBallColumn)
-        return PlainNumber(draw.balls.at(static_cast<size_t>(column - FirstBallColumn)));
-    const auto odd = oddTexts.find(row);
+    const RecordRow draw = rows[row];
     if (column == DateColumn)
-        return odd != oddTexts.end() ? odd->second.date : ShortStoredDate({draw.date.data(), draw.date.size()});
-    return odd != oddTexts.end() ? odd->second.day : FromUtf8({draw.day.data(), draw.day.size()});
+        return ShortStoredDate(draw.Text(DrawField::Date));
+    if (column == DayColumn)
+        return ShownText(draw.Text(DrawField::Day));
+    return PlainNumber(draw.Number(DrawField::FirstBall + column - FirstBallColumn));
 }

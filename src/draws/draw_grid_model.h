@@ -2,10 +2,7 @@
 
 #include "controls/grid_model.h"
 #include "controls/grid_view.h"
-#include "records/bookmark.h"
-
-#include <array>
-#include <map>
+#include "records/record_row.h"
 
 class RecordSet;
 struct Game;
@@ -18,12 +15,11 @@ class DrawGridModel : public GridModel
 public:
     explicit DrawGridModel(const Game& drawGame, QObject* parent = nullptr);
 
-    /// Takes every record of the list in one pass. Throws Failure; the model is empty then.
+    /// Shows the list as it now is. Throws Failure; the model shows what it did then.
     void Fill(RecordSet& list);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    /// The bookmark of the draw in a row.
-    const Bookmark& MarkOf(int row) const { return rows.at(static_cast<size_t>(row)).mark; }
+    const RecordList& Rows() const { return rows; }
 
     /// The shares that the columns have of the grid's width.
     static std::vector<double> ColumnShares(const Game& game);
@@ -32,24 +28,6 @@ protected:
     QString CellText(int row, int column) const override;
 
 private:
-    /// Date and day stand here as they are stored; they are read when the row is seen.
-    struct Row
-    {
-        Bookmark mark;
-        std::array<double, 7> balls;
-        std::array<char, 10> date;
-        std::array<char, 3> day;
-    };
-    struct OddTexts
-    {
-        QString date;
-        QString day;
-    };
-
-    void Take(const RecordSet& list);
-
     const Game& game;
-    std::vector<Row> rows;
-    /// The texts, by row, where one has not the length of a date or a day; only a foreign file can hold such rows.
-    std::map<int, OddTexts> oddTexts;
+    RecordList rows;
 };

@@ -110,7 +110,7 @@ bool DrawGridSection::MoveToSelectedDraw() const
         ShowMessage(u"Select only ONE draw."_s);
     if (rows.Count() != 1)
         return false;
-    MoveToDraw(DrawListOf(game), model->MarkOf(rows.first), "The draw could not be shown");
+    MoveToDraw(DrawListOf(game), model->Rows()[rows.first].Mark(), "The draw could not be shown");
     return true;
 }
 
@@ -128,26 +128,17 @@ void DrawGridSection::Edit_Click()
 
 void DrawGridSection::Delete_Click()
 {
-    const int count = grid->SelectedRows().Count();
-    if (count == 0)
+    const GridView::RowSpan rows = grid->SelectedRows();
+    if (rows.Count() == 0)
         return;
-    const QString question = count == 1 ? u"delete this %1 draw?"_s : u"delete these %1 draws?"_s;
+    const QString question = rows.Count() == 1 ? u"delete this %1 draw?"_s : u"delete these %1 draws?"_s;
     if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(QLatin1String(TextsOf(game).inQuestions)))) {
         ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
-    DeleteSelectedDraws();
+    DeleteDraws(game, model->Rows().Marks(rows.first, rows.last));
     Fill();
     ShowMessage(u"Deleted"_s);
-}
-
-void DrawGridSection::DeleteSelectedDraws()
-{
-    std::vector<Bookmark> marks;
-    const GridView::RowSpan rows = grid->SelectedRows();
-    for (int row = rows.first; row <= rows.last; ++row)
-        marks.push_back(model->MarkOf(row));
-    DeleteDraws(game, marks);
 }
 
 DrawGridsPage::DrawGridsPage(PageSwitch& pages)

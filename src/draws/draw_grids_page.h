@@ -31,7 +31,6 @@ private:
     void Delete_Click();
     /// Moves the list to the draw of the one selected row; tells the player when there are several.
     bool MoveToSelectedDraw() const;
-    void DeleteSelectedDraws();
 
     const Game& game;
     PageSwitch& pages;

@@ -2,14 +2,7 @@
 
 #include "base/failure.h"
 #include "records/statement.h"
-
-namespace {
-
-const char* const NotReadable = "The database could not be read";
-
-} // namespace
-
-Database::Database() = default;
+#include "records/table.h"
 
 Database::~Database()
 {
@@ -23,7 +16,6 @@ void Database::Open(const std::filesystem::path& file, const std::string& connec
     lock.Share(file, doing);
     try {
         engine = OpenGuarded(file, connect, lock.FirstBytes(SaltBytes), doing);
-        versionQuery = std::make_unique<Statement>(engine.get(), "PRAGMA data_version", NotReadable);
     } catch (...) {
         Close();
         throw;
@@ -32,31 +24,21 @@ void Database::Open(const std::filesystem::path& file, const std::string& connec
 
 void Database::Close()
 {
-    while (!observers.empty())
-        observers.back()->DatabaseCloses();
-    versionQuery.reset();
+    for (const auto& [name, table] : tables)
+        table->Close();
+    tables.clear();
     // The engine goes first: closing the lock's descriptor would drop the engine's own locks.
     engine.reset();
     inTransaction = false;
     lock.Release();
 }
 
-std::int64_t Database::ChangesByOthers()
+std::shared_ptr<Table> Database::TableOf(const TableLayout& layout)
 {
-    versionQuery->Step();
-    const std::int64_t version = versionQuery->WholeNumber(0);
-    versionQuery->Reset();
-    return version;
-}
-
-void Database::Register(DatabaseObserver* observer)
-{
-    observers.push_back(observer);
-}
-
-void Database::Unregister(DatabaseObserver* observer)
-{
-    std::erase(observers, observer);
+    std::shared_ptr<Table>& table = tables[layout.IsList() ? layout.listedTable : layout.name];
+    if (!table)
+        table = std::make_shared<Table>(engine.get(), layout.IsList() ? layout.Listed() : layout);
+    return table;
 }
 
 void Database::RollBack()
@@ -64,8 +46,8 @@ void Database::RollBack()
     // A failed commit may have rolled back already; the answer to a second attempt does not matter.
     sqlite3_exec(engine.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     inTransaction = false;
-    for (DatabaseObserver* observer : observers)
-        observer->ChangesTakenBack();
+    for (const auto& [name, table] : tables)
+        table->TakeBackChanges();
 }
 
 Transaction::Transaction(Database& owner, std::string doingClause) : database(owner), doing(std::move(doingClause))
@@ -75,6 +57,8 @@ Transaction::Transaction(Database& owner, std::string doingClause) : database(ow
     Execute(database.engine.get(), "BEGIN IMMEDIATE", doing);
     database.inTransaction = true;
     open = true;
+    for (const auto& [name, table] : database.tables)
+        table->KeepChanges();
 }
 
 Transaction::~Transaction()
@@ -88,6 +72,6 @@ void Transaction::Commit()
     Execute(database.engine.get(), "COMMIT", doing);
     open = false;
     database.inTransaction = false;
-    for (DatabaseObserver* observer : database.observers)
-        observer->ChangesKept();
+    for (const auto& [name, table] : database.tables)
+        table->KeepChanges();
 }

@@ -3,35 +3,19 @@
 #include "records/engine.h"
 #include "records/file_lock.h"
 
-#include <cstdint>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
-class Statement;
-
-/// Who is told what happens to a database, as its record sets are.
-class DatabaseObserver
-{
-public:
-    DatabaseObserver() = default;
-    virtual ~DatabaseObserver() = default;
-    DatabaseObserver(const DatabaseObserver&) = delete;
-    DatabaseObserver& operator=(const DatabaseObserver&) = delete;
-
-    /// The database is about to be closed; from then on the observer is registered no more.
-    virtual void DatabaseCloses() = 0;
-    /// A transaction has been stored, or taken back.
-    virtual void ChangesKept() = 0;
-    virtual void ChangesTakenBack() = 0;
-};
+class Table;
+struct TableLayout;
 
 /// An open database file. It is opened shared and writable, never created; its rows are reached through record sets.
 class Database
 {
 public:
-    Database();
+    Database() = default;
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
@@ -49,15 +33,13 @@ private:
     friend class RecordSet;
     friend class Transaction;
 
-    std::int64_t ChangesByOthers();
-    void Register(DatabaseObserver* observer);
-    void Unregister(DatabaseObserver* observer);
+    /// The table of a layout, or the one that it lists. It is there as long as the file is open.
+    std::shared_ptr<Table> TableOf(const TableLayout& layout);
     void RollBack();
 
     FileLock lock;
     Engine engine;
-    std::unique_ptr<Statement> versionQuery;
-    std::vector<DatabaseObserver*> observers;
+    std::map<std::string, std::shared_ptr<Table>> tables;
     bool inTransaction = false;
 };
 

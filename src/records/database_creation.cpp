@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "records/engine.h"
+#include "records/row_reading.h"
 #include "records/statement.h"
 
 namespace {
@@ -14,19 +15,19 @@ std::string TableStatement(const TableLayout& table)
     return "CREATE TABLE " + Quoted(table.name) + " (" + columns + ");";
 }
 
-std::string ListStatement(const ListLayout& layout)
+std::string ListStatement(const TableLayout& list)
 {
-    std::string columns;
-    for (const ColumnLayout& column : layout.list.columns)
-        columns += (columns.empty() ? "" : ", ") + Quoted(column.name);
-    return "CREATE VIEW " + Quoted(layout.list.name) + " AS SELECT " + columns + " FROM " + Quoted(layout.listedTable) +
-           " ORDER BY " + layout.list.listOrder + ";";
+    std::string order;
+    for (const int column : list.orderedBy)
+        order += (order.empty() ? "" : ", ") + Quoted(list.columns.at(static_cast<std::size_t>(column)).name) + " DESC";
+    return "CREATE VIEW " + Quoted(list.name) + " AS SELECT " + ColumnNames(list) + " FROM " +
+           Quoted(list.listedTable) + " ORDER BY " + order + ";";
 }
 
 } // namespace
 
 void CreateDatabase(const std::filesystem::path& file, const std::string& connect,
-                    const std::vector<TableLayout>& tables, const std::vector<ListLayout>& lists)
+                    const std::vector<TableLayout>& layouts)
 {
     const std::string doing = "The file " + file.filename().string() + " could not be made";
     if (std::filesystem::exists(file))
@@ -36,9 +37,7 @@ void CreateDatabase(const std::filesystem::path& file, const std::string& connec
     if (!password.empty())
         sqlite3_key(engine.get(), password.data(), static_cast<int>(password.size()));
     std::string statements = "BEGIN;";
-    for (const TableLayout& table : tables)
-        statements += TableStatement(table);
-    for (const ListLayout& list : lists)
-        statements += ListStatement(list);
+    for (const TableLayout& layout : layouts)
+        statements += layout.IsList() ? ListStatement(layout) : TableStatement(layout);
     Execute(engine.get(), statements + "COMMIT", doing);
 }

@@ -1,35 +1,30 @@
 #pragma once
 
-#include "records/bookmark.h"
-#include "records/database.h"
-#include "records/stored_rows.h"
+#include "records/record_row.h"
 #include "records/table_layout.h"
-#include "records/value.h"
 
-#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
-class Statement;
+class Database;
+class Table;
 
 /// The rows of one table or stored query, with a current record. The rows are read once, when they are first asked for,
-/// and held in memory in their own order, so that a walk costs no query; every change is on disk before its call
-/// returns. A change by another copy of the program is seen at the next move to the first or last row; a list shows the
-/// own program's changes after a requery. All operations that read or write throw Failure.
-class RecordSet final : private DatabaseObserver
+/// and held in memory, so that a walk costs no query; every change is on disk before its call returns. A change by
+/// another copy of the program is seen at the next move to the first or last row; a list shows the own program's
+/// changes after a requery, and deleted rows keep their place until then. All operations that read or write throw
+/// Failure.
+class RecordSet
 {
 public:
-    RecordSet();
-    ~RecordSet() override;
-
     /// Opens a table or stored query, after proving that it is of that kind and has exactly these columns. No row is
     /// read yet. Throws Failure.
     void Open(Database& owner, const TableLayout& tableLayout);
     void Close();
 
-    /// At-start and at-end: before the first and behind the last record. Both are true only when there are no rows.
+    /// At-start and at-end: before the first and after the last record. Both are true only when there are no rows.
     bool Bof();
     bool Eof();
     bool IsEmpty() { return Bof() && Eof(); }
@@ -41,26 +36,24 @@ public:
     void MoveNext();
     void MovePrevious();
     /// Moves by a number of rows, backwards when it is negative; a move past either end stops just outside it.
-    void Move(int rows);
-
-    /// The bookmark of the current record.
-    Bookmark Mark() const;
+    void Move(int count);
     /// Moves to the row of a bookmark; false, and at the end, when another copy of the program has deleted it.
     bool MoveTo(const Bookmark& mark);
 
-    /// The field at a position of the current record, counted from 0. Texts live until the rows change.
-    Value Field(int position) const;
-    /// The same field as a number: a text by its leading number, nothing as 0.
-    double Number(int position) const;
-    /// Puts the same field into `number` where it holds a whole number; otherwise false.
-    bool WholeNumber(int position, std::int64_t& number) const
+    /// The current record, for reading. Throws Failure where there is none.
+    RecordRow Row() const
     {
-        return OnRecord() && rows.WholeNumber(current, position, number);
+        if (!OnRecord())
+            ThrowNoRecord("read");
+        return {*rows, Place()};
     }
-    /// The same field as a text; in a column of texts a number of a foreign file has become one. Empty otherwise.
-    std::string_view Text(int position) const;
-    /// Whether the field at a position holds a flag that is set.
-    bool Flag(int position) const { return Number(position) != 0; }
+    /// A function that reads a row is given the current one.
+    operator RecordRow() const { return Row(); }
+    Bookmark Mark() const { return Row().Mark(); }
+    Value Field(int position) const { return Row().Field(position); }
+    bool WholeNumber(int position, std::int64_t& number) const { return Row().WholeNumber(position, number); }
+    double Number(int position) const { return Row().Number(position); }
+    std::string_view Text(int position) const { return Row().Text(position); }
 
     /// Begin a new row, or the change of the current one; SetField fills it, Update stores it. Texts given to SetField
     /// are copied. The current record stays where it is.
@@ -73,11 +66,17 @@ public:
     /// deleted already is no failure.
     void Delete();
 
-    /// Reads the rows anew and moves to the first.
+    /// Shows what has been changed, and moves to the first row.
     void Requery();
 
-    /// The number that a new row gets: that of the last row plus 1, or 1. It must be asked for inside a transaction.
+    /// The number that a new row gets: that of the last row plus 1, or 1. To be called inside a transaction.
     std::int64_t NextNumber();
+
+    /// The rows, after a move to the first one, in their order; or those of them that are chosen.
+    RecordList List();
+    RecordList ListOf(const std::function<bool(const RecordRow&)>& chosen);
+    /// In how many rows of a table the field has this whole part, in one pass over its column.
+    int CountOf(int position, std::int64_t number);
 
 private:
     enum class Editing
@@ -87,37 +86,28 @@ private:
         CurrentRow
     };
 
-    bool OnRecord() const { return loaded && current >= 0 && current < rows.Places() && !rows.IsDeleted(current); }
+    int Size() const { return order ? static_cast<int>(order->size()) : rows->Places(); }
+    /// The place of the current record among the table's rows.
+    int Place() const { return order ? (*order)[static_cast<std::size_t>(current)] : current; }
+    bool IsWithin() const { return current >= 0 && current < Size(); }
+    bool OnRecord() const { return rows && IsWithin() && (order || !rows->IsDeleted(current)); }
+    [[noreturn]] void ThrowNoRecord(const char* failed) const;
+    std::string Doing(const char* failed) const;
     void Load();
     void Refresh();
     void Step(int direction);
-    void DatabaseCloses() override { Close(); }
-    void ChangesKept() override { changed = false; }
-    void ChangesTakenBack() override;
-    void StoreNewRow();
-    void StoreCurrentRow();
-    std::string Doing(const char* failed) const;
-    double OtherNumber(int position) const;
+    int PlaceToChange();
 
-    Database* database = nullptr;
     TableLayout layout;
-    StoredRows rows;
-    std::int64_t loadedVersion = 0;
-    bool loaded = false;
-    bool changed = false;
+    std::shared_ptr<Table> table;
+    std::shared_ptr<const StoredRows> rows;
+    /// The order of a stored query, and how many changes of the rows are in it; a table's rows stand in their own
+    /// order.
+    std::shared_ptr<const std::vector<int>> order;
+    std::size_t orderedChanges = 0;
     int current = -1;
 
     Editing editing = Editing::No;
     std::vector<Value> edited;
     std::vector<std::string> editedTexts;
-    std::unique_ptr<Statement> insertRow;
-    std::unique_ptr<Statement> updateRow;
-    std::unique_ptr<Statement> deleteRow;
 };
-
-// In the header, for nearly every field that a walk reads is a whole number.
-inline double RecordSet::Number(int position) const
-{
-    std::int64_t whole = 0;
-    return WholeNumber(position, whole) ? static_cast<double>(whole) : OtherNumber(position);
-}

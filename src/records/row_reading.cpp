@@ -4,55 +4,30 @@
 #include "base/numbers.h"
 #include "records/statement.h"
 
-#include <optional>
 #include <stdexcept>
 
 namespace {
 
-/// A field of a column of texts. A number, which a file of unknown origin may hold there, is written out; `room` keeps
-/// its digits.
-Value AsText(const Value& field, std::string& room)
+std::string ReadStatement(const TableLayout& table)
 {
-    if (const auto* whole = std::get_if<std::int64_t>(&field))
-        room = std::to_string(*whole);
-    else if (const auto* real = std::get_if<double>(&field))
-        room = PlainNumber(*real).toStdString();
-    else
-        return field;
-    return std::string_view(room);
+    return "SELECT rowid, " + ColumnNames(table) + " FROM " + Quoted(table.name) + " ORDER BY rowid";
 }
 
-/// Proves that the rows of a walk come in the ascending order of their numbers.
-class RowIdOrder
+/// The field of a query's current row in the given column of the table, as it is held in memory.
+Cell ReadCell(const Statement& query, int column, bool ofTexts, StoredRows& rows)
 {
-public:
-    void Prove(std::int64_t rowId, const std::string& doing)
-    {
-        if (last && rowId <= *last)
-            throw Failure(doing, "the file is damaged or is not one of this program's files", "rows out of order");
-        last = rowId;
-    }
-
-private:
-    std::optional<std::int64_t> last;
-};
-
-std::string ReadStatement(const TableLayout& layout)
-{
-    // A stored query is what its table holds, newest first. Its own text, which in a file of unknown origin may say
-    // anything, is never run: the table is read in that order.
-    return "SELECT rowid, " + ColumnNames(layout) + " FROM " +
-           Quoted(layout.IsList() ? layout.listedTable : layout.name) + " ORDER BY " +
-           (layout.IsList() ? layout.listOrder : "rowid");
-}
-
-void ProveOrder(sqlite3* engine, const TableLayout& layout, const std::string& doing)
-{
-    // Where a damaged page leads to others twice, a small file seems to have rows without end.
-    Statement query(engine, "SELECT rowid FROM " + Quoted(layout.listedTable) + " ORDER BY rowid", doing);
-    RowIdOrder order;
-    while (query.Step())
-        order.Prove(query.WholeNumber(0), doing);
+    using Kind = StoredColumn::Kind;
+    // This is asked first, for the engine forgets the type of a field that it has given as a text.
+    if (query.IsBytes(column + 1))
+        return rows.Keep(column, Kind::Bytes, query.Text(column + 1));
+    const Value value = query.Column(column + 1);
+    const auto* whole = std::get_if<std::int64_t>(&value);
+    const auto* real = std::get_if<double>(&value);
+    if (ofTexts && whole != nullptr)
+        return rows.Keep(column, Kind::WrittenNumber, std::to_string(*whole));
+    if (ofTexts && real != nullptr)
+        return rows.Keep(column, Kind::WrittenNumber, PlainNumber(*real).toStdString());
+    return rows.Keep(column, value);
 }
 
 } // namespace
@@ -88,36 +63,32 @@ void ProveLayout(sqlite3* engine, const TableLayout& layout, const std::string& 
     }
     if (found != layout.columns.size())
         throw Failure(doing, "its columns are not as this program made them", "columns missing");
-    // The file's own word for what is a table is not enough: the engine must be ready to read it as one.
-    const Statement readable(engine, ReadStatement(layout), doing);
+    // What a stored query's own text says, which in a file of unknown origin may be anything, is never run.
+    if (layout.IsList())
+        ProveLayout(engine, layout.Listed(), doing);
+    else
+        // The file's own word for what is a table is not enough: the engine must be ready to read it as one.
+        const Statement readable(engine, ReadStatement(layout), doing);
 }
 
-StoredRows ReadRows(sqlite3* engine, const TableLayout& layout, const std::string& doing)
+StoredRows ReadRows(sqlite3* engine, const TableLayout& table, const std::string& doing)
 {
-    const int columns = layout.ColumnCount();
-    if (layout.IsList())
-        ProveOrder(engine, layout, doing);
-    StoredRows read(columns);
-    std::vector<Value> fields(layout.columns.size());
-    std::vector<std::string> numbers(layout.columns.size());
-    RowIdOrder order;
-    Statement query(engine, ReadStatement(layout), doing);
+    StoredRows rows(table.ColumnCount());
+    std::vector<Cell> cells(table.columns.size());
+    Statement query(engine, ReadStatement(table), doing);
     try {
         while (query.Step()) {
             const std::int64_t rowId = query.WholeNumber(0);
-            if (!layout.IsList())
-                order.Prove(rowId, doing);
-            for (int column = 0; column < columns; ++column) {
-                const auto place = static_cast<std::size_t>(column);
-                fields[place] = query.Column(column + 1);
-                if (layout.columns[place].type == "TEXT")
-                    fields[place] = AsText(fields[place], numbers[place]);
-            }
-            read.Add(rowId, fields);
+            // Where a damaged page leads to others twice, a small file seems to have rows without end.
+            if (rows.Places() > 0 && rowId <= rows.RowId(rows.Places() - 1))
+                throw Failure(doing, "the file is damaged or is not one of this program's files", "rows out of order");
+            for (std::size_t column = 0; column < cells.size(); ++column)
+                cells[column] = ReadCell(query, static_cast<int>(column), table.columns[column].type == "TEXT", rows);
+            rows.Append(rowId, cells);
         }
     } catch (const std::length_error& failure) {
         throw Failure(doing, "its texts are too long", failure.what());
     }
-    read.Shrink();
-    return read;
+    rows.Shrink();
+    return rows;
 }

@@ -75,6 +75,12 @@ void Statement::Bind(int parameter, const Value& value)
         ThrowEngineFailure(engine, code, doing);
 }
 
+void Statement::BindAll(const std::vector<Value>& values)
+{
+    for (std::size_t value = 0; value < values.size(); ++value)
+        Bind(static_cast<int>(value) + 1, values[value]);
+}
+
 bool Statement::Step()
 {
     const int code = sqlite3_step(statement);

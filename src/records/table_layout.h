@@ -10,18 +10,18 @@ struct ColumnLayout
     std::string type;
 };
 
-/// A table, or a stored query that lists one, by its name and its columns in their fixed order. Fields are addressed by
-/// their position in this order.
+/// A table, or a stored query that lists all rows of one, by its name and its columns in their fixed order. Fields are
+/// addressed by their position in this order.
 struct TableLayout
 {
     std::string name;
     std::vector<ColumnLayout> columns;
-    /// For a stored query the order of its rows as the engine's ORDER BY clause; empty for a table, whose rows keep the
-    /// order in which they were added.
-    std::string listOrder;
-    /// The table that a stored query lists.
+    /// For a stored query the table that it lists, and the positions of the columns by which it is ordered, each with
+    /// the highest first; empty for a table, whose rows keep the order in which they were added.
     std::string listedTable = {};
+    std::vector<int> orderedBy = {};
 
-    bool IsList() const { return !listOrder.empty(); }
+    bool IsList() const { return !listedTable.empty(); }
+    TableLayout Listed() const { return {listedTable, columns}; }
     int ColumnCount() const { return static_cast<int>(columns.size()); }
 };

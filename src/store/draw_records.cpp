@@ -26,18 +26,18 @@ void SetDrawnBalls(RecordSet& table, const Game& game, const EnteredDraw& draw)
 
 } // namespace
 
-DrawRow ReadDraw(const RecordSet& set, const Game& game)
+DrawRow ReadDraw(const RecordRow& row, const Game& game)
 {
-    DrawRow row;
-    row.date = set.Text(DrawField::Date);
-    row.day = set.Text(DrawField::Day);
+    DrawRow draw;
+    draw.date = row.Text(DrawField::Date);
+    draw.day = row.Text(DrawField::Day);
     for (int slot = 0; slot < game.BallCount(); ++slot)
-        row.balls[static_cast<size_t>(slot)] = set.Number(DrawField::FirstBall + slot);
+        draw.balls[static_cast<size_t>(slot)] = row.Number(DrawField::FirstBall + slot);
     if (game.hasMachine) {
-        row.machine = set.Text(DrawField::Machine);
-        row.ballSet = set.Text(DrawField::BallSet);
+        draw.machine = row.Text(DrawField::Machine);
+        draw.ballSet = row.Text(DrawField::BallSet);
     }
-    return row;
+    return draw;
 }
 
 bool FindDrawByDate(RecordSet& table, QDate date)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "game/draw_row.h"
-#include "records/bookmark.h"
+#include "records/record_row.h"
 
 #include <QDate>
 #include <QString>
@@ -12,8 +12,8 @@
 class RecordSet;
 struct Game;
 
-/// The current record of a draw table or list. Throws Failure where there is none.
-DrawRow ReadDraw(const RecordSet& set, const Game& game);
+/// A row of a draw table or list.
+DrawRow ReadDraw(const RecordRow& row, const Game& game);
 
 /// Moves the table to the first row of the given date; false, and at the end, when there is none.
 bool FindDrawByDate(RecordSet& table, QDate date);

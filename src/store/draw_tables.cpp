@@ -1,6 +1,7 @@
 #include "store/draw_tables.h"
 
 #include "game/game.h"
+#include "store/link_table.h"
 
 namespace {
 
@@ -8,7 +9,7 @@ TableLayout ListOf(TableLayout table)
 {
     table.listedTable = table.name;
     table.name += "list";
-    table.listOrder = "\"Date\" DESC, \"DrawId\" DESC";
+    table.orderedBy = {DrawField::Date, DrawField::DrawId};
     return table;
 }
 
@@ -28,8 +29,7 @@ const TableLayout& DrawTable(const Game& game)
                                         {"Ball6", "INTEGER"},
                                         {"Bonus", "INTEGER"},
                                         {"Machine", "TEXT"},
-                                        {"BallSet", "TEXT"}},
-                                       {}};
+                                        {"BallSet", "TEXT"}}};
     static const TableLayout thunderballDraws{"ukthunder",
                                               {{"DrawId", "INTEGER"},
                                                {"Date", "TEXT"},
@@ -39,8 +39,7 @@ const TableLayout& DrawTable(const Game& game)
                                                {"Ball3", "INTEGER"},
                                                {"Ball4", "INTEGER"},
                                                {"Ball5", "INTEGER"},
-                                               {"Thunderball", "INTEGER"}},
-                                              {}};
+                                               {"Thunderball", "INTEGER"}}};
     return game.IsMain() ? mainDraws : thunderballDraws;
 }
 
@@ -49,4 +48,10 @@ const TableLayout& DrawList(const Game& game)
     static const TableLayout mainList = ListOf(DrawTable(MainGame));
     static const TableLayout thunderballList = ListOf(DrawTable(ThunderballGame));
     return game.IsMain() ? mainList : thunderballList;
+}
+
+std::vector<TableLayout> DrawDatabaseLayouts()
+{
+    return {DrawTable(MainGame), DrawTable(ThunderballGame), DrawList(MainGame), DrawList(ThunderballGame),
+            LinksTable()};
 }

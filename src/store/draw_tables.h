@@ -8,6 +8,9 @@ struct Game;
 const TableLayout& DrawTable(const Game& game);
 const TableLayout& DrawList(const Game& game);
 
+/// Everything that the draw database holds.
+std::vector<TableLayout> DrawDatabaseLayouts();
+
 namespace DrawField {
 inline constexpr int DrawId = 0;
 inline constexpr int Date = 1;

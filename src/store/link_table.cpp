@@ -7,7 +7,6 @@ const TableLayout& LinksTable()
                                     {"WebAddress", "TEXT"},
                                     {"MailAddress", "TEXT"},
                                     {"Description1", "TEXT"},
-                                    {"Description2", "TEXT"}},
-                                   {}};
+                                    {"Description2", "TEXT"}}};
     return links;
 }

@@ -5,26 +5,7 @@
 #include "records/record_set.h"
 #include "store/user_tables.h"
 
-#include <cmath>
-
 namespace {
-
-std::int64_t WholeField(const RecordSet& set, int position)
-{
-    const double number = set.Number(position);
-    return std::fabs(number) < LargestExactWhole ? static_cast<std::int64_t>(number) : 0;
-}
-
-void ReadNumbers(const RecordSet& entries, EntryRow& row)
-{
-    for (int i = 0; i < EntryBalls; ++i)
-        row.numbers[static_cast<size_t>(i)] = entries.Number(EntryField::FirstBall + i);
-}
-
-bool IsEntryOf(const RecordSet& entries, std::int64_t userId, int drawType)
-{
-    return WholeField(entries, EntryField::UserId) == userId && WholeField(entries, EntryField::DrawType) == drawType;
-}
 
 void SetUser(RecordSet& users, const QString& name, double spendLimit)
 {
@@ -45,22 +26,23 @@ void SetNumbersAndDays(RecordSet& entries, const EntryNumbers& numbers, const Da
 
 } // namespace
 
-UserRow ReadUser(const RecordSet& users)
+UserRow ReadUser(const RecordRow& row)
 {
-    return {WholeField(users, UserField::UserId), FromUtf8(users.Text(UserField::UserName)),
-            users.Number(UserField::SpendLimit)};
+    return {row.WholePart(UserField::UserId), FromUtf8(row.Text(UserField::UserName)),
+            row.Number(UserField::SpendLimit)};
 }
 
-EntryRow ReadEntry(const RecordSet& entries)
+EntryRow ReadEntry(const RecordRow& row)
 {
-    EntryRow row;
-    row.number = WholeField(entries, EntryField::EntryId);
-    row.userId = WholeField(entries, EntryField::UserId);
-    row.drawType = static_cast<int>(WholeField(entries, EntryField::DrawType));
-    ReadNumbers(entries, row);
+    EntryRow entry;
+    entry.number = row.WholePart(EntryField::EntryId);
+    entry.userId = row.WholePart(EntryField::UserId);
+    entry.drawType = static_cast<int>(row.WholePart(EntryField::DrawType));
+    for (int i = 0; i < EntryBalls; ++i)
+        entry.numbers.at(static_cast<size_t>(i)) = row.Number(EntryField::FirstBall + i);
     for (int day = 0; day < DaysOfWeek; ++day)
-        row.days.at(static_cast<size_t>(day)) = entries.Flag(EntryField::Monday + day);
-    return row;
+        entry.days.at(static_cast<size_t>(day)) = row.Flag(EntryField::Monday + day);
+    return entry;
 }
 
 std::vector<UserRow> ReadAllUsers(RecordSet& users)
@@ -81,31 +63,11 @@ std::vector<EntryRow> ReadAllEntries(RecordSet& entries)
     return rows;
 }
 
-std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType)
+RecordList ListEntriesOf(RecordSet& entries, std::int64_t userId, int drawType)
 {
-    std::vector<EntryRow> rows;
-    entries.MoveFirst();
-    // Room that is never used costs nothing; rows that are moved while it grows do.
-    rows.reserve(static_cast<size_t>(entries.Count()));
-    for (; !entries.Eof(); entries.MoveNext()) {
-        if (!IsEntryOf(entries, userId, drawType))
-            continue;
-        EntryRow& row = rows.emplace_back();
-        row.number = WholeField(entries, EntryField::EntryId);
-        row.userId = userId;
-        row.drawType = drawType;
-        ReadNumbers(entries, row);
-    }
-    return rows;
-}
-
-std::vector<Bookmark> MarkEntriesOf(RecordSet& entries, std::int64_t userId, int drawType)
-{
-    std::vector<Bookmark> marks;
-    for (entries.MoveFirst(); !entries.Eof(); entries.MoveNext())
-        if (IsEntryOf(entries, userId, drawType))
-            marks.push_back(entries.Mark());
-    return marks;
+    return entries.ListOf([=](const RecordRow& row) {
+        return row.WholePart(EntryField::UserId) == userId && row.WholePart(EntryField::DrawType) == drawType;
+    });
 }
 
 bool FindUserByName(RecordSet& users, const QString& name)
@@ -119,18 +81,14 @@ bool FindUserByName(RecordSet& users, const QString& name)
 bool FindUserByNumber(RecordSet& users, std::int64_t userId)
 {
     for (users.MoveFirst(); !users.Eof(); users.MoveNext())
-        if (WholeField(users, UserField::UserId) == userId)
+        if (users.Row().WholePart(UserField::UserId) == userId)
             return true;
     return false;
 }
 
 int CountEntries(RecordSet& entries, std::int64_t userId)
 {
-    int count = 0;
-    for (entries.MoveFirst(); !entries.Eof(); entries.MoveNext())
-        if (WholeField(entries, EntryField::UserId) == userId)
-            ++count;
-    return count;
+    return entries.CountOf(EntryField::UserId, userId);
 }
 
 bool MayStoreEntries(int count, int more, double spendLimit)
@@ -170,6 +128,6 @@ void ChangeEntry(RecordSet& entries, const EntryNumbers& numbers, const DaySet& 
 void DeleteUserEntries(RecordSet& entries, std::int64_t userId)
 {
     for (entries.MoveFirst(); !entries.Eof(); entries.MoveNext())
-        if (WholeField(entries, EntryField::UserId) == userId)
+        if (entries.Row().WholePart(EntryField::UserId) == userId)
             entries.Delete();
 }

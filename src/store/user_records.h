@@ -1,6 +1,7 @@
 #pragma once
 
 #include "game/entry_row.h"
+#include "records/record_row.h"
 
 #include <QString>
 #include <QStringList>
@@ -8,7 +9,6 @@
 #include <vector>
 
 class RecordSet;
-struct Bookmark;
 
 /// One stored user.
 struct UserRow
@@ -18,18 +18,15 @@ struct UserRow
     double spendLimit = 0;
 };
 
-UserRow ReadUser(const RecordSet& users);
-EntryRow ReadEntry(const RecordSet& entries);
+UserRow ReadUser(const RecordRow& row);
+EntryRow ReadEntry(const RecordRow& row);
 
 /// All rows, in the order in which they were added.
 std::vector<UserRow> ReadAllUsers(RecordSet& users);
 std::vector<EntryRow> ReadAllEntries(RecordSet& entries);
 
-/// The user's entries of one game, in the order in which they were added, without their days.
-std::vector<EntryRow> ReadEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
-
-/// The bookmarks of the same entries.
-std::vector<Bookmark> MarkEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
+/// The user's entries of one game, in the order in which they were added.
+RecordList ListEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
 
 /// Moves to the first user of exactly this name; false, and at the end, when there is none.
 bool FindUserByName(RecordSet& users, const QString& name);

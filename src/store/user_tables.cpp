@@ -2,8 +2,7 @@
 
 const TableLayout& UsersTable()
 {
-    static const TableLayout users{
-        "users", {{"UserId", "INTEGER"}, {"UserName", "TEXT"}, {"SpendLimit", "NUMERIC"}}, {}};
+    static const TableLayout users{"users", {{"UserId", "INTEGER"}, {"UserName", "TEXT"}, {"SpendLimit", "NUMERIC"}}};
     return users;
 }
 
@@ -25,7 +24,6 @@ const TableLayout& EntriesTable()
                                       {"Thursday", "INTEGER"},
                                       {"Friday", "INTEGER"},
                                       {"Saturday", "INTEGER"},
-                                      {"Sunday", "INTEGER"}},
-                                     {}};
+                                      {"Sunday", "INTEGER"}}};
     return entries;
 }

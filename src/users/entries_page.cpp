@@ -128,13 +128,8 @@ const Game& EntriesPage::ChosenGame() const
 
 void EntriesPage::FillEntriesGrid()
 {
-    std::vector<EntryRow> rows;
-    marks.clear();
-    if (selectedUserNumber) {
-        marks = MarkEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType);
-        rows = ReadEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType);
-    }
-    model->Fill(ChosenGame(), std::move(rows));
+    shown = selectedUserNumber ? ListEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType) : RecordList();
+    model->Fill(ChosenGame(), shown.Count(), [this](int row) { return ReadEntry(shown[row]); });
     const bool empty = model->rowCount() == 0;
     F13grid->setHidden(empty);
     F13noentries->setVisible(empty);
@@ -149,7 +144,7 @@ void EntriesPage::OpenSelectedEntry(PageFrame* page, const QString& verb)
         return;
     }
     page->ShowInFront();
-    if (entries.MoveTo(marks.at(static_cast<size_t>(rows.first))))
+    if (entries.MoveTo(shown[rows.first].Mark()))
         page->Prepare();
     else
         ShowMessage(u"An unexpected error has occured,"_s + Crlf + u"please try again."_s);
@@ -176,6 +171,6 @@ void EntriesPage::F13delete_Click()
         ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
-    DeleteEntries({marks.begin() + rows.first, marks.begin() + rows.last + 1});
+    DeleteEntries(shown.Marks(rows.first, rows.last));
     FillEntriesGrid();
 }

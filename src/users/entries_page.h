@@ -2,12 +2,11 @@
 
 #include "controls/page_frame.h"
 #include "game/entry_row.h"
-#include "records/bookmark.h"
+#include "records/record_row.h"
 
 #include <QLabel>
 
 #include <optional>
-#include <vector>
 
 class Card;
 class EntryGridModel;
@@ -43,8 +42,8 @@ private:
 
     PageSwitch& pages;
     std::optional<std::int64_t> selectedUserNumber;
-    /// Of the entries in the grid, in its order.
-    std::vector<Bookmark> marks;
+    /// The entries in the grid.
+    RecordList shown;
 
     QComboBox* F13user;
     QRadioButton* F13typemain;

@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int RowColumn = 1;
 constexpr int FirstBallColumn = 2;
 constexpr int BallColumns = 6;
 
@@ -24,17 +25,18 @@ std::vector<GridModel::Column> Columns()
 
 EntryGridModel::EntryGridModel(QObject* parent) : GridModel(Columns(), parent) {}
 
-void EntryGridModel::Fill(const Game& game, std::vector<EntryRow> entriesOfGame)
+void EntryGridModel::Fill(const Game& game, int entryCount, std::function<EntryRow(int)> readEntry)
 {
     beginResetModel();
-    rows = std::move(entriesOfGame);
+    count = entryCount;
+    entryOf = std::move(readEntry);
     endResetModel();
     SetHeading(FirstBallColumn + BallColumns - 1, game.IsMain() ? MainGame.BallCaption(BallColumns - 1) : u"Thunder"_s);
 }
 
 int EntryGridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(rows.size());
+    return parent.isValid() ? 0 : count;
 }
 
 std::vector<double> EntryGridModel::ColumnShares()
@@ -46,10 +48,10 @@ std::vector<double> EntryGridModel::ColumnShares()
 
 QString EntryGridModel::CellText(int row, int column) const
 {
-    const EntryRow& entry = rows.at(static_cast<size_t>(row));
+    if (column == RowColumn)
+        return QString::number(row + 1);
+    const EntryRow entry = entryOf(row);
     if (column == 0)
         return QString::number(entry.number);
-    if (column < FirstBallColumn)
-        return QString::number(row + 1);
     return PlainNumber(entry.numbers.at(static_cast<size_t>(column - FirstBallColumn)));
 }

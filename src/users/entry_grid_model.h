@@ -4,6 +4,8 @@
 #include "controls/grid_view.h"
 #include "game/entry_row.h"
 
+#include <functional>
+
 struct Game;
 
 /// Entries as rows of a grid: a hidden column with the entry's number, a column that counts the rows from 1, and the
@@ -15,9 +17,8 @@ class EntryGridModel : public GridModel
 public:
     explicit EntryGridModel(QObject* parent = nullptr);
 
-    /// Takes the rows of one game.
-    void Fill(const Game& game, std::vector<EntryRow> entriesOfGame);
-    const std::vector<EntryRow>& Rows() const { return rows; }
+    /// Shows so many entries of one game; each is read when it is seen.
+    void Fill(const Game& game, int entryCount, std::function<EntryRow(int)> readEntry);
 
     int rowCount(const QModelIndex& parent = {}) const override;
 
@@ -28,5 +29,6 @@ protected:
     QString CellText(int row, int column) const override;
 
 private:
-    std::vector<EntryRow> rows;
+    int count = 0;
+    std::function<EntryRow(int)> entryOf;
 };

@@ -6,6 +6,7 @@
 #include "records/compaction.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 
 namespace {
 
@@ -112,6 +113,65 @@ private Q_SLOTS:
         QVERIFY(clock.elapsed() < 2000);
     }
 
+    void ListHasTheEnginesOrder()
+    {
+        const QStringList odd{"NULL",
+                              "7",
+                              "-1",
+                              "2.5",
+                              "9e999",
+                              "'2020-01-11'",
+                              "'2020-01-04'",
+                              "'10'",
+                              "''",
+                              "x'31'",
+                              "'\u00e9'",
+                              "9223372036854775807",
+                              "9223372036854775806"};
+        std::string draws = "DROP TABLE ukmain; CREATE TABLE ukmain(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
+                            "Ball4, Ball5, Ball6, Bonus, Machine, BallSet);";
+        int row = 0;
+        for (const QString& date : odd)
+            for (const QString& number : odd)
+                draws += QString("INSERT INTO ukmain(DrawId, \"Date\", Ball1) VALUES (%1, %2, %3);")
+                             .arg(number, date)
+                             .arg(++row)
+                             .toStdString();
+        const ForeignFiles files({}, draws);
+        OpenDatabaseFiles();
+        const auto listed = [] {
+            std::string balls;
+            for (ukmainlist.MoveFirst(); !ukmainlist.Eof(); ukmainlist.MoveNext())
+                balls += std::to_string(ukmainlist.Row().WholePart(DrawField::FirstBall)) + ' ';
+            return balls;
+        };
+        const auto inFile = [] {
+            QFile file(DrawDataPath);
+            (void)file.open(QIODevice::ReadOnly);
+            const QByteArray salt = file.read(SaltBytes);
+            file.close();
+            const Engine engine =
+                OpenGuarded(DrawDataPath, DrawConnect, {salt.data(), static_cast<size_t>(salt.size())}, "asking");
+            Statement query(engine.get(), "SELECT Ball1 FROM ukmain ORDER BY \"Date\" DESC, DrawId DESC, rowid",
+                            "asking");
+            std::string balls;
+            while (query.Step())
+                balls += std::to_string(query.WholeNumber(0)) + ' ';
+            return balls;
+        };
+        QCOMPARE(listed(), inFile());
+        // A draw is added between the others, one gets another date, and one goes.
+        AddDraw(ukmain, MainGame, {QDate(2020, 1, 5), {200, 2, 3, 4, 5, 6, 7}, "", ""});
+        ukmain.Move(-9);
+        ukmain.Edit();
+        ukmain.SetField(DrawField::Date, std::string_view("2020-01-06"));
+        ukmain.Update();
+        ukmain.MovePrevious();
+        ukmain.Delete();
+        ukmainlist.Requery();
+        QCOMPARE(listed(), inFile());
+    }
+
     void NumbersInThePlaceOfTextsAreTexts()
     {
         const ForeignFiles files("DROP TABLE users; CREATE TABLE users(UserId, UserName, SpendLimit);"
@@ -161,6 +221,15 @@ private Q_SLOTS:
         QCOMPARE(DetailOf([&] { Execute(engine.get(), "SELECT count(*) FROM n, n AS o, n AS p", "counting"); }),
                  QString("interrupted"));
         QVERIFY(clock.elapsed() < 10000);
+    }
+
+    void AsManyRowsAsAFileCanHoldAreRead()
+    {
+        const ForeignFiles files("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 300000)"
+                                 "INSERT INTO users SELECT NULL, NULL, NULL FROM n");
+        OpenDatabaseFiles();
+        QCOMPARE(users.Count(), 300001);
+        QCOMPARE(CloseAndCompactFiles(), QString());
     }
 
     void FileFarTooLargeIsRefused()

@@ -20,9 +20,8 @@
 
 namespace {
 
-const TableLayout Numbers{"numbers", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, {}};
-const TableLayout NumbersDownwards{
-    "numberslist", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, "\"Number\" DESC", "numbers"};
+const TableLayout Numbers{"numbers", {{"Number", "INTEGER"}, {"Word", "TEXT"}}};
+const TableLayout NumbersDownwards{"numberslist", {{"Number", "INTEGER"}, {"Word", "TEXT"}}, "numbers", {0}};
 const std::string Connect = ";pwd=secret";
 
 void Add(RecordSet& set, std::int64_t number, std::string_view word)
@@ -47,7 +46,7 @@ class Fixture
 public:
     explicit Fixture(const std::string& connect = {}) : path(folder.filePath("numbers.db").toStdString())
     {
-        CreateDatabase(path, connect, {Numbers}, {{NumbersDownwards, "numbers"}});
+        CreateDatabase(path, connect, {Numbers, NumbersDownwards});
         database.Open(path, connect);
         table.Open(database, Numbers);
         list.Open(database, NumbersDownwards);
@@ -154,10 +153,10 @@ private Q_SLOTS:
         addWords(100, words.size());
         for (const std::int64_t number : {std::int64_t{1} << 30, -(std::int64_t{1} << 30), INT64_MIN, INT64_MAX})
             values.emplace_back(number);
-        static const TableLayout untyped{"untyped", {{"Field", ""}}, {}};
+        static const TableLayout untyped{"untyped", {{"Field", ""}}};
         const QTemporaryDir folder;
         const std::string path = folder.filePath("untyped.db").toStdString();
-        CreateDatabase(path, {}, {untyped}, {});
+        CreateDatabase(path, {}, {untyped});
         Database database;
         database.Open(path);
         RecordSet set;
@@ -179,7 +178,8 @@ private Q_SLOTS:
             QVERIFY(set.Eof());
         };
         prove();
-        set.Requery();
+        database.Open(path);
+        set.Open(database, untyped);
         prove();
         // A row that needs more room, and rows that move up into the places of deleted ones.
         After(set, "F D");
@@ -242,12 +242,19 @@ private Q_SLOTS:
         for (const auto& [steps, row] : {std::pair("P D N", 2.0), std::pair("F D L P D", 4.0)}) {
             {
                 const Transaction transaction(f.database, "nothing");
+                f.table.Edit();
+                f.table.SetField(1, std::string_view("zwei"));
+                f.table.Update();
                 Add(f.table, 9, "nine");
+                f.list.Requery();
                 After(f.table, steps);
             }
             QCOMPARE(f.table.Number(0), row);
             QCOMPARE(Walk(f.table), QString("1 2 3 4"));
+            f.list.Requery();
+            QCOMPARE(Walk(f.list), QString("4 3 2 1"));
             After(f.table, "F N");
+            QCOMPARE(f.table.Text(1), std::string_view("two"));
         }
         Transaction transaction(f.database, "all");
         Add(f.table, 5, "five");

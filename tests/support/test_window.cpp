@@ -91,12 +91,9 @@ TestFolder::TestFolder(Content content)
     static const QTemporaryDir emptyFiles;
     const QString draws = emptyFiles.filePath(u"drawdata.tv3"_s);
     if (!QFile::exists(draws))
-        CreateDatabase(draws.toStdString(), DrawConnect,
-                       {DrawTable(MainGame), DrawTable(ThunderballGame), LinksTable()},
-                       {{DrawList(MainGame), DrawTable(MainGame).name},
-                        {DrawList(ThunderballGame), DrawTable(ThunderballGame).name}});
+        CreateDatabase(draws.toStdString(), DrawConnect, DrawDatabaseLayouts());
     QFile::copy(draws, folder.filePath(u"drawdata.tv3"_s));
-    CreateDatabase(UserDataPath, {}, {UsersTable(), EntriesTable()}, {});
+    CreateDatabase(UserDataPath, {}, {UsersTable(), EntriesTable()});
 }
 
 TestFolder::~TestFolder()
