@@ -31,7 +31,7 @@ bool Wanted(const Wishes& wishes, const QString& row)
     return row.contains(wishes.rows, Qt::CaseInsensitive);
 }
 
-void Measure(const std::vector<Row>& rows, const Wishes& wishes)
+void Measure(const std::vector<Row>& rows, const Wishes& wishes, bool onLong)
 {
     for (const Row& row : rows) {
         if (!Wanted(wishes, row.name))
@@ -39,7 +39,7 @@ void Measure(const std::vector<Row>& rows, const Wishes& wishes)
         if (wishes.counted)
             CountRow(row);
         else
-            MeasureRow(row, wishes.runs);
+            MeasureRow(row, wishes.runs, onLong);
     }
 }
 
@@ -47,11 +47,12 @@ void MeasureHistory(const DataSize& size, const std::filesystem::path& folder, c
 {
     const auto data = folder / "data";
     const auto work = folder / "work";
+    const bool onLong = size.draws != 0;
     MakeData(size, BENCH_STARTER, data);
     std::filesystem::copy(data, work);
     PrintHeading(QLatin1String(size.name));
     if (!wishes.counted)
-        Measure(ProcessRows(data, work), wishes);
+        Measure(ProcessRows(data, work), wishes, onLong);
     const auto shown = folder / "shown";
     std::filesystem::copy(data, shown);
     SetProgramDir(shown);
@@ -60,11 +61,11 @@ void MeasureHistory(const DataSize& size, const std::filesystem::path& folder, c
         MainWindow window;
         window.show();
         window.activateWindow();
-        Measure(PageRows(window), wishes);
-        Measure(RecordRows(work), wishes);
+        Measure(PageRows(window), wishes, onLong);
+        Measure(RecordRows(work), wishes, onLong);
     }
     CloseDatabaseFiles();
-    if (size.draws == 0 && !wishes.counted && Wanted(wishes, HandlersRow))
+    if (!wishes.counted && Wanted(wishes, HandlersRow))
         MeasureHandlers(data, work, wishes.runs);
 }
 

@@ -83,7 +83,8 @@ Row CheckRow(MainWindow& window)
     window.ShowPage(12);
     ShowReport(window);
     const auto finished = std::make_shared<FinishedText>(*window.findChild<QTextEdit*>(u"F12text"_s));
-    return {u"\"Check Now\", report shown"_s, 1.3,
+    return {u"\"Check Now\", report shown"_s,
+            {1.3, 1.3},
             [&window] {
                 window.ShowPage(12);
                 return ShowReport(window);
@@ -96,12 +97,6 @@ enum class Lists
     OnFile,
     InMemory
 };
-
-void LeaveListsOnFile()
-{
-    for (const Game* game : {&MainGame, &ThunderballGame})
-        DrawListOf(*game).Open(DrawDb, DrawList(*game));
-}
 
 /// What a grid shows, and the number by which it finds its draw.
 WalkedFields GridFields(const Game& game)
@@ -116,9 +111,11 @@ Row GridsRow(MainWindow& window, Lists lists)
 {
     const auto prepare = [lists] {
         if (lists == Lists::OnFile)
-            LeaveListsOnFile();
+            OpenDatabaseFiles();
     };
-    return {lists == Lists::OnFile ? u"page 10 filled, lists read from the file"_s : u"page 10 filled again"_s, 1.5,
+    const bool onFile = lists == Lists::OnFile;
+    return {onFile ? u"page 10 filled, lists read from the file"_s : u"page 10 filled again"_s,
+            onFile ? Bounds{1.5, 1.5} : Bounds{1.2, 0.8},
             [&window, prepare] {
                 PageFrame* page = window.Page(10);
                 prepare();
@@ -159,7 +156,8 @@ Row EntriesRow(MainWindow& window)
     WalkedFields fields;
     for (int field = EntryField::EntryId; field < EntryField::Monday; ++field)
         fields.numbers.push_back(field);
-    return {u"entries list of a user with 10,000 entries"_s, 1.5,
+    return {u"entries list of a user with 10,000 entries"_s,
+            {1.4, 0.8},
             [&window] {
                 const FirstUserEntries owned;
                 window.ShowPage(13);
