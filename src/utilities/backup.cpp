@@ -37,11 +37,12 @@ void BackUp(const DatabaseFile& file, const std::filesystem::path& chosen)
             throw Failure(doing, "it would take the place of one of the program's own files", chosen.string());
     RefuseUnfinished(chosen, doing);
     const FileLock replaced = HoldReplaced(chosen, doing);
-    TemporaryFile copy = TemporaryFile::Beside(chosen, file.live.filename().string());
     HeldFile live(file.live, file.connect, doing);
     if (live.Alone())
         live.Compact();
     live.Settle();
+    // Not earlier: the compaction clears away what bears such a name in the program's folder.
+    TemporaryFile copy = TemporaryFile::Beside(chosen, file.live.filename().string());
     live.CopyTo(copy);
     copy.RenameOver();
 }

@@ -193,6 +193,10 @@ private Q_SLOTS:
             QCOMPARE(BytesOf(*reason == '\0' ? copy : utilities.Live("user")),
                      *reason == '\0' ? BytesOf(utilities.Live("user")) : before);
         }
+        // In the program's own folder, too.
+        const QString beside = utilities.window.files.Path("copy.tv3");
+        BackUp(UserDatabaseFile(), beside.toStdString());
+        QCOMPARE(BytesOf(beside), BytesOf(utilities.Live("user")));
     }
 
     void LiveFilesAreRefused()
