@@ -21,7 +21,6 @@ QString Ask(QFileDialog& dialog, const FileQuestion& question)
     dialog.setObjectName(u"CommonDialog1"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilter(u"Tavenor 3 Files (*.tv3)"_s);
-    dialog.setDefaultSuffix(u"tv3"_s);
     dialog.selectFile(question.offeredName);
     // Wide enough for sizes and dates to be read whole.
     dialog.resize(800, 500);
@@ -40,6 +39,7 @@ QString AskFileToSave(const FileQuestion& question, QWidget* parent)
     QFileDialog dialog(parent, question.title, question.folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(u"tv3"_s);
     return Ask(dialog, question);
 }
 

@@ -257,12 +257,12 @@ private Q_SLOTS:
 
     void ImportReplacesOneFileOnly()
     {
-        for (const Kind& kind : Kinds) {
+        // Names that the program has no files of its own under; a file without an ending is taken too.
+        for (const auto& [kind, name] :
+             {std::pair(Kinds[0], "drawdata.tp0"), {Kinds[1], "userdata.tv3.new"}, {Kinds[1], "entries"}}) {
             Utilities utilities;
             const QString other = utilities.Live(kind.name == "draw" ? "user" : "draw");
-            // Names that the program has no files of its own under.
-            const QString chosen =
-                utilities.window.files.Path(kind.name == "draw" ? "drawdata.tp0" : "userdata.tv3.new");
+            const QString chosen = utilities.window.files.Path(name);
             QFile::copy(TAVENOR_STARTER "/" + kind.name + "data.tv3", chosen);
             QFile::setPermissions(chosen, QFile::ReadOwner);
             const QByteArray untouched = BytesOf(other);
