@@ -61,7 +61,7 @@ const AnalysisScreen ThunderballScreens[] = {
 
 std::span<const AnalysisScreen> ScreensOf(const Game& game)
 {
-    if (game.drawType == MainGame.drawType)
+    if (game.IsMain())
         return MainScreens;
     return ThunderballScreens;
 }

@@ -18,8 +18,7 @@ BallRole MainBallRole(const Game& game)
 
 BallRole ExtraBallRole(const Game& game)
 {
-    return {SlotsOf(game, BallType::ExtraBall),
-            game.drawType == MainGame.drawType ? u"the bonus ball"_s : u"the thunderball"_s};
+    return {SlotsOf(game, BallType::ExtraBall), game.IsMain() ? u"the bonus ball"_s : u"the thunderball"_s};
 }
 
 BallAppearances FindBall(RecordSet& list, const BallRole& role, int ball)

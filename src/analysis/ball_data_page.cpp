@@ -18,7 +18,7 @@ namespace {
 
 int PageOf(const Game& game)
 {
-    return game.drawType == MainGame.drawType ? 23 : 24;
+    return game.IsMain() ? 23 : 24;
 }
 
 void ShowIn(const LabelledBall& disc, const Game& game, int slot, int ball)

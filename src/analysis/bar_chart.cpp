@@ -16,7 +16,6 @@
 #include <QToolTip>
 #include <QValueAxis>
 
-#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;

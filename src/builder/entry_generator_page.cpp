@@ -19,7 +19,6 @@
 #include "store/user_records.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QPushButton>
 
 #include <algorithm>

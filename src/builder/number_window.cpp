@@ -32,19 +32,14 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     card->Content()->addWidget(board, 0, Qt::AlignCenter);
     auto* fillRow = new QHBoxLayout;
     auto* endRow = new QHBoxLayout;
-    const auto addButton = [this](QHBoxLayout* row, const QString& caption, const QString& name, auto handler) {
-        auto* button = new Button(caption, name);
-        row->addWidget(button);
-        ConnectGuarded(button, &QPushButton::clicked, this, handler);
-    };
     fillRow->setSpacing(Spacing::Between);
-    addButton(fillRow, u"Select All"_s, u"Selall"_s, [this] { board->SetAll(true); });
-    addButton(fillRow, u"Clear All"_s, u"clear"_s, [this] { board->SetAll(false); });
-    addButton(fillRow, u"Random Selection"_s, u"random"_s, [this] { random_Click(); });
+    AddButton(fillRow, u"Select All"_s, u"Selall"_s, &NumberWindow::Selall_Click);
+    AddButton(fillRow, u"Clear All"_s, u"clear"_s, &NumberWindow::clear_Click);
+    AddButton(fillRow, u"Random Selection"_s, u"random"_s, &NumberWindow::random_Click);
     fillRow->addStretch(1);
     endRow->setSpacing(Spacing::Between);
     endRow->addStretch(1);
-    addButton(endRow, u"Go Back Without Storing"_s, u"nostore"_s, [this] { nostore_Click(); });
+    AddButton(endRow, u"Go Back Without Storing"_s, u"nostore"_s, &NumberWindow::nostore_Click);
     endRow->addWidget(store);
     // The button keeps its room while it is hidden, so that the window does not jump.
     QSizePolicy keepsRoom = store->sizePolicy();
@@ -67,12 +62,30 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     UpdateSelectionCount();
 }
 
+void NumberWindow::AddButton(QHBoxLayout* row, const QString& caption, const QString& name,
+                             void (NumberWindow::*handler)())
+{
+    auto* button = new Button(caption, name);
+    row->addWidget(button);
+    ConnectGuarded(button, &QPushButton::clicked, this, [this, handler] { (this->*handler)(); });
+}
+
 void NumberWindow::UpdateSelectionCount()
 {
     const int count = static_cast<int>(board->TickedNumbers().size());
     store->setVisible(count == state.NumbersRequired);
     countLabel->setText(count == 1 ? u"Your have 1 number selected."_s
                                    : u"Your have %1 numbers selected."_s.arg(count));
+}
+
+void NumberWindow::Selall_Click()
+{
+    board->SetAll(true);
+}
+
+void NumberWindow::clear_Click()
+{
+    board->SetAll(false);
 }
 
 void NumberWindow::random_Click()

@@ -6,6 +6,7 @@
 
 class Button;
 class NumberBoard;
+class QHBoxLayout;
 class QLabel;
 
 /// The number-picking window, frmnumsel. It shows the numbers chosen last and offers Store while exactly the required
@@ -18,7 +19,10 @@ public:
     NumberWindow(BuilderState& builderState, QWidget* parent);
 
 private:
+    void AddButton(QHBoxLayout* row, const QString& caption, const QString& name, void (NumberWindow::*handler)());
     void UpdateSelectionCount();
+    void Selall_Click();
+    void clear_Click();
     void random_Click();
     void store_Click();
     void nostore_Click();
