@@ -13,8 +13,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 BallFields::BallFields(const Names& names, const QStringList& captions, QWidget* parent)

@@ -13,7 +13,6 @@
 #include "store/draw_changes.h"
 #include "store/open_databases.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>

@@ -2,8 +2,6 @@
 
 #include "base/failure.h"
 
-#include <stdexcept>
-
 namespace {
 
 const char* PlainReason(int code)

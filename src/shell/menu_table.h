@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <array>
 #include <vector>
 
 /// One sub-option of a menu group. `top` is in twips from the top of the menu column, of which ten make a logical

@@ -4,7 +4,6 @@
 #include "records/record_row.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <vector>
 
