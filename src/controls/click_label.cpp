@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+#include <QtMath>
 
 ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : EnterButton(parent)
 {
@@ -18,8 +19,9 @@ ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : EnterButton(pa
 
 QSize ClickLabel::sizeHint() const
 {
-    const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(text()) + 2 * Spacing::Inside, metrics.height() + Spacing::Inside};
+    // Rounded up, or a text that lacks a part of a pixel would end in an ellipsis.
+    const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(text()));
+    return {width + 2 * Spacing::Inside, fontMetrics().height() + Spacing::Inside};
 }
 
 void ClickLabel::paintEvent(QPaintEvent* /*event*/)

@@ -1,5 +1,6 @@
 #include "support/test_window.h"
 
+#include "look/theme.h"
 #include "utilities/link_label.h"
 
 #include <QDesktopServices>
@@ -116,6 +117,8 @@ private Q_SLOTS:
             const QString name = QString("F25link_%1").arg(row.index);
             auto* label = window.Find<LinkLabel>(name);
             QCOMPARE(label->text(), row.shown);
+            QCOMPARE(label->fontMetrics().elidedText(row.shown, Qt::ElideRight, label->width() - 2 * Spacing::Inside),
+                     row.shown);
             QCOMPARE(label->font().underline(), row.isLink);
             QCOMPARE(window.ColourOf(name, QPalette::WindowText), QColor(row.isLink ? "#0000FF" : "#000000"));
             QCOMPARE(label->cursor().shape(), row.isLink ? Qt::PointingHandCursor : Qt::ArrowCursor);
