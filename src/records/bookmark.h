@@ -1,9 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
-
-class RecordSet;
 
 /// Names one stored row, also where a file of unknown origin holds its number twice or not at all. It names no other
 /// row after another copy of the program has deleted it.
@@ -15,7 +12,3 @@ struct Bookmark
 
     bool operator==(const Bookmark&) const = default;
 };
-
-/// Deletes the rows in one pass over the table; one that is gone already is no failure. Throws Failure; to be called
-/// inside a transaction.
-void DeleteRecords(RecordSet& table, const std::vector<Bookmark>& marks);

@@ -7,6 +7,7 @@
 #include "records/table.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 void RecordSet::Open(Database& owner, const TableLayout& tableLayout)
@@ -221,4 +222,16 @@ int RecordSet::CountOf(int position, std::int64_t number)
             ++count;
     });
     return count;
+}
+
+void DeleteRecords(RecordSet& table, const std::vector<Bookmark>& marks)
+{
+    std::unordered_map<std::int64_t, double> wanted;
+    for (const Bookmark& mark : marks)
+        wanted[mark.rowId] = mark.number;
+    for (table.MoveFirst(); !table.Eof(); table.MoveNext()) {
+        const Bookmark mark = table.Mark();
+        if (const auto found = wanted.find(mark.rowId); found != wanted.end() && found->second == mark.number)
+            table.Delete();
+    }
 }

@@ -111,3 +111,7 @@ private:
     std::vector<Value> edited;
     std::vector<std::string> editedTexts;
 };
+
+/// Deletes the rows in one pass over the table; one that is gone already is no failure. Throws Failure; to be called
+/// inside a transaction.
+void DeleteRecords(RecordSet& table, const std::vector<Bookmark>& marks);
