@@ -1,6 +1,6 @@
 // Makes drawdata.tv3 and userdata.tv3 from lists of draws and links:
 //
-//     make_databases MAIN.csv THUNDERBALL.csv LINKS.csv FOLDER
+//     tavenor3-databases MAIN.csv THUNDERBALL.csv LINKS.csv FOLDER
 //
 // Draws go in by date, numbered from 1. A row that cannot be a draw stops it with file, line and reason; files of an
 // earlier run in the folder are replaced only when everything is right.
@@ -160,7 +160,7 @@ void MakeAll(const QStringList& sources, const std::filesystem::path& folder)
 int main(int count, char** arguments)
 {
     if (count != 5) {
-        std::fputs("Usage: make_databases MAIN.csv THUNDERBALL.csv LINKS.csv FOLDER\n", stderr);
+        std::fputs("Usage: tavenor3-databases MAIN.csv THUNDERBALL.csv LINKS.csv FOLDER\n", stderr);
         return 2;
     }
     try {
@@ -168,7 +168,7 @@ int main(int count, char** arguments)
                  QString::fromLocal8Bit(arguments[3])},
                 arguments[4]);
     } catch (const std::exception& failure) {
-        std::fprintf(stderr, "make_databases: %s\n", failure.what());
+        std::fprintf(stderr, "tavenor3-databases: %s\n", failure.what());
         return 1;
     }
     return 0;
