@@ -19,14 +19,6 @@ namespace {
 constexpr int Side = 7;
 constexpr qreal ShadowRoom = 5;
 
-QColor Tinted(const QColor& ground, const QColor& tint)
-{
-    constexpr float share = 0.3F;
-    return QColor::fromRgbF(ground.redF() + (tint.redF() - ground.redF()) * share,
-                            ground.greenF() + (tint.greenF() - ground.greenF()) * share,
-                            ground.blueF() + (tint.blueF() - ground.blueF()) * share);
-}
-
 /// A number that is a lit ball with a tick mark when it is chosen and a flat, pale disc when it is not.
 class NumberToggle : public QCheckBox
 {
@@ -60,7 +52,7 @@ protected:
             PaintBall(painter, ball, palette().color(QPalette::Window));
         } else {
             painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1));
-            painter.setBrush(Tinted(palette().color(QPalette::AlternateBase), QColor::fromRgb(colours.ball)));
+            painter.setBrush(Mixed(palette().color(QPalette::AlternateBase), QColor::fromRgb(colours.ball), 0.3));
             painter.drawEllipse(ball);
         }
         painter.setFont(FontFor(isChecked() ? TextRole::Heading : TextRole::Body));

@@ -1,6 +1,7 @@
 #include "look/application.h"
 
 #include "look/artwork.h"
+#include "look/desktop_colours.h"
 #include "look/style.h"
 
 #include <QIcon>
@@ -11,6 +12,7 @@ std::unique_ptr<QApplication> MakeApplication(int& count, char** arguments)
 {
     auto application = std::make_unique<QApplication>(count, arguments);
     QApplication::setStyle(new Style);
+    new DesktopColours(application.get());
     QApplication::setApplicationName(u"tavenor3"_s);
     // By this name a desktop finds the installed icon; where nothing is installed the window brings its own.
     QApplication::setDesktopFileName(u"tavenor3"_s);

@@ -1,6 +1,7 @@
 #include "look/control_painting.h"
 
 #include "look/button.h"
+#include "look/theme.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -9,13 +10,6 @@
 namespace {
 
 constexpr qreal Corner = 8;
-
-QColor Mixed(const QColor& first, const QColor& second, qreal share)
-{
-    return QColor::fromRgbF(static_cast<float>(first.redF() + (second.redF() - first.redF()) * share),
-                            static_cast<float>(first.greenF() + (second.greenF() - first.greenF()) * share),
-                            static_cast<float>(first.blueF() + (second.blueF() - first.blueF()) * share));
-}
 
 /// An outline that stands out from card and page at three to one, for controls that have nothing but their outline.
 QColor OutlineColour(const QPalette& palette)

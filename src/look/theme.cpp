@@ -18,10 +18,14 @@ const Theme& DarkTheme()
     return theme;
 }
 
-Appearance& WantedAppearance()
+Appearance wantedAppearance = Appearance::FromDesktop;
+bool desktopPrefersDark = false;
+
+/// Has the style put the theme's colours into the desktop's palette anew.
+void TakeThemeAnew()
 {
-    static Appearance appearance = Appearance::FromDesktop;
-    return appearance;
+    if (qApp != nullptr)
+        QApplication::setPalette(QPalette());
 }
 
 const Theme*& ThemeInUse()
@@ -39,10 +43,10 @@ const Theme& CurrentTheme()
 
 void ApplyTheme(QPalette& palette)
 {
-    const bool desktopIsDark =
-        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    const bool desktopIsDark = desktopPrefersDark || palette.color(QPalette::Window).lightness() <
+                                                         palette.color(QPalette::WindowText).lightness();
     const bool dark =
-        WantedAppearance() == Appearance::Dark || (WantedAppearance() == Appearance::FromDesktop && desktopIsDark);
+        wantedAppearance == Appearance::Dark || (wantedAppearance == Appearance::FromDesktop && desktopIsDark);
     const Theme& theme = dark ? DarkTheme() : LightTheme();
     ThemeInUse() = &theme;
 
@@ -60,11 +64,25 @@ void ApplyTheme(QPalette& palette)
         palette.setColor(QPalette::Disabled, role, theme.secondaryText);
 }
 
+QColor Mixed(const QColor& first, const QColor& second, qreal share)
+{
+    return QColor::fromRgbF(static_cast<float>(first.redF() + (second.redF() - first.redF()) * share),
+                            static_cast<float>(first.greenF() + (second.greenF() - first.greenF()) * share),
+                            static_cast<float>(first.blueF() + (second.blueF() - first.blueF()) * share));
+}
+
 void SetAppearance(Appearance appearance)
 {
-    WantedAppearance() = appearance;
-    if (qApp != nullptr)
-        QApplication::setPalette(QPalette());
+    wantedAppearance = appearance;
+    TakeThemeAnew();
+}
+
+void SetDesktopPrefersDark(bool prefersDark)
+{
+    if (prefersDark == desktopPrefersDark)
+        return;
+    desktopPrefersDark = prefersDark;
+    TakeThemeAnew();
 }
 
 QFont FontFor(TextRole role)

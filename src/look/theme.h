@@ -25,8 +25,12 @@ struct Theme
 /// The theme that goes with the palette in use.
 const Theme& CurrentTheme();
 
-/// Chooses light or dark by how bright the desktop's own palette is, and puts the theme's colours into it.
+/// Chooses light or dark by how bright the desktop's own palette is and by what it says beside it, and puts the theme's
+/// colours into it.
 void ApplyTheme(QPalette& palette);
+
+/// The colour that lies between two colours, at a share from 0 (the first) to 1 (the second).
+QColor Mixed(const QColor& first, const QColor& second, qreal share);
 
 /// Which theme to use: the desktop's, or always the same one.
 enum class Appearance
@@ -36,6 +40,9 @@ enum class Appearance
     Dark
 };
 void SetAppearance(Appearance appearance);
+
+/// Takes what the desktop says beside its palette, which may be light because it says nothing.
+void SetDesktopPrefersDark(bool prefersDark);
 
 /// The grid of the layout, in logical pixels: inside a control, between controls, between cards, around a page.
 namespace Spacing {
