@@ -8,7 +8,6 @@ Button::Button(const QString& caption, const QString& name, QWidget* parent) : Q
 {
     setObjectName(name);
     setAccessibleName(caption);
-    setFont(FontFor(TextRole::Strong));
     setAutoDefault(false);
     // Where the page is too narrow for its buttons, they give up the room beside their captions.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -18,6 +18,11 @@ QChar LetterOf(const QAbstractButton& button)
 
 } // namespace
 
+bool AltIsHeld()
+{
+    return altIsHeld;
+}
+
 void SetShortcutLetter(QAbstractButton& button, QChar letter)
 {
     button.setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter.toUpper().unicode())));

@@ -8,6 +8,9 @@ class QAbstractButton;
 // Captions stand as they are given, without the mark of a shortcut key: the key is kept by the button, and its letter
 // is underlined while the Alt key is held.
 
+/// Whether the Alt key is held, while which letters are underlined.
+bool AltIsHeld();
+
 /// Makes Alt with a letter press a button.
 void SetShortcutLetter(QAbstractButton& button, QChar letter);
 

@@ -51,6 +51,9 @@ void Style::polish(QWidget* widget)
         GiveShortcutLetters(*dialog);
     if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr)
         widget->setAttribute(Qt::WA_Hover);
+    // The toolkit's own dialogs bring plain ones.
+    if (qobject_cast<QPushButton*>(widget) != nullptr)
+        widget->setFont(FontFor(TextRole::Strong));
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -230,6 +233,9 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const
 {
     switch (hint) {
+    case SH_UnderlineShortcut:
+        return AltIsHeld();
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ComboBox_Popup:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
