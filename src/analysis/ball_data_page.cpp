@@ -84,7 +84,7 @@ void BallDataPage::BuildCards()
         box->Content()->addWidget(sentence);
     }
     Body()->addWidget(box);
-    Body()->addStretch(1);
+    MakeForm();
 }
 
 void BallDataPage::Prepare()

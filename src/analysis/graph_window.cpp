@@ -22,7 +22,7 @@ constexpr QSize DefaultSize(1000, 640);
 } // namespace
 
 GraphWindow::GraphWindow(QWidget* parent)
-    : QDialog(parent),
+    : SmallWindow(u"frmgraph"_s, ApplicationTitle, parent),
       title(MakeLabel({}, TextRole::Title, u"title"_s)),
       description(MakeLabel({}, TextRole::Body, u"description"_s)),
       typelabel(MakeLabel(u"Ball type to count"_s, TextRole::Caption, u"typelabel"_s)),
@@ -30,8 +30,6 @@ GraphWindow::GraphWindow(QWidget* parent)
       graph(new BarChart),
       back(new Button(u"BACK"_s, u"back"_s))
 {
-    setObjectName(u"frmgraph"_s);
-    setWindowTitle(ApplicationTitle);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     description->setWordWrap(true);
     description->setForegroundRole(QPalette::PlaceholderText);
@@ -39,7 +37,7 @@ GraphWindow::GraphWindow(QWidget* parent)
     balltype->setAccessibleName(typelabel->text());
     graph->setObjectName(u"graph"_s);
     BuildLayout();
-    resize(DefaultSize);
+    OpenAt(DefaultSize);
     ConnectGuarded(balltype, &QComboBox::currentIndexChanged, this, [this](int index) { balltype_Click(index); });
 }
 
@@ -67,9 +65,7 @@ void GraphWindow::BuildLayout()
     // back_Click.
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Cards);
-    layout->setSpacing(Spacing::Cards);
+    QVBoxLayout* layout = Content();
     layout->addLayout(head);
     layout->addWidget(card, 1);
     layout->addWidget(back, 0, Qt::AlignRight);

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "analysis/charts.h"
-
-#include <QDialog>
+#include "controls/small_window.h"
 
 class BarChart;
 class Button;
@@ -10,7 +9,7 @@ class QComboBox;
 class QLabel;
 
 /// The chart window, frmgraph: one bar chart over all draws of a game.
-class GraphWindow : public QDialog
+class GraphWindow : public SmallWindow
 {
     Q_OBJECT
 

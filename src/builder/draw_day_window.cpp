@@ -12,16 +12,12 @@
 using namespace Qt::StringLiterals;
 
 DrawDayWindow::DrawDayWindow(DaySet& chosenDays, QWidget* parent)
-    : QDialog(parent),
+    : SmallWindow(u"frmday"_s, u"Tavenor 3 --- Select Draw Day"_s, parent),
       days(chosenDays),
       boxes(new DayBoxes({u"check1"_s, u"selall"_s, u"clear"_s}, QString())),
       store(new Button(u"Store"_s, u"store"_s))
 {
-    setObjectName(u"frmday"_s);
-    setWindowTitle(u"Tavenor 3 --- Select Draw Day"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
-    layout->setSpacing(Spacing::Cards);
+    QVBoxLayout* layout = Content();
     layout->addWidget(MakeLabel(u"Select the draw day(s)."_s, TextRole::Heading, u"Label1"_s));
     layout->addWidget(boxes);
     // The button keeps its room while it is hidden, so that the window does not jump.

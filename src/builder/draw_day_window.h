@@ -1,15 +1,14 @@
 #pragma once
 
+#include "controls/small_window.h"
 #include "game/entry_row.h"
-
-#include <QDialog>
 
 class Button;
 class DayBoxes;
 
 /// The draw-day window, frmday: on which days a batch of entries is played. Store hands the choice over to the day set
 /// that it was given; closing it another way leaves that set as it was.
-class DrawDayWindow : public QDialog
+class DrawDayWindow : public SmallWindow
 {
     Q_OBJECT
 

@@ -9,7 +9,6 @@
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
-#include "controls/scrolling_content.h"
 #include "controls/text_box.h"
 #include "game/game.h"
 #include "look/button.h"
@@ -49,12 +48,10 @@ EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
     F26grid->SetColumnShares(EntryGridModel::ColumnShares());
     gridCard->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
     gridCard->Content()->addWidget(F26grid);
-    auto* both = new QWidget;
-    auto* cards = new CardRow(both);
-    cards->setContentsMargins(0, 0, 0, 0);
+    auto* cards = new CardRow;
     cards->addWidget(card, 5, Qt::AlignTop);
     cards->addWidget(gridCard, 6);
-    Body()->addWidget(new RollingArea(both), 1);
+    Body()->addLayout(cards, 1);
     F26store = KeepingRoom(AddFooterDefault(u"Store Entries"_s, u"F26store"_s));
     ConnectHandlers();
 }

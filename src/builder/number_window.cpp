@@ -17,16 +17,13 @@
 using namespace Qt::StringLiterals;
 
 NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
-    : QDialog(parent),
+    : SmallWindow(u"frmnumsel"_s, u"Tavenor 3 --- Number Selection"_s, parent),
       state(builderState),
       board(new NumberBoard),
       countLabel(MakeLabel({}, TextRole::Body, u"Label_1"_s)),
       store(new Button(u"Store"_s, u"store"_s))
 {
-    setObjectName(u"frmnumsel"_s);
-    setWindowTitle(u"Tavenor 3 --- Number Selection"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    QVBoxLayout* layout = Content();
     layout->setSpacing(Spacing::Between);
     auto* card = new Card;
     card->Content()->addWidget(board, 0, Qt::AlignCenter);

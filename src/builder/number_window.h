@@ -1,8 +1,7 @@
 #pragma once
 
 #include "builder/builder_state.h"
-
-#include <QDialog>
+#include "controls/small_window.h"
 
 class Button;
 class NumberBoard;
@@ -11,7 +10,7 @@ class QLabel;
 
 /// The number-picking window, frmnumsel. It shows the numbers chosen last and offers Store while exactly the required
 /// count is ticked; left in any other way than by Store, it keeps the chosen numbers as they were.
-class NumberWindow : public QDialog
+class NumberWindow : public SmallWindow
 {
     Q_OBJECT
 

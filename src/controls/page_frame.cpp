@@ -12,23 +12,49 @@
 
 using namespace Qt::StringLiterals;
 
+/// Title, body and buttons under one another, in a column that may be kept from growing too wide.
+class PageLayout : public QVBoxLayout
+{
+public:
+    using QVBoxLayout::QVBoxLayout;
+
+    void setGeometry(const QRect& place) override
+    {
+        QVBoxLayout::setGeometry(QRect(place.topLeft(), QSize(qMin(place.width(), widest), place.height())));
+    }
+    int heightForWidth(int width) const override { return QVBoxLayout::heightForWidth(qMin(width, widest)); }
+    int minimumHeightForWidth(int width) const override
+    {
+        return QVBoxLayout::minimumHeightForWidth(qMin(width, widest));
+    }
+
+    int widest = QWIDGETSIZE_MAX;
+};
+
 PageFrame::PageFrame(int pageNumber, const QString& title, const QString& titleName)
-    : body(new QVBoxLayout), footer(new QHBoxLayout)
+    : sheet(new PageLayout(this)), body(new QVBoxLayout), footer(new QHBoxLayout)
 {
     setObjectName(ElementName(u"Frame"_s, pageNumber));
     setAccessibleName(title);
     setAutoFillBackground(true);
-    auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
-    page->setSpacing(Spacing::Cards);
+    sheet->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    sheet->setSpacing(Spacing::Cards);
     if (!title.isEmpty())
-        page->addWidget(MakeLabel(title, TextRole::Title, titleName, this));
+        sheet->addWidget(MakeLabel(title, TextRole::Title, titleName, this));
     body->setSpacing(Spacing::Cards);
-    page->addLayout(body, 1);
+    sheet->addLayout(body, 1);
     footer->setSpacing(Spacing::Between);
     footer->addStretch(1);
-    page->addLayout(footer);
+    sheet->addLayout(footer);
     hide();
+}
+
+void PageFrame::MakeForm()
+{
+    constexpr int measure = 960;
+    sheet->widest = measure + 2 * Spacing::Page;
+    sheet->setStretchFactor(body, 0);
+    sheet->addStretch(1);
 }
 
 void PageFrame::Prepare()

@@ -3,11 +3,12 @@
 #include <QFrame>
 
 class Button;
+class PageLayout;
 class QHBoxLayout;
 class QVBoxLayout;
 
-/// One page of the main window: a title, a body, and a row of buttons at the lower right. It is hidden until its
-/// preparation makes it visible.
+/// One page of the main window: a title, a body that fills the page, and a row of buttons at the lower right. It is
+/// hidden until its preparation makes it visible.
 class PageFrame : public QFrame
 {
     Q_OBJECT
@@ -32,6 +33,9 @@ Q_SIGNALS:
 
 protected:
     QVBoxLayout* Body() const { return body; }
+    /// Puts the buttons right under the body, which keeps its own height, and gives both a measure that the eye can
+    /// follow on a large screen. To be called when the body is complete.
+    void MakeForm();
     /// Adds a button to the row at the lower right, from left to right.
     Button* AddFooterButton(const QString& caption, const QString& name);
     Button* AddFooterDefault(const QString& caption, const QString& name);
@@ -42,6 +46,7 @@ protected:
 
 private:
     Button* back = nullptr;
+    PageLayout* sheet;
     QVBoxLayout* body;
     QHBoxLayout* footer;
 };

@@ -1,28 +1,32 @@
 #include "controls/scrolling_content.h"
 
-#include <QScrollBar>
+#include "look/theme.h"
 
-RollingArea::RollingArea(QWidget* content)
+#include <QApplication>
+
+ScrollingContent::ScrollingContent(QWidget* content)
 {
     setWidget(content);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    // A widget that is put into a scroll area is made to fill its background.
     content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*before*/, QWidget* now) {
+        if (now != nullptr && widget()->isAncestorOf(now))
+            ensureWidgetVisible(now, Spacing::Cards, Spacing::Cards);
+    });
 }
 
-QSize RollingArea::sizeHint() const
+QSize ScrollingContent::sizeHint() const
 {
     return widget()->sizeHint();
 }
 
-QSize RollingArea::minimumSizeHint() const
+QSize ScrollingContent::minimumSizeHint() const
 {
     constexpr int leastLines = 6;
-    const QSize content = widget()->minimumSizeHint();
-    return {content.width() + verticalScrollBar()->sizeHint().width(),
-            qMin(content.height(), leastLines * fontMetrics().height())};
+    const int least = leastLines * fontMetrics().height();
+    return widget()->minimumSizeHint().boundedTo(QSize(2 * least, least));
 }

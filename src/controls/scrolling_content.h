@@ -2,13 +2,14 @@
 
 #include <QScrollArea>
 
-/// Content that is shown whole where it has room, and that rolls up and down where a large font leaves it too little.
-class RollingArea : public QScrollArea
+/// Content that is shown whole where it has room, and that scrolls where it has too little. What gets the focus is
+/// brought into view.
+class ScrollingContent : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    explicit RollingArea(QWidget* content);
+    explicit ScrollingContent(QWidget* content);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

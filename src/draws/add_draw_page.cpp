@@ -97,7 +97,7 @@ void AddDrawPage::BuildCards()
     cards->addWidget(dateCard);
     cards->addWidget(drawCard, 1);
     Body()->addLayout(cards);
-    Body()->addStretch(1);
+    MakeForm();
 }
 
 void AddDrawPage::Prepare()

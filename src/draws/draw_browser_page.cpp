@@ -6,7 +6,6 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/month_calendar.h"
-#include "controls/scrolling_content.h"
 #include "draws/draw_view.h"
 #include "game/game.h"
 #include "look/button.h"
@@ -135,16 +134,14 @@ DrawBrowserPage::DrawBrowserPage()
     auto* dateCard = new Card(this);
     dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(F9Cal);
-    auto* drawsOfDate = new QWidget;
-    auto* draws = new QVBoxLayout(drawsOfDate);
-    draws->setContentsMargins(0, 0, 0, 0);
+    auto* draws = new QVBoxLayout;
     draws->setSpacing(Spacing::Cards);
     for (const BrowserSection* section : {mainSection, thunderballSection})
         draws->addWidget(section->View());
     draws->addStretch(1);
     auto* columns = new CardRow;
     columns->addWidget(dateCard, 0, Qt::AlignTop);
-    columns->addWidget(new RollingArea(drawsOfDate), 1);
+    columns->addLayout(draws, 1);
     Body()->addLayout(columns);
     Body()->addStretch(1);
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });

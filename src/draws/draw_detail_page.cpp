@@ -43,7 +43,7 @@ DrawDetailPage::DrawDetailPage(const Game& drawGame)
     auto* card = new Card;
     card->Content()->addWidget(draw);
     Body()->addWidget(card);
-    Body()->addStretch(1);
+    MakeForm();
     SetBackButton(back);
     // F14back_Click, F15back_Click.
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { hide(); });

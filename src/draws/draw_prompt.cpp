@@ -11,13 +11,10 @@
 
 using namespace Qt::StringLiterals;
 
-DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent) : QDialog(parent)
+DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent)
+    : SmallWindow(u"frmmsgbox1"_s, ApplicationTitle, parent)
 {
-    setObjectName(u"frmmsgbox1"_s);
-    setWindowTitle(ApplicationTitle);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
-    layout->setSpacing(Spacing::Cards);
+    QVBoxLayout* layout = Content();
     layout->addWidget(MakeLabel(u"A %1 draw with this date already exists,\r\nwhat do you want to do?"_s.arg(gameName),
                                 TextRole::Body, u"Label1"_s));
     auto* row = new QHBoxLayout;

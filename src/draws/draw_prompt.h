@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "controls/small_window.h"
 
 /// What the player wants done with a draw whose date is stored already.
 enum class DrawPromptChoice
@@ -13,7 +13,7 @@ enum class DrawPromptChoice
 
 /// The three-way prompt, frmmsgbox1. MsgBoxChoice carries its result: closing the window by its frame leaves None,
 /// which is to be taken as Cancel.
-class DrawPrompt : public QDialog
+class DrawPrompt : public SmallWindow
 {
     Q_OBJECT
 

@@ -83,7 +83,7 @@ void EditDrawPage::BuildCard()
         card->Content()->addLayout(MakeMachineForm(machine, ballSet, ControlName(game, "entrylabel")));
     }
     Body()->addWidget(card);
-    Body()->addStretch(1);
+    MakeForm();
 }
 
 void EditDrawPage::Prepare()

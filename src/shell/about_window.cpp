@@ -10,12 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-AboutWindow::AboutWindow(QWidget* parent) : QDialog(parent)
+AboutWindow::AboutWindow(QWidget* parent) : SmallWindow(u"frmabout"_s, u"Tavenor 3 --- About..."_s, parent)
 {
-    setObjectName(u"frmabout"_s);
-    setWindowTitle(u"Tavenor 3 --- About..."_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(2 * Spacing::Page, Spacing::Page, 2 * Spacing::Page, Spacing::Page);
+    QVBoxLayout* layout = Content();
     layout->setSpacing(Spacing::Between);
     layout->addWidget(new LogoPicture(84), 0, Qt::AlignHCenter);
     layout->addWidget(MakeLabel(u"Tavenor"_s, TextRole::Title), 0, Qt::AlignHCenter);

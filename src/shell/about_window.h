@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
+#include "controls/small_window.h"
 
 /// The about window, frmabout.
-class AboutWindow : public QDialog
+class AboutWindow : public SmallWindow
 {
     Q_OBJECT
 

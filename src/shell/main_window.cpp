@@ -3,7 +3,9 @@
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "controls/page_frame.h"
+#include "controls/scrolling_content.h"
 #include "look/shortcut_letters.h"
+#include "look/theme.h"
 #include "shell/introduction_page.h"
 #include "shell/menu_column.h"
 #include "shell/menu_table.h"
@@ -12,23 +14,47 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
-MainWindow::MainWindow() : menu(new MenuColumn(this)), area(new PageArea(this))
+namespace {
+
+constexpr QSize UsualSize(1024, 720);
+/// Room for the frame that the desktop puts around a window.
+constexpr QSize FrameRoom(12, 48);
+
+} // namespace
+
+MainWindow::MainWindow()
+    : menu(new MenuColumn),
+      area(new PageArea),
+      menuScroll(new ScrollingContent(menu)),
+      pageScroll(new ScrollingContent(area))
 {
     setObjectName(u"frmmain"_s);
     setWindowTitle(ApplicationTitle);
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(0);
-    columns->addWidget(menu);
-    columns->addWidget(area, 1);
+    columns->addWidget(menuScroll);
+    columns->addWidget(pageScroll, 1);
+    menuScroll->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    menuScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QPalette onColumn;
+    onColumn.setColor(QPalette::PlaceholderText, CurrentTheme().menuText);
+    menuScroll->verticalScrollBar()->setPalette(onColumn);
     ConnectGuarded(menu, &MenuColumn::LogoClicked, this, [this] { ShowStartPage(); });
     ConnectGuarded(menu, &MenuColumn::GroupClicked, this, [this](int group) { Button_Click(group); });
     ConnectGuarded(menu, &MenuColumn::SuboptionClicked, this, [this](int number) { Suboption_Click(number); });
     ConnectGuarded(menu, &MenuColumn::ExitClicked, this, [this] { Exit_Click(); });
-    resize(1024, 720);
+    resize(UsualSize);
+    if (const QSize room = screen()->availableSize() - FrameRoom; UsualSize.boundedTo(room) != UsualSize) {
+        resize(UsualSize.boundedTo(room));
+        setWindowState(Qt::WindowMaximized);
+    }
     Form_Load();
 }
 
@@ -78,6 +104,7 @@ void MainWindow::ShowPage()
     for (int index = 0; index < PageCount; ++index)
         if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
             page->hide();
+    pageScroll->verticalScrollBar()->setValue(0);
     repaint();
     const PageTableRow* row = FindPage(SelectedPage);
     if (row != nullptr && row->hasPreparation)
@@ -119,6 +146,11 @@ void MainWindow::Exit_Click()
 {
     if (AskYesNo(u"Are you sure you want to exit?"_s))
         CloseAndCompact();
+}
+
+void MainWindow::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter(this).fillRect(menuScroll->geometry(), CurrentTheme().menu);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

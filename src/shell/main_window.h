@@ -9,6 +9,7 @@
 
 class MenuColumn;
 class PageArea;
+class ScrollingContent;
 
 /// The main window, frmmain: the menu column and the page area, in which one page is shown at a time.
 class MainWindow final : public QWidget, public PageSwitch
@@ -25,6 +26,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void Form_Load();
@@ -36,6 +38,8 @@ private:
 
     MenuColumn* menu;
     PageArea* area;
+    ScrollingContent* menuScroll;
+    ScrollingContent* pageScroll;
     std::array<PageFrame*, PageCount> Frame{};
     int MenuGroup = 0;
     int SelectedPage = 0;

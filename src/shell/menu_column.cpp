@@ -6,7 +6,6 @@
 #include "shell/menu_table.h"
 
 #include <QFrame>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +36,7 @@ MenuColumn::MenuColumn(QWidget* parent)
       exit(new MenuButton(u"Exit"_s, u"Exit"_s, Picture::Exit, this))
 {
     setObjectName(u"Leftframe"_s);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     line->setObjectName(u"Line2"_s);
     line->setAutoFillBackground(true);
     QPalette quiet = line->palette();
@@ -92,21 +91,24 @@ void MenuColumn::Mark(int suboption)
 
 void MenuColumn::PlaceChildren()
 {
-    logo->setGeometry(ButtonMargin, 14, width() - 2 * ButtonMargin, 62);
-    line->setGeometry(ButtonMargin, height() - 2 * ButtonMargin - RowHeight - 6, width() - 2 * ButtonMargin, 1);
+    // A scroll bar stands in the margin beside the buttons, which keep their places.
+    const int buttonWidth = qMin(sizeHint().width() - 2 * ButtonMargin, width() - ButtonMargin);
+    logo->setGeometry(ButtonMargin, 14, buttonWidth, 62);
+    line->setGeometry(ButtonMargin, height() - 2 * ButtonMargin - RowHeight - 6, buttonWidth, 1);
     for (int group = 1; group <= MenuGroups; ++group)
         buttons.at(static_cast<size_t>(group) - 1)
-            ->setGeometry(ButtonMargin, Pixels(GroupButtonTop(group, open)), width() - 2 * ButtonMargin, RowHeight);
+            ->setGeometry(ButtonMargin, Pixels(GroupButtonTop(group, open)), buttonWidth, RowHeight);
     for (int number = 1; number <= MostSuboptions; ++number)
         if (const MenuSuboption* suboption = FindSuboption(open, number))
             suboptions.at(static_cast<size_t>(number) - 1)
-                ->setGeometry(SuboptionLeft, Pixels(suboption->top), width() - SuboptionLeft - 2, SuboptionHeight);
+                ->setGeometry(SuboptionLeft, Pixels(suboption->top), ButtonMargin + buttonWidth - SuboptionLeft,
+                              SuboptionHeight);
     if (const MenuSuboption* suboption = FindSuboption(open, marked)) {
         constexpr int markerDrop = 30;
         optionMark->setGeometry(SuboptionLeft - 12, Pixels(suboption->top + markerDrop), 4,
                                 SuboptionHeight - 2 * Pixels(markerDrop));
     }
-    exit->setGeometry(ButtonMargin, height() - ButtonMargin - RowHeight, width() - 2 * ButtonMargin, RowHeight);
+    exit->setGeometry(ButtonMargin, height() - ButtonMargin - RowHeight, buttonWidth, RowHeight);
 }
 
 void MenuColumn::OrderTabs()
@@ -133,18 +135,14 @@ QSize MenuColumn::sizeHint() const
     const QFontMetrics metrics(FontFor(TextRole::Strong));
     for (int group = 1; group <= MenuGroups; ++group)
         for (const MenuSuboption& suboption : MenuGroupOf(group).suboptions)
-            width = qMax(width, SuboptionLeft + metrics.horizontalAdvance(suboption.caption) + 3 * Spacing::Inside);
+            width = qMax(width, SuboptionLeft + metrics.horizontalAdvance(suboption.caption) + 2 * Spacing::Inside +
+                                    ButtonMargin);
     return {width, minimumSizeHint().height()};
 }
 
 QSize MenuColumn::minimumSizeHint() const
 {
-    return {216, Pixels(GroupButtonTop(MenuGroups, 1)) + 2 * RowHeight + 4 * ButtonMargin};
-}
-
-void MenuColumn::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter(this).fillRect(rect(), CurrentTheme().menu);
+    return {0, Pixels(GroupButtonTop(MenuGroups, 1)) + 2 * RowHeight + 4 * ButtonMargin};
 }
 
 void MenuColumn::resizeEvent(QResizeEvent* /*event*/)

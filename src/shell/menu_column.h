@@ -37,7 +37,6 @@ Q_SIGNALS:
     void ExitClicked();
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

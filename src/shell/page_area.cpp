@@ -24,6 +24,9 @@ PageArea::PageArea(QWidget* parent) : QWidget(parent)
     layout->addStretch(1);
     Add(loading);
     loading->show();
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void PageArea::Add(QWidget* page)
@@ -42,6 +45,15 @@ QSize PageArea::minimumSizeHint() const
         if (!place.page->isHidden())
             size = size.expandedTo(place.page->minimumSizeHint());
     return size;
+}
+
+int PageArea::heightForWidth(int width) const
+{
+    int height = 0;
+    for (const Place& place : pages)
+        if (!place.page->isHidden())
+            height = qMax(height, place.page->layout()->totalMinimumHeightForWidth(width));
+    return height;
 }
 
 void PageArea::resizeEvent(QResizeEvent* /*event*/)

@@ -16,6 +16,8 @@ public:
     void Add(QWidget* page);
 
     QSize minimumSizeHint() const override;
+    /// The least height at which the texts of the shown page are whole.
+    int heightForWidth(int width) const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

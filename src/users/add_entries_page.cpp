@@ -9,7 +9,6 @@
 #include "controls/label.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
-#include "controls/scrolling_content.h"
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
@@ -99,14 +98,9 @@ void AddEntriesPage::BuildCards()
     dayCard->Content()->addWidget(MakeLabel(u"Draw day for this entry"_s, TextRole::Caption, u"F18label4"_s));
     dayCard->Content()->addWidget(F18day);
 
-    auto* all = new QWidget;
-    auto* cards = new QVBoxLayout(all);
-    cards->setContentsMargins(0, 0, 0, 0);
-    cards->setSpacing(Spacing::Cards);
     for (Card* card : {userCard, ballCard, dayCard})
-        cards->addWidget(card);
-    cards->addStretch(1);
-    Body()->addWidget(new RollingArea(all), 1);
+        Body()->addWidget(card);
+    MakeForm();
 }
 
 void AddEntriesPage::Prepare()

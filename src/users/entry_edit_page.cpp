@@ -35,7 +35,7 @@ EntryEditPage::EntryEditPage()
     dayCard->Content()->addWidget(F20day);
     for (Card* card : {static_cast<Card*>(head), ballCard, dayCard})
         Body()->addWidget(card);
-    Body()->addStretch(1);
+    MakeForm();
     SetBackButton(F20back);
     ConnectGuarded(F20num, &BallFields::Completed, this, [this] { F20store->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(F20store, &QPushButton::clicked, this, [this] { F20store_Click(); });

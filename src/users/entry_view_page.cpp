@@ -27,7 +27,7 @@ EntryViewPage::EntryViewPage()
     ballCard->Content()->addWidget(balls);
     for (Card* card : {static_cast<Card*>(head), ballCard, MakeDayCard()})
         Body()->addWidget(card);
-    Body()->addStretch(1);
+    MakeForm();
     SetBackButton(F19back);
     // F19back_Click.
     ConnectGuarded(F19back, &QPushButton::clicked, this, [this] { hide(); });

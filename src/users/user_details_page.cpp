@@ -96,7 +96,8 @@ void UserDetailsPage::BuildCards()
     cards->setSpacing(Spacing::Cards);
     cards->addWidget(listCard, 1);
     cards->addWidget(userCard, 1);
-    Body()->addLayout(cards, 1);
+    Body()->addLayout(cards);
+    MakeForm();
 }
 
 void UserDetailsPage::ConnectHandlers()

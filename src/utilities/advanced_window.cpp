@@ -52,19 +52,16 @@ auto ReopeningOnFailure(const QString& outcome, Steps steps)
 
 } // namespace
 
-AdvancedWindow::AdvancedWindow(QWidget* parent) : QDialog(parent)
+AdvancedWindow::AdvancedWindow(QWidget* parent)
+    : SmallWindow(u"frmadvanced"_s, u"Tavenor 3 --- Advanced Options"_s, parent)
 {
-    setObjectName(u"frmadvanced"_s);
-    setWindowTitle(u"Tavenor 3 --- Advanced Options"_s);
     auto* exportdraw = new Button(u"Backup Draw Database"_s, u"exportdraw"_s);
     auto* importdraw = new Button(u"Import Updated Draw Database"_s, u"importdraw"_s);
     auto* exportuser = new Button(u"Backup User Entry Database"_s, u"exportuser"_s);
     auto* importuser = new Button(u"Import User Entry Database"_s, u"importuser"_s);
     auto* back = new Button(u"BACK"_s, u"back"_s);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
-    layout->setSpacing(Spacing::Cards);
+    QVBoxLayout* layout = Content();
     layout->addWidget(MakeLabel(u"Database Utilities"_s, TextRole::Title, ElementName(LabelArray, 0)));
     auto* groups = new QHBoxLayout;
     groups->setSpacing(Spacing::Cards);

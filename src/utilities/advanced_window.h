@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QDialog>
+#include "controls/small_window.h"
 
 class Button;
-class QVBoxLayout;
 struct DatabaseFile;
 
 /// The database utilities, frmadvanced: backup and import of either database file.
-class AdvancedWindow : public QDialog
+class AdvancedWindow : public SmallWindow
 {
     Q_OBJECT
 

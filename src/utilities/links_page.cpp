@@ -61,7 +61,7 @@ QLabel* MakeHeading(const QString& caption, int index)
 LinksPage::LinksPage() : PageFrame(25, u"Internet Links"_s)
 {
     Body()->addWidget(BuildCard());
-    Body()->addStretch(1);
+    MakeForm();
     Button* F25prev = AddFooterButton(u"< Previous Link"_s, u"F25prev"_s);
     Button* F25next = AddFooterButton(u"Next Link >"_s, u"F25next"_s);
     Button* F25back = AddFooterButton(u"BACK"_s, u"F25back"_s);

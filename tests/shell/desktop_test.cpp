@@ -2,6 +2,79 @@
 #include "support/test_window.h"
 
 #include "look/application.h"
+#include "look/desktop_colours.h"
+#include "look/theme.h"
+#include "walk.h"
+
+#include <QDBusConnection>
+#include <QDBusVariant>
+#include <QFileDialog>
+#include <QScreen>
+
+namespace {
+
+/// The desktop's portal, as far as it tells which colours are preferred.
+class FakePortal : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    FakePortal()
+    {
+        bus.registerObject("/org/freedesktop/portal/desktop", this,
+                           QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+        bus.registerService("org.freedesktop.portal.Desktop");
+    }
+    ~FakePortal() override { QDBusConnection::disconnectFromBus(bus.name()); }
+
+    void Prefer(uint scheme)
+    {
+        preferred = scheme;
+        Q_EMIT SettingChanged("org.freedesktop.appearance", "contrast", QDBusVariant(1U));
+        Q_EMIT SettingChanged("org.freedesktop.appearance", "color-scheme", QDBusVariant(scheme));
+    }
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString& group, const QString& key)
+    {
+        const bool known = group == "org.freedesktop.appearance" && key == "color-scheme";
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(known ? preferred : 0U)));
+    }
+
+Q_SIGNALS:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "portal");
+    uint preferred = 1;
+};
+
+/// The controls of the window that are not wholly in sight when they have the focus.
+QStringList NotReached(QWidget& window)
+{
+    QStringList hidden;
+    QPointer<QWidget> before = window.focusWidget();
+    for (auto* control : window.findChildren<QWidget*>()) {
+        if (!control->isVisible() || !control->isEnabled() || (control->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        control->setFocus(Qt::TabFocusReason);
+        const QRect seen(control->mapTo(&window, QPoint()), control->size());
+        if (control->visibleRegion().boundingRect() != control->rect() || !window.rect().contains(seen))
+            hidden.append(control->objectName() + " cannot be reached");
+    }
+    if (before != nullptr)
+        before->setFocus();
+    return hidden;
+}
+
+QSize ScreenSize()
+{
+    const QList<QByteArray> sides = qgetenv("SCREEN").split('x');
+    return {sides.first().toInt(), sides.last().toInt()};
+}
+
+} // namespace
 
 /// What shows only on a real desktop: under a window manager, on a screen of a given size.
 class DesktopTest : public QObject
@@ -9,6 +82,44 @@ class DesktopTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Run for each screen, by the tests' own environment.
+    void EveryWindowStaysOnTheScreenAndEveryControlCanBeReached()
+    {
+        const TestFolder files(TestFolder::Content::Starter);
+        OpenDatabaseFiles();
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const QSize opened = window.size();
+        QStringList faults;
+        const Walk walk(window, [&](const QString& name, QWidget& shown) {
+            QTest::qWait(20);
+            if (!window.screen()->availableGeometry().contains(shown.frameGeometry()))
+                faults.append(name + ": the window stands over the edge of the screen");
+            if (window.size() != opened)
+                faults.append(name + ": the window has changed its size");
+            if (qobject_cast<QFileDialog*>(&shown) == nullptr)
+                for (const QString& control : NotReached(shown))
+                    faults.append(name + ": " + control);
+        });
+        walk.MainJob();
+        walk.EverythingElse();
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    void DarkIsFollowedAtTheStartAndWhenItChanges()
+    {
+        FakePortal portal;
+        QVERIFY(!CurrentTheme().dark);
+        const DesktopColours started;
+        QVERIFY(CurrentTheme().dark);
+        for (const uint scheme : {0U, 1U, 2U}) {
+            portal.Prefer(scheme);
+            QTRY_COMPARE(CurrentTheme().dark, scheme == 1);
+            QCOMPARE(QApplication::palette().color(QPalette::Window), CurrentTheme().page);
+        }
+    }
+
     void TheWindowHasItsIconWithoutADesktopFile()
     {
         TestWindow window;
@@ -22,7 +133,7 @@ private Q_SLOTS:
 
 int main(int count, char** arguments)
 {
-    const Desktop desktop(QSize(1024, 600));
+    const Desktop desktop(ScreenSize());
     const auto application = MakeApplication(count, arguments);
     DesktopTest tests;
     return QTest::qExec(&tests, count, arguments);

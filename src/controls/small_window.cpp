@@ -1,0 +1,34 @@
+#include "controls/small_window.h"
+
+#include "controls/scrolling_content.h"
+#include "look/theme.h"
+
+#include <QScreen>
+#include <QVBoxLayout>
+
+SmallWindow::SmallWindow(const QString& name, const QString& title, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(name);
+    setWindowTitle(title);
+    auto* sheet = new QWidget;
+    content = new QVBoxLayout(sheet);
+    content->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
+    content->setSpacing(Spacing::Cards);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(new ScrollingContent(sheet));
+}
+
+QSize SmallWindow::sizeHint() const
+{
+    // The desktop puts its frame around the window.
+    constexpr QSize frameRoom(12, 48);
+    return QDialog::sizeHint().expandedTo(usualSize).boundedTo(screen()->availableSize() - frameRoom);
+}
+
+void SmallWindow::setVisible(bool visible)
+{
+    if (visible && !testAttribute(Qt::WA_Resized))
+        resize(sizeHint());
+    QDialog::setVisible(visible);
+}
