@@ -1,5 +1,5 @@
 // Walks the real program through its main job, its pages and its windows, and writes a picture of each:
-// tour STARTER-FOLDER PICTURE-FOLDER [dark] [large]
+// tour STARTER-FOLDER PICTURE-FOLDER [dark] [large] [WIDTHxHEIGHT]
 
 #include "look/style.h"
 #include "look/theme.h"
@@ -22,7 +22,7 @@ int main(int count, char** arguments)
     QApplication application(count, arguments);
     const QStringList given = QApplication::arguments();
     if (given.size() < 3) {
-        std::fputs("Usage: tour STARTER-FOLDER PICTURE-FOLDER [dark] [large]\n", stderr);
+        std::fputs("Usage: tour STARTER-FOLDER PICTURE-FOLDER [dark] [large] [WIDTHxHEIGHT]\n", stderr);
         return 2;
     }
     QApplication::setStyle(new Style);
@@ -40,6 +40,9 @@ int main(int count, char** arguments)
     const QDir pictures(given[2]);
     pictures.mkpath(u"."_s);
     MainWindow window;
+    for (const QString& word : given.mid(3))
+        if (const QStringList sides = word.split(u'x'); sides.size() == 2)
+            window.resize(sides[0].toInt(), sides[1].toInt());
     window.show();
     const Walk walk(window, [&pictures](const QString& name, QWidget& shown) {
         // It is the toolkit's own, and shows the folders of the computer.

@@ -1,8 +1,11 @@
 #include "utilities/file_dialog.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QScreen>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -16,14 +19,27 @@ void ForgetDialogSettings()
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
 }
 
+/// A folder of the player's into which files are put, beside the program's own.
+QString PlayersFolder(const QString& liveFolder)
+{
+    const QFileInfo documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const bool usable = documents.isDir() && documents.isWritable() && documents != QFileInfo(liveFolder);
+    return usable ? documents.filePath() : QDir::homePath();
+}
+
+QString DownloadsFolder(const QString& liveFolder)
+{
+    const QFileInfo downloads(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+    return downloads.isDir() ? downloads.filePath() : PlayersFolder(liveFolder);
+}
+
 QString Ask(QFileDialog& dialog, const FileQuestion& question)
 {
     dialog.setObjectName(u"CommonDialog1"_s);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilter(u"Tavenor 3 Files (*.tv3)"_s);
     dialog.selectFile(question.offeredName);
     // Wide enough for sizes and dates to be read whole.
-    dialog.resize(800, 500);
+    dialog.resize(QSize(800, 500).boundedTo(dialog.screen()->availableSize() - QSize(12, 48)));
     if (const auto* details = dialog.findChild<QTreeView*>(u"treeView"_s))
         for (int column = 0; column < details->header()->count(); ++column)
             details->header()->setSectionResizeMode(column,
@@ -36,7 +52,7 @@ QString Ask(QFileDialog& dialog, const FileQuestion& question)
 QString AskFileToSave(const FileQuestion& question, QWidget* parent)
 {
     ForgetDialogSettings();
-    QFileDialog dialog(parent, question.title, question.folder);
+    QFileDialog dialog(parent, question.title, PlayersFolder(question.liveFolder));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(u"tv3"_s);
@@ -46,7 +62,7 @@ QString AskFileToSave(const FileQuestion& question, QWidget* parent)
 QString AskFileToOpen(const FileQuestion& question, QWidget* parent)
 {
     ForgetDialogSettings();
-    QFileDialog dialog(parent, question.title, question.folder);
+    QFileDialog dialog(parent, question.title, DownloadsFolder(question.liveFolder));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return Ask(dialog, question);

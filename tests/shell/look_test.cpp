@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr QSize SmallWindow(1024, 720);
-constexpr QSize LargeWindow(1500, 950);
+constexpr QSize SmallSize(1024, 720);
+constexpr QSize LargeSize(1500, 950);
 
 /// A dialog without a fault, with two fields beside their captions, two buttons and a check box.
 struct PlantedDialog : QDialog
@@ -170,14 +170,14 @@ private:
             if (qobject_cast<QFileDialog*>(&shown) != nullptr)
                 return;
             if (&shown == &window) {
-                window.resize(LargeWindow);
+                window.resize(LargeSize);
                 QApplication::processEvents();
                 add(name, LayoutFaults(window));
-                window.resize(SmallWindow);
+                window.resize(SmallSize);
                 // A layout that turns a row into a column is heard of by what lies around it one turn later.
                 for (int turn = 0; turn < 3; ++turn)
                     QApplication::processEvents();
-                if (window.size() != SmallWindow)
+                if (window.size() != SmallSize)
                     add(name, {QString("fit %1 x %2").arg(window.width()).arg(window.height())});
             }
             add(name, LayoutFaults(shown));
