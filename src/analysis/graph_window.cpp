@@ -61,7 +61,7 @@ void GraphWindow::BuildLayout()
     auto* card = new Card;
     card->Content()->setContentsMargins(Spacing::Inside, Spacing::Inside, Spacing::Inside, Spacing::Inside);
     card->Content()->addWidget(graph);
-    back->setDefault(true);
+    back->MakeQuietDefault();
     // back_Click.
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
 

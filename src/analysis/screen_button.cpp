@@ -39,7 +39,6 @@ ScreenButton::ScreenButton(const Game& drawGame, const AnalysisScreen& shownScre
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setMaximumSize(320, 230);
 }
 
 QSize ScreenButton::sizeHint() const
@@ -76,7 +75,7 @@ void ScreenButton::DrawChart(QPainter& painter, const QRectF& picture) const
         painter.drawLine(QPointF(picture.left(), y), QPointF(picture.right(), y));
     }
     const qreal column = picture.width() / chart.bars;
-    const qreal width = qMin(column * 0.8, 34.0);
+    const qreal width = qMin(column * 0.8, picture.width() / 5);
     for (int bar = 1; bar <= chart.bars; ++bar) {
         const QColor fill = FillOf(chart.colour(bar));
         const qreal height = picture.height() * ExampleHeight(chart.subject, bar) / 100;

@@ -11,6 +11,7 @@ namespace {
 
 constexpr qreal ShadowRoom = 3;
 constexpr qreal RingRoom = 3;
+constexpr int LargeWindowWidth = 1600;
 
 } // namespace
 
@@ -62,7 +63,8 @@ void BallDisc::MakeCompact()
 QSize BallDisc::sizeHint() const
 {
     const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.1));
-    return compact ? QSize(side, side) * 5 / 6 : QSize(side, side);
+    const double step = (compact ? 5.0 / 6 : 1) * (window()->width() >= LargeWindowWidth ? 4.0 / 3 : 1);
+    return QSize(side, side) * step;
 }
 
 QRectF BallDisc::BallRect() const
@@ -99,8 +101,16 @@ void BallDisc::mousePressEvent(QMouseEvent* /*event*/)
         carried->setFocus(Qt::MouseFocusReason);
 }
 
+void BallDisc::showEvent(QShowEvent* /*event*/)
+{
+    window()->installEventFilter(this);
+    updateGeometry();
+}
+
 bool BallDisc::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == window() && event->type() == QEvent::Resize)
+        updateGeometry();
     if (watched == carried && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
         update();
     return QWidget::eventFilter(watched, event);
@@ -119,6 +129,16 @@ void BallDisc::PlaceNumber()
     const int height = qMin(qRound(ball.height()), carried->sizeHint().height());
     carried->setGeometry(qRound(ball.center().x() - side / 2), qRound(ball.center().y() - height / 2.0), qRound(side),
                          height);
+}
+
+BallDivider::BallDivider(QWidget* parent) : QWidget(parent)
+{
+    setFixedWidth(Spacing::Between + 1);
+}
+
+void BallDivider::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter(this).fillRect(QRect(width() / 2, 0, 1, height()), palette().color(QPalette::Mid));
 }
 
 void LabelledBall::Show(const QString& text, const QColor& ball, const QColor& digits) const

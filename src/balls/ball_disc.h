@@ -10,7 +10,7 @@ class QLabel;
 void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour);
 
 /// A ball: a disc of one colour, lit from the upper left, on which a label or a text field shows the number. Its colour
-/// is the Window role of its palette.
+/// is the Window role of its palette. In a large window it is a step larger.
 class BallDisc : public QWidget
 {
     Q_OBJECT
@@ -31,6 +31,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -39,6 +40,16 @@ private:
 
     QWidget* carried = nullptr;
     bool compact = false;
+};
+
+/// The line that sets the extra ball apart, with its room.
+class BallDivider : public QWidget
+{
+public:
+    explicit BallDivider(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 /// Makes a ball with a label on it. `discName` and `numberName` are their object names.

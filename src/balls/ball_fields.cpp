@@ -36,8 +36,7 @@ BallFields::BallFields(const Names& names, const QStringList& captions, QWidget*
         captionLabels.push_back(caption);
         SetCaption(slot, captions[slot]);
         if (slot + 1 == captions.size()) {
-            gap = new QWidget(this);
-            gap->setFixedWidth(Spacing::Between);
+            gap = new BallDivider(this);
             row->addWidget(gap);
         }
         auto* column = new QVBoxLayout;

@@ -20,8 +20,7 @@ BallRow::BallRow(const BallFields::Names& names, const QStringList& captions, QW
         const int index = names.indices.at(static_cast<size_t>(slot));
         balls.push_back(MakeLabelledBall(ElementName(names.disc, index), ElementName(names.field, index), this));
         if (slot + 1 == captions.size()) {
-            gap = new QWidget(this);
-            gap->setFixedWidth(Spacing::Between);
+            gap = new BallDivider(this);
             row->addWidget(gap);
         }
         auto* column = new QVBoxLayout;

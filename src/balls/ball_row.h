@@ -24,7 +24,7 @@ public:
     /// Makes the balls a little smaller, for two draws that stand side by side.
     void MakeCompact();
     QLabel* Caption(int slot) const { return captionLabels.at(static_cast<size_t>(slot)); }
-    /// The gap before the last ball, where the extra ball stands apart.
+    /// The divider before the last ball, where the extra ball stands apart.
     void SetLastApart(bool apart) { gap->setVisible(apart); }
 
 private:

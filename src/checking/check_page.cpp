@@ -50,6 +50,8 @@ void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRad
 {
     auto* frame = new QWidget;
     frame->setObjectName(frameName);
+    // The options stand level with the list on the card beside them.
+    frame->setMinimumHeight(QComboBox().sizeHint().height());
     auto* group = new QButtonGroup(card);
     auto* row = new QHBoxLayout(frame);
     row->setContentsMargins(0, 0, 0, 0);
@@ -110,6 +112,10 @@ void CheckPage::BuildCards()
     Card* dateCard = MakeGroup(u"Date"_s, u"F12label3"_s, u"F12shape2"_s);
     AddOptions(dateCard, u"F12frame2"_s, {F12datelatest, F12dateselect});
     dateCard->Content()->addWidget(F12cal);
+    // Its room is kept while it is hidden, so that the report stays where it is.
+    QSizePolicy keepsRoom = F12cal->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    F12cal->setSizePolicy(keepsRoom);
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
     auto* who = new CardRow;

@@ -143,7 +143,7 @@ DrawBrowserPage::DrawBrowserPage()
     columns->addWidget(dateCard, 0, Qt::AlignTop);
     columns->addLayout(draws, 1);
     Body()->addLayout(columns);
-    Body()->addStretch(1);
+    MakeForm();
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });
     // The arrow keys walk through the dates; what is shown goes with them.
     ConnectGuarded(F9Cal, &MonthCalendar::selectionChanged, this, [this] { FindDrawsOfDate(F9Cal->selectedDate()); });

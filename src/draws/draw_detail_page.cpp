@@ -38,7 +38,7 @@ DrawDetailPage::DrawDetailPage(const Game& drawGame)
                         {ControlName(game, "date"), ControlName(game, "number"), ControlName(game, "ball"),
                          ControlName(game, "label"), ControlName(game, "machine"), ControlName(game, "ballset")},
                         {u"Machine used: "_s, u"Set of balls used: "_s})),
-      back(AddFooterDefault(u"BACK"_s, ControlName(game, "back")))
+      back(AddFooterButton(u"BACK"_s, ControlName(game, "back")))
 {
     auto* card = new Card;
     card->Content()->addWidget(draw);

@@ -60,7 +60,7 @@ LatestDrawPage::LatestDrawPage()
     sections->addWidget(mainSection.card, MainGame.BallCount());
     sections->addWidget(thunderballSection.card, ThunderballGame.BallCount());
     Body()->addLayout(sections);
-    Body()->addStretch(1);
+    MakeForm();
 }
 
 LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)

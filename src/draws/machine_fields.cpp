@@ -46,7 +46,7 @@ QGridLayout* MakeMachineForm(QComboBox* machine, QComboBox* ballSet, const QStri
     form->addWidget(machine, 0, 1);
     form->addWidget(MakeLabel(u"Set of Balls"_s, TextRole::Caption, ElementName(captionArray, 8)), 1, 0);
     form->addWidget(ballSet, 1, 1);
-    form->setColumnMinimumWidth(1, 14 * machine->fontMetrics().averageCharWidth());
+    form->setColumnMinimumWidth(1, 28 * machine->fontMetrics().averageCharWidth());
     form->setColumnStretch(2, 1);
     return form;
 }

@@ -13,6 +13,12 @@ Button::Button(const QString& caption, const QString& name, QWidget* parent) : Q
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
+void Button::MakeQuietDefault()
+{
+    setProperty(AccentProperty, false);
+    setDefault(true);
+}
+
 QSize Button::minimumSizeHint() const
 {
     const int captionWidth = fontMetrics().horizontalAdvance(text()) + 2 * Spacing::Between;

@@ -2,7 +2,8 @@
 
 #include <QPushButton>
 
-/// The name of the property by which a button outside a dialog is marked as the page's default action.
+/// The name of the property by which a button is marked as the default action of its page, or as a quiet one though it
+/// is the default button of its dialog.
 inline constexpr char AccentProperty[] = "accent";
 
 /// A button that also answers the Enter key.
@@ -15,6 +16,8 @@ public:
 
     /// Marks it as the page's default action.
     void MakeAccent();
+    /// Makes it the dialog's default button, which Enter presses, without the weight of one.
+    void MakeQuietDefault();
 
     QSize minimumSizeHint() const override;
 

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <QVariant>
 #include <QWidget>
 
 namespace {
@@ -34,8 +35,9 @@ void FillRounded(QPainter* painter, const QRectF& rect, qreal radius, const QCol
 
 bool IsAccent(const QStyleOption* option, const QWidget* widget)
 {
-    if (widget != nullptr && widget->property(AccentProperty).toBool())
-        return true;
+    const QVariant told = widget != nullptr ? widget->property(AccentProperty) : QVariant();
+    if (told.isValid())
+        return told.toBool();
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     return button != nullptr && (button->features & QStyleOptionButton::DefaultButton) != 0;
 }

@@ -19,7 +19,7 @@ AboutWindow::AboutWindow(QWidget* parent) : SmallWindow(u"frmabout"_s, u"Tavenor
     layout->addWidget(MakeLabel(QStringLiteral("v" TAVENOR_VERSION), TextRole::Body), 0, Qt::AlignHCenter);
     layout->addSpacing(Spacing::Between);
     auto* back = new Button(u"BACK"_s, u"back"_s);
-    back->setDefault(true);
+    back->MakeQuietDefault();
     connect(back, &QPushButton::clicked, this, &QDialog::accept);
     layout->addWidget(back, 0, Qt::AlignHCenter);
 }

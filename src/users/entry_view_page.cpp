@@ -20,7 +20,7 @@ EntryViewPage::EntryViewPage()
     : PageFrame(19, u"View Entry in Detail"_s),
       head(new EntryHead(u"F19"_s)),
       balls(new BallRow({u"F19num"_s, u"F19ball"_s, u"F19caption"_s, {1, 2, 3, 4, 5, 6}}, EntryBallCaptions())),
-      F19back(AddFooterDefault(u"BACK"_s, u"F19back"_s))
+      F19back(AddFooterButton(u"BACK"_s, u"F19back"_s))
 {
     KeepThunderballCaptionOnly(balls, u"F19thunderlabel"_s);
     auto* ballCard = new Card;

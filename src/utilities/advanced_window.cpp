@@ -75,7 +75,7 @@ AdvancedWindow::AdvancedWindow(QWidget* parent)
     ConnectGuarded(importdraw, &QPushButton::clicked, this, [this] { Import_Click(DrawDatabaseFile()); });
     ConnectGuarded(exportuser, &QPushButton::clicked, this, [this] { Export_Click(UserDatabaseFile()); });
     ConnectGuarded(importuser, &QPushButton::clicked, this, [this] { Import_Click(UserDatabaseFile()); });
-    back->setDefault(true);
+    back->MakeQuietDefault();
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
 }
 
