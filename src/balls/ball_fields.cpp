@@ -6,7 +6,6 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
-#include "controls/page_frame.h"
 #include "look/theme.h"
 
 #include <QHBoxLayout>

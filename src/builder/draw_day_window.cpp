@@ -2,7 +2,6 @@
 
 #include "controls/guard.h"
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "look/button.h"
 #include "look/theme.h"
 #include "users/day_boxes.h"

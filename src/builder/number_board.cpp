@@ -2,7 +2,6 @@
 
 #include "balls/ball_disc.h"
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "game/ball_colours.h"
 #include "game/game.h"
 #include "look/theme.h"

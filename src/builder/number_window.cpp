@@ -5,7 +5,6 @@
 #include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "look/button.h"
 #include "look/theme.h"
 

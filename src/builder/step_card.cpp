@@ -1,7 +1,6 @@
 #include "builder/step_card.h"
 
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "controls/text_box.h"
 #include "look/button.h"
 #include "look/theme.h"

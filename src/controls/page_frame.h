@@ -23,8 +23,8 @@ public:
     /// Makes the page visible in front of the others. One that has a button that leaves it gives that the focus.
     void ShowInFront();
 
-    /// Makes the Tab key reach the buttons at the lower right behind all else on the page, as the eye does. To be asked
-    /// for when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
+    /// Makes the Tab key reach the buttons at the lower right after all else on the page, as the eye does. To be called
+    /// when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
     void PutFooterLastInTabOrder();
 
 Q_SIGNALS:

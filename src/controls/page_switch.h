@@ -17,7 +17,7 @@ public:
     /// Selects a page (0 to 30), hides the others and runs its preparation.
     virtual void ShowPage(int index) = 0;
 
-    /// The page of that index, built when it is first asked for.
+    /// The page of that index, built when it is first needed.
     virtual PageFrame* Page(int index) = 0;
 
     /// Goes to the start page, as the logo does.

@@ -1,12 +1,14 @@
 #include "controls/text_box.h"
 
+#include "look/button.h"
+
 #include <QKeyEvent>
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {}
 
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (IsEnter(*event))
         Q_EMIT EnterPressed();
     else
         QLineEdit::keyPressEvent(event);

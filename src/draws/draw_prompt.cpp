@@ -2,7 +2,6 @@
 
 #include "controls/label.h"
 #include "controls/message_box.h"
-#include "controls/page_frame.h"
 #include "look/button.h"
 #include "look/theme.h"
 

@@ -4,7 +4,6 @@
 #include "base/dates.h"
 #include "base/texts.h"
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "draws/machine_fields.h"
 #include "game/game.h"
 #include "look/theme.h"

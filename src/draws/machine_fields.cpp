@@ -1,7 +1,6 @@
 #include "draws/machine_fields.h"
 
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "game/game.h"
 #include "look/theme.h"
 

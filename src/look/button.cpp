@@ -4,6 +4,11 @@
 
 #include <QKeyEvent>
 
+bool IsEnter(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 Button::Button(const QString& caption, const QString& name, QWidget* parent) : QPushButton(caption, parent)
 {
     setObjectName(name);
@@ -33,7 +38,7 @@ void Button::MakeAccent()
 
 void Button::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (IsEnter(*event))
         click();
     else
         QPushButton::keyPressEvent(event);
@@ -41,7 +46,7 @@ void Button::keyPressEvent(QKeyEvent* event)
 
 void EnterButton::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (IsEnter(*event))
         click();
     else
         QAbstractButton::keyPressEvent(event);

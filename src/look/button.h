@@ -6,6 +6,9 @@
 /// is the default button of its dialog.
 inline constexpr char AccentProperty[] = "accent";
 
+/// Whether a key is one of the two Enter keys.
+bool IsEnter(const QKeyEvent& event);
+
 /// A button that also answers the Enter key.
 class Button : public QPushButton
 {

@@ -138,7 +138,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     }
     if (control == CC_ToolButton) {
         if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
-            // The months behind a calendar's heading are found without an arrow across its text.
+            // The heading of a calendar opens its months without an arrow across its text.
             QStyleOptionToolButton plain = *button;
             plain.features &= ~QStyleOptionToolButton::HasMenu;
             QProxyStyle::drawComplexControl(control, &plain, painter, widget);

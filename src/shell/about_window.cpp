@@ -1,7 +1,6 @@
 #include "shell/about_window.h"
 
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "look/button.h"
 #include "look/logo_picture.h"
 #include "look/theme.h"

@@ -44,9 +44,9 @@ IntroductionPage::IntroductionPage(int group) : PageFrame(group, IntroductionOf(
     }
     card->Content()->addLayout(rows);
     Body()->addWidget(card);
-    Body()->addStretch(1);
     auto* start = new ClickLabel(u"Go to Start Screen"_s);
     start->setObjectName(ElementName(u"main"_s, group));
     connect(start, &QAbstractButton::clicked, this, &IntroductionPage::StartScreenClicked);
     Body()->addWidget(start);
+    MakeForm();
 }

@@ -1,7 +1,6 @@
 #include "shell/page_area.h"
 
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "look/theme.h"
 
 #include <QEvent>

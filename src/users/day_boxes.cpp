@@ -3,7 +3,6 @@
 #include "base/dates.h"
 #include "controls/guard.h"
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "look/button.h"
 #include "look/theme.h"
 

@@ -1,7 +1,6 @@
 #include "users/entry_head.h"
 
 #include "controls/label.h"
-#include "controls/page_frame.h"
 #include "game/game.h"
 #include "look/theme.h"
 

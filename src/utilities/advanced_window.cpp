@@ -5,7 +5,6 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
-#include "controls/page_frame.h"
 #include "look/button.h"
 #include "look/theme.h"
 #include "store/open_databases.h"

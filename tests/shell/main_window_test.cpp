@@ -201,6 +201,28 @@ private Q_SLOTS:
         QCOMPARE(folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
     }
 
+    void TheCommandLineIsAnswered()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const QTemporaryDir elsewhere;
+        QProcess program;
+        program.setWorkingDirectory(elsewhere.path());
+        for (const auto& [word, code, said] : {std::tuple("--version", 0, "Tavenor 3.01\n"),
+                                               {"--help", 0, "Usage: tavenor3 [FOLDER]"},
+                                               {"--nothing", 2, "tavenor3: --nothing is not understood."},
+                                               {"nowhere", 1, "tavenor3: The folder nowhere could not be opened."}}) {
+            program.start(TAVENOR_PROGRAM, {word});
+            QVERIFY(program.waitForFinished(60000));
+            QCOMPARE(program.exitCode(), code);
+            QVERIFY((program.readAllStandardOutput() + program.readAllStandardError()).startsWith(said));
+        }
+        program.start(TAVENOR_PROGRAM, {folder.Path(".")});
+        QTRY_VERIFY_WITH_TIMEOUT(CatchesTermination(program.processId()), 60000);
+        program.terminate();
+        QVERIFY(program.waitForFinished(60000));
+        QCOMPARE(program.exitCode(), 0);
+    }
+
     void FilesThatCannotBeOpenedEndTheProgram()
     {
         // A file that is missing, or in whose place the other one stands: with a password, and without one.

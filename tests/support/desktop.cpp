@@ -26,7 +26,9 @@ Desktop::Desktop(const QSize& screenSize)
     qputenv("DBUS_SESSION_BUS_ADDRESS", FirstLine(bus, "dbus-daemon", {"--session", "--nofork", "--print-address=1"}));
     FirstLine(windowManager, "openbox", {"--sm-disable", "--startup", "echo ready"});
     qputenv("QT_QPA_PLATFORM", "xcb");
-    for (const char* ofTheRealDesktop : {"XDG_CURRENT_DESKTOP", "QT_QPA_PLATFORMTHEME", "WAYLAND_DISPLAY"})
+    // One whose dialogs have icons on their buttons.
+    qputenv("XDG_CURRENT_DESKTOP", "GNOME");
+    for (const char* ofTheRealDesktop : {"QT_QPA_PLATFORMTHEME", "WAYLAND_DISPLAY"})
         qunsetenv(ofTheRealDesktop);
 }
 

@@ -122,18 +122,32 @@ private Q_SLOTS:
                                          "User Entries|Backup Draw Database|Import Updated Draw Database|"
                                          "Backup User Entry Database|Import User Entry Database|BACK"));
         const QByteArray draws = BytesOf(utilities.Live("draw"));
+        QVERIFY(QDir::home().mkdir("Downloads"));
         for (const QString button : {"exportdraw", "importdraw", "exportuser", "importuser"}) {
             utilities.Choose(button, [&](QFileDialog& dialog) {
                 seen = QStringList{dialog.windowTitle(), dialog.objectName(),
                                    dialog.findChild<QLineEdit*>("fileNameEdit")->text()} +
-                       dialog.nameFilters();
+                       dialog.nameFilters() + QStringList(dialog.directory().path());
                 dialog.reject();
             });
             utilities.window.Click("advanced");
-            QCOMPARE(seen, (QStringList{button.startsWith("export") ? "Backup" : "Import", "CommonDialog1",
-                                        button.mid(6) + "data.tv3", "Tavenor 3 Files (*.tv3)"}));
+            const bool saving = button.startsWith("export");
+            QCOMPARE(seen, (QStringList{saving ? "Backup" : "Import", "CommonDialog1", button.mid(6) + "data.tv3",
+                                        "Tavenor 3 Files (*.tv3)", QDir::homePath() + (saving ? "" : "/Downloads")}));
         }
         QCOMPARE(BytesOf(utilities.Live("draw")), draws);
+    }
+
+    void EnterOnTheOfferedNameStoresABackup()
+    {
+        Utilities utilities;
+        const QString stored = QDir::home().filePath("userdata.tv3");
+        utilities.Choose("exportuser", [](QFileDialog& dialog) {
+            QTimer::singleShot(0, &dialog, [&dialog] { QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); });
+        });
+        utilities.window.Click("advanced", {QMessageBox::Ok});
+        QCOMPARE(BytesOf(stored), BytesOf(utilities.Live("user")));
+        QVERIFY(QFile::remove(stored) && QDir::home().rmdir("Downloads"));
     }
 
     void BackupEqualsTheCompactedLiveFile()
