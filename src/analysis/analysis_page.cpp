@@ -4,6 +4,7 @@
 #include "analysis/graph_window.h"
 #include "analysis/screen_button.h"
 #include "controls/guard.h"
+#include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "controls/page_switch.h"
 #include "game/game.h"
@@ -82,9 +83,7 @@ void AnalysisPage::BuildHead()
     for (QLabel* clickable : {title, label})
         clickable->installEventFilter(this);
     loading = MakeLabel(u"Loading..."_s, TextRole::Strong, ControlName(PageOf(game), u"loading"_s));
-    QSizePolicy keepsRoom = loading->sizePolicy();
-    keepsRoom.setRetainSizeWhenHidden(true);
-    loading->setSizePolicy(keepsRoom);
+    KeepingRoom(loading);
     loading->hide();
 
     Body()->addWidget(title);

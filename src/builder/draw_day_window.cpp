@@ -1,6 +1,7 @@
 #include "builder/draw_day_window.h"
 
 #include "controls/guard.h"
+#include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "look/button.h"
 #include "look/theme.h"
@@ -19,10 +20,7 @@ DrawDayWindow::DrawDayWindow(DaySet& chosenDays, QWidget* parent)
     QVBoxLayout* layout = Content();
     layout->addWidget(MakeLabel(u"Select the draw day(s)."_s, TextRole::Heading, u"Label1"_s));
     layout->addWidget(boxes);
-    // The button keeps its room while it is hidden, so that the window does not jump.
-    QSizePolicy keepsRoom = store->sizePolicy();
-    keepsRoom.setRetainSizeWhenHidden(true);
-    store->setSizePolicy(keepsRoom);
+    KeepingRoom(store);
     store->setDefault(true);
     store->hide();
     layout->addWidget(store, 0, Qt::AlignRight);

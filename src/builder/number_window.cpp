@@ -4,6 +4,7 @@
 #include "builder/random_source.h"
 #include "controls/card.h"
 #include "controls/guard.h"
+#include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "look/button.h"
 #include "look/theme.h"
@@ -37,10 +38,7 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     endRow->addStretch(1);
     AddButton(endRow, u"Go Back Without Storing"_s, u"nostore"_s, &NumberWindow::nostore_Click);
     endRow->addWidget(store);
-    // The button keeps its room while it is hidden, so that the window does not jump.
-    QSizePolicy keepsRoom = store->sizePolicy();
-    keepsRoom.setRetainSizeWhenHidden(true);
-    store->setSizePolicy(keepsRoom);
+    KeepingRoom(store);
     store->setDefault(true);
     board->setFocus();
 

@@ -2,6 +2,7 @@
 
 #include "builder/builder_steps.h"
 #include "controls/card.h"
+#include "controls/keeping_room.h"
 
 #include <array>
 
@@ -9,16 +10,6 @@ class Button;
 class QComboBox;
 class QLabel;
 class TextBox;
-
-/// Controls that come and go keep their room, so that the page stands still.
-template <typename Widget>
-Widget* KeepingRoom(Widget* widget)
-{
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-    return widget;
-}
 
 /// The five steps of the entry generator, one below the other.
 class StepCard : public Card

@@ -4,6 +4,7 @@
 #include "controls/card.h"
 #include "controls/card_row.h"
 #include "controls/guard.h"
+#include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
@@ -111,11 +112,7 @@ void CheckPage::BuildCards()
     AddOptions(typeCard, u"F12frame1"_s, {F12typem, F12typet, F12typeb});
     Card* dateCard = MakeGroup(u"Date"_s, u"F12label3"_s, u"F12shape2"_s);
     AddOptions(dateCard, u"F12frame2"_s, {F12datelatest, F12dateselect});
-    dateCard->Content()->addWidget(F12cal);
-    // Its room is kept while it is hidden, so that the report stays where it is.
-    QSizePolicy keepsRoom = F12cal->sizePolicy();
-    keepsRoom.setRetainSizeWhenHidden(true);
-    F12cal->setSizePolicy(keepsRoom);
+    dateCard->Content()->addWidget(KeepingRoom(F12cal));
     for (Card* card : {userCard, typeCard, dateCard})
         card->Content()->addStretch(1);
     auto* who = new CardRow;

@@ -4,6 +4,7 @@
 #include "look/theme.h"
 
 #include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 SmallWindow::SmallWindow(const QString& name, const QString& title, QWidget* parent) : QDialog(parent)
@@ -23,7 +24,11 @@ QSize SmallWindow::sizeHint() const
 {
     // The desktop puts its frame around the window.
     constexpr QSize frameRoom(12, 48);
-    return QDialog::sizeHint().expandedTo(usualSize).boundedTo(screen()->availableSize() - frameRoom);
+    const QSize room = screen()->availableSize() - frameRoom;
+    QSize wanted = QDialog::sizeHint().expandedTo(usualSize);
+    if (wanted.height() > room.height())
+        wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    return wanted.boundedTo(room);
 }
 
 void SmallWindow::setVisible(bool visible)

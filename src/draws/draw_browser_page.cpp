@@ -4,6 +4,7 @@
 #include "controls/card.h"
 #include "controls/card_row.h"
 #include "controls/guard.h"
+#include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "controls/month_calendar.h"
 #include "draws/draw_view.h"
@@ -67,9 +68,7 @@ void BrowserSection::AddArrows()
                                  ControlName(game, "labelmain")),
                        1);
     for (Button* arrow : {back, forward}) {
-        QSizePolicy keepsItsPlace = arrow->sizePolicy();
-        keepsItsPlace.setRetainSizeWhenHidden(true);
-        arrow->setSizePolicy(keepsItsPlace);
+        KeepingRoom(arrow);
         arrow->setMaximumHeight(arrow->fontMetrics().height() + Spacing::Between);
         heading->addWidget(arrow);
     }

@@ -3,6 +3,7 @@
 #include "balls/ball_row.h"
 #include "controls/card.h"
 #include "controls/card_row.h"
+#include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "draws/draw_view.h"
 #include "game/game.h"
@@ -73,9 +74,7 @@ LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
         MakeLabel(QLatin1String(texts.title), TextRole::Caption, ElementName(u"F8label"_s, texts.index)));
     section.draw = new DrawView(game, texts.names, {u"Machine: "_s, u"Set of balls: "_s}, section.card);
     section.draw->Balls()->MakeCompact();
-    QSizePolicy keepsItsPlace = section.draw->sizePolicy();
-    keepsItsPlace.setRetainSizeWhenHidden(true);
-    section.draw->setSizePolicy(keepsItsPlace);
+    KeepingRoom(section.draw);
 
     section.blank = new QFrame(section.card);
     section.blank->setObjectName(QLatin1String(texts.blank));
