@@ -13,10 +13,20 @@ ScrollingContent::ScrollingContent(QWidget* content)
     // A widget that is put into a scroll area is made to fill its background.
     content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
-    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*before*/, QWidget* now) {
-        if (now != nullptr && widget()->isAncestorOf(now))
-            ensureWidgetVisible(now, Spacing::Cards, Spacing::Cards);
-    });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*before*/, QWidget* now) { BringIntoView(now); });
+}
+
+void ScrollingContent::BringIntoView(QWidget* focused)
+{
+    if (focused != nullptr && widget()->isAncestorOf(focused))
+        ensureWidgetVisible(focused, Spacing::Cards, Spacing::Cards);
+}
+
+void ScrollingContent::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    BringIntoView(window()->focusWidget());
 }
 
 QSize ScrollingContent::sizeHint() const

@@ -100,7 +100,10 @@ private Q_SLOTS:
         const QSize opened = window.size();
         QStringList faults;
         const Walk walk(window, [&](const QString& name, QWidget& shown) {
-            QTest::qWait(20);
+            // A window without controls, such as the splash window, never becomes the active one.
+            if (!shown.findChildren<QAbstractButton*>().isEmpty() && !QTest::qWaitForWindowActive(&shown))
+                faults.append(name + ": the window does not become active");
+            QTest::qWait(50);
             // A scaled size is rounded.
             const QRect room = window.screen()->availableGeometry().adjusted(-1, -1, 1, 1);
             if (!room.contains(shown.frameGeometry()))
