@@ -6,6 +6,7 @@
 #include "shell/menu_table.h"
 
 #include <QFrame>
+#include <QtMath>
 
 using namespace Qt::StringLiterals;
 
@@ -132,11 +133,11 @@ QSize MenuColumn::sizeHint() const
     int width = qMax(216, logo->sizeHint().width() + ButtonMargin);
     for (const MenuButton* button : buttons)
         width = qMax(width, button->sizeHint().width() + ButtonMargin);
-    const QFontMetrics metrics(FontFor(TextRole::Strong));
+    const QFontMetricsF metrics(FontFor(TextRole::Strong));
     for (int group = 1; group <= MenuGroups; ++group)
         for (const MenuSuboption& suboption : MenuGroupOf(group).suboptions)
-            width = qMax(width, SuboptionLeft + metrics.horizontalAdvance(suboption.caption) + 2 * Spacing::Inside +
-                                    ButtonMargin);
+            width = qMax(width, SuboptionLeft + qCeil(metrics.horizontalAdvance(suboption.caption)) +
+                                    2 * Spacing::Inside + ButtonMargin);
     return {width, minimumSizeHint().height()};
 }
 
