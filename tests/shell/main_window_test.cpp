@@ -217,6 +217,7 @@ private Q_SLOTS:
             QVERIFY((program.readAllStandardOutput() + program.readAllStandardError()).contains(said));
         }
         program.start(TAVENOR_PROGRAM, {folder.Path(".")});
+        QVERIFY(program.waitForStarted());
         QTRY_VERIFY_WITH_TIMEOUT(CatchesTermination(program.processId()), 60000);
         program.terminate();
         QVERIFY(program.waitForFinished(60000));
