@@ -22,6 +22,14 @@ class RowLines : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        // A cell that has a colour of its own keeps it in a selected row.
+        if (index.data(Qt::BackgroundRole).isValid())
+            option->state &= ~QStyle::State_Selected;
+    }
+
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         QStyleOptionViewItem cell(option);

@@ -191,6 +191,18 @@ private Q_SLOTS:
         }
     }
 
+    /// Every Entry cell has its colour, that of the selected first line too.
+    void EntryCellsHaveTheirColour()
+    {
+        Generator page;
+        page.BuildKeyNumbers();
+        auto* grid = page.Find<GridView>("F26grid");
+        const QImage shown = grid->viewport()->grab().toImage();
+        for (int row = 0; row < 3; ++row)
+            QCOMPARE(shown.pixelColor(grid->visualRect(grid->model()->index(row, 1)).topLeft() + QPoint(3, 3)),
+                     QColor("#5B74D7"));
+    }
+
     void OnlyRandomLinesDifferFromRunToRun()
     {
         Generator window;
