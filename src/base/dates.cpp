@@ -14,14 +14,6 @@ const QLocale& English()
     return locale;
 }
 
-QString ShortDateFormat()
-{
-    QString format = QLocale::system().dateFormat(QLocale::ShortFormat);
-    if (!format.contains("yyyy"_L1))
-        format.replace("yy"_L1, "yyyy"_L1);
-    return format;
-}
-
 int Digits(std::string_view text)
 {
     int value = 0;
@@ -65,6 +57,14 @@ QString StoredDateInWords(std::string_view iso)
     return date.isValid() ? English().toString(date, u"d MMMM yyyy"_s) : FromUtf8(iso);
 }
 
+QString ShortDateFormat()
+{
+    QString format = QLocale::system().dateFormat(QLocale::ShortFormat);
+    if (!format.contains("yyyy"_L1))
+        format.replace("yy"_L1, "yyyy"_L1);
+    return format;
+}
+
 QString ShortDate(QDate date)
 {
     static const QString format = ShortDateFormat();
@@ -84,10 +84,13 @@ std::string IsoDate(QDate date)
 
 QDate DateFromIso(std::string_view iso)
 {
-    if (iso.size() != 10 || iso[4] != '-' || iso[7] != '-')
+    const size_t afterYear = iso.find('-');
+    const size_t afterMonth = iso.rfind('-');
+    if (afterYear != 4 || afterMonth <= afterYear)
         return {};
-    const int year = Digits(iso.substr(0, 4));
-    const int month = Digits(iso.substr(5, 2));
-    const int day = Digits(iso.substr(8, 2));
-    return year < 1 || month < 1 || day < 1 ? QDate() : QDate(year, month, day);
+    const std::string_view month = iso.substr(afterYear + 1, afterMonth - afterYear - 1);
+    const std::string_view day = iso.substr(afterMonth + 1);
+    if (month.size() > 2 || day.size() > 2 || Digits(iso.substr(0, afterYear)) < 1)
+        return {};
+    return {Digits(iso.substr(0, afterYear)), Digits(month), Digits(day)};
 }

@@ -25,12 +25,16 @@ QString LongStoredDate(std::string_view iso);
 /// "5 February 2000", always in English, for a date as the files hold it; a text that is no date is given as it stands.
 QString StoredDateInWords(std::string_view iso);
 
+/// The desktop's own short form of a date, with the year in four digits, as QLocale writes formats.
+QString ShortDateFormat();
+
 /// The date in the desktop's own short form, with the year in four digits; empty for an invalid date.
 QString ShortDate(QDate date);
 
 /// The same for a date as the files hold it; a text that is no date is given as it stands.
 QString ShortStoredDate(std::string_view iso);
 
-/// The form in which the database files hold a date, YYYY-MM-DD, and back. A text of another form is an invalid date.
+/// The form in which the database files hold a date, YYYY-MM-DD, and back. Month and day may lack their leading zeros,
+/// as other tools write them; any other text is an invalid date.
 std::string IsoDate(QDate date);
 QDate DateFromIso(std::string_view iso);

@@ -1,6 +1,8 @@
 #include "checking/check_page.h"
 
 #include "base/dates.h"
+#include "base/texts.h"
+#include "checking/report_view.h"
 #include "controls/card.h"
 #include "controls/card_row.h"
 #include "controls/guard.h"
@@ -12,16 +14,13 @@
 #include "look/theme.h"
 #include "store/draw_records.h"
 #include "store/open_databases.h"
-#include "store/user_records.h"
+#include "users/user_choice.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QRadioButton>
-#include <QTextCursor>
-#include <QTextEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -70,64 +69,65 @@ void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRad
 CheckPage::CheckPage(PageSwitch& pageSwitch)
     : PageFrame(12, u"Check Entries"_s),
       pages(pageSwitch),
-      F12user(new QComboBox),
+      F12user(MakeUserList(u"F12user"_s, u"User"_s)),
       F12typem(MakeOption(u"Main"_s, u"F12typem"_s)),
       F12typet(MakeOption(u"Thunderball"_s, u"F12typet"_s)),
       F12typeb(MakeOption(u"Both"_s, u"F12typeb"_s)),
       F12datelatest(MakeOption(u"Latest Draw"_s, u"F12datelatest"_s)),
       F12dateselect(MakeOption(u"Select Date"_s, u"F12dateselect"_s)),
       F12cal(new QDateEdit),
-      F12text(new QTextEdit)
+      F12text(new ReportView),
+      F12clear(AddFooterButton(u"Clear"_s, u"F12clear"_s)),
+      F12print(AddFooterButton(u"Print"_s, u"F12print"_s)),
+      F12check(AddFooterDefault(u"Check Now"_s, u"F12check"_s))
 {
-    BuildCards();
-    F12clear = AddFooterButton(u"Clear"_s, u"F12clear"_s);
-    F12print = AddFooterButton(u"Print"_s, u"F12print"_s);
-    F12check = AddFooterDefault(u"Check Now"_s, u"F12check"_s);
-    ConnectHandlers();
-}
-
-void CheckPage::BuildCards()
-{
-    F12user->setObjectName(u"F12user"_s);
-    F12user->setAccessibleName(u"User"_s);
-    F12user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    F12user->setMinimumContentsLength(7);
-    F12cal->setObjectName(u"F12cal"_s);
-    F12cal->setAccessibleName(u"Date of the draw"_s);
-    F12cal->setCalendarPopup(true);
-    F12text->setObjectName(u"F12text"_s);
-    F12text->setAccessibleName(u"Report"_s);
-    F12text->setReadOnly(true);
-    F12text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    F12text->setUndoRedoEnabled(false);
-    F12text->setFrameShape(QFrame::NoFrame);
-    F12text->viewport()->setBackgroundRole(QPalette::AlternateBase);
-    QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    digits.setPointSizeF(FontFor(TextRole::Body).pointSizeF());
-    F12text->setFont(digits);
-
-    Card* userCard = MakeGroup(u"User"_s, u"F12label1"_s, u"F12shape1"_s);
-    userCard->Content()->addWidget(F12user);
-    Card* typeCard = MakeGroup(u"Draw Type"_s, u"F12label2"_s, QString());
-    AddOptions(typeCard, u"F12frame1"_s, {F12typem, F12typet, F12typeb});
-    Card* dateCard = MakeGroup(u"Date"_s, u"F12label3"_s, u"F12shape2"_s);
-    AddOptions(dateCard, u"F12frame2"_s, {F12datelatest, F12dateselect});
-    dateCard->Content()->addWidget(KeepingRoom(F12cal));
-    for (Card* card : {userCard, typeCard, dateCard})
-        card->Content()->addStretch(1);
     auto* who = new CardRow;
     who->setSpacing(Spacing::Between);
-    who->addWidget(userCard, 1);
-    who->addWidget(typeCard);
+    who->addWidget(MakeUserCard(), 1);
+    who->addWidget(MakeTypeCard());
     auto* cards = new CardRow;
     cards->setSpacing(Spacing::Between);
     cards->addLayout(who, 1);
-    cards->addWidget(dateCard);
+    cards->addWidget(MakeDateCard());
     Body()->addLayout(cards);
 
+    F12text->setObjectName(u"F12text"_s);
+    F12text->setAccessibleName(u"Report"_s);
     auto* reportCard = new Card;
     reportCard->Content()->addWidget(F12text);
     Body()->addWidget(reportCard, 1);
+    ConnectHandlers();
+}
+
+Card* CheckPage::MakeUserCard()
+{
+    F12user->setMinimumContentsLength(7);
+    Card* card = MakeGroup(u"User"_s, u"F12label1"_s, u"F12shape1"_s);
+    card->Content()->addWidget(F12user);
+    card->Content()->addStretch(1);
+    return card;
+}
+
+Card* CheckPage::MakeTypeCard()
+{
+    Card* card = MakeGroup(u"Draw Type"_s, u"F12label2"_s, QString());
+    AddOptions(card, u"F12frame1"_s, {F12typem, F12typet, F12typeb});
+    card->Content()->addStretch(1);
+    return card;
+}
+
+Card* CheckPage::MakeDateCard()
+{
+    F12cal->setObjectName(u"F12cal"_s);
+    F12cal->setAccessibleName(u"Date of the draw"_s);
+    F12cal->setCalendarPopup(true);
+    // With two digits of the year, what is typed could be the year of another century.
+    F12cal->setDisplayFormat(ShortDateFormat());
+    Card* card = MakeGroup(u"Date"_s, u"F12label3"_s, u"F12shape2"_s);
+    AddOptions(card, u"F12frame2"_s, {F12datelatest, F12dateselect});
+    card->Content()->addWidget(KeepingRoom(F12cal));
+    card->Content()->addStretch(1);
+    return card;
 }
 
 void CheckPage::ConnectHandlers()
@@ -140,28 +140,17 @@ void CheckPage::ConnectHandlers()
 
 void CheckPage::Prepare()
 {
-    users.MoveFirst();
-    if (users.IsEmpty()) {
-        pages.ChooseMenu(3, 1);
-        ShowMessage(u"You cannot check entries until you have"_s + Crlf +
-                    u"created a user profile and created entries."_s);
+    const QString whyNot =
+        u"You cannot check entries until you have"_s + Crlf + u"created a user profile and created entries."_s;
+    if (FillUserList(F12user, pages, whyNot).empty())
         return;
-    }
-    FillCheckUserList();
+    F12user->insertItem(0, AllUsers);
+    F12user->setCurrentIndex(0);
     F12typeb->setChecked(true);
     F12datelatest->setChecked(true);
     F12datelatest_Click();
     F12clear_Click();
     show();
-}
-
-void CheckPage::FillCheckUserList()
-{
-    F12user->clear();
-    F12user->addItem(AllUsers);
-    for (const UserRow& user : ReadAllUsers(users))
-        F12user->addItem(user.name);
-    F12user->setCurrentIndex(0);
 }
 
 void CheckPage::F12datelatest_Click()
@@ -180,7 +169,7 @@ void CheckPage::F12check_Click()
     ShowClearAndPrint(true);
     const std::vector<EntryRow> allEntries = ReadAllEntries(entries);
     const std::vector<CheckedGame> games = allEntries.empty() ? std::vector<CheckedGame>() : GamesToCheck();
-    ShowReport(WriteCheckReport(UsersToCheck(), games, allEntries));
+    F12text->Show(WriteCheckReport(UsersToCheck(), games, allEntries));
 }
 
 void CheckPage::F12clear_Click()
@@ -228,35 +217,6 @@ CheckedGame CheckPage::FindCheckDrawDate(const Game& game) const
     if (F12dateselect->isChecked() && !FindDrawByDate(list, F12cal->date()))
         return checked;
     const DrawRow draw = ReadDraw(list, game);
-    const QDate date = DateFromIso(draw.date);
-    if (date.isValid())
-        checked.draw = CheckedDraw{date, draw.balls};
+    checked.draw = CheckedDraw{DateFromIso(draw.date), draw.balls, FromUtf8(draw.date)};
     return checked;
-}
-
-void CheckPage::ShowReport(const CheckReport& report)
-{
-    QTextCharFormat emphasised;
-    emphasised.setFontWeight(QFont::Bold);
-    // A new text takes on the format at the cursor, which may stand in an emphasised line of the old one.
-    F12text->setTextCursor(QTextCursor(F12text->document()));
-    F12text->setCurrentCharFormat(QTextCharFormat());
-    // The text goes in at once and is laid out once; line by line it would take several times as long.
-    F12text->setPlainText(report.text);
-    QTextCursor caret(F12text->document());
-    caret.beginEditBlock();
-    qsizetype counted = 0;
-    qsizetype lineBreaks = 0;
-    // A line break is two characters of the report, but one place in the document.
-    const auto placeOf = [&](qsizetype position) {
-        lineBreaks += QStringView(report.text).mid(counted, position - counted).count(u'\r');
-        counted = position;
-        return static_cast<int>(position - lineBreaks);
-    };
-    for (const CheckReport::Span& span : report.emphasised) {
-        caret.setPosition(placeOf(span.start));
-        caret.setPosition(placeOf(span.start + span.length), QTextCursor::KeepAnchor);
-        caret.setCharFormat(emphasised);
-    }
-    caret.endEditBlock();
 }

@@ -3,11 +3,12 @@
 #include "checking/check_report.h"
 #include "controls/page_frame.h"
 
+class Card;
 class PageSwitch;
 class QComboBox;
 class QDateEdit;
 class QRadioButton;
-class QTextEdit;
+class ReportView;
 
 /// Page 12, "Check Entries": the entries of one user or of all are compared with the draws of one date.
 class CheckPage : public PageFrame
@@ -21,9 +22,10 @@ public:
     void Prepare() override;
 
 private:
-    void BuildCards();
+    Card* MakeUserCard();
+    Card* MakeTypeCard();
+    Card* MakeDateCard();
     void ConnectHandlers();
-    void FillCheckUserList();
     void F12datelatest_Click();
     void F12dateselect_Click();
     void F12check_Click();
@@ -32,7 +34,6 @@ private:
     std::vector<CheckedUser> UsersToCheck() const;
     std::vector<CheckedGame> GamesToCheck() const;
     CheckedGame FindCheckDrawDate(const Game& game) const;
-    void ShowReport(const CheckReport& report);
 
     PageSwitch& pages;
     QComboBox* F12user;
@@ -42,7 +43,7 @@ private:
     QRadioButton* F12datelatest;
     QRadioButton* F12dateselect;
     QDateEdit* F12cal;
-    QTextEdit* F12text;
+    ReportView* F12text;
     Button* F12clear;
     Button* F12print;
     Button* F12check;

@@ -10,22 +10,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QLatin1String LineBreak("\r\n");
+const QString LineBreak = u"\r\n"_s;
 
 /// The words in which the report of a game differs from the other's.
 struct GameWords
 {
-    QLatin1String game;
-    QLatin1String extraMatched;
-    QLatin1String noDraw;
-    QLatin1String noEntries;
-    QLatin1String indent;
+    QString game;
+    QString extraMatched;
+    QString noDraw;
+    QString noEntries;
+    QString indent;
 };
 
-const GameWords MainWords{"Main"_L1, " + bonus. "_L1, "  No main draw on this date."_L1,
-                          "    No main entries on this date."_L1, " "_L1};
-const GameWords ThunderballWords{"Thunderball"_L1, " + thunderball. "_L1, "  No thunderball draw on this date."_L1,
-                                 "    No thunderball entries on this date."_L1, "   "_L1};
+const GameWords MainWords{u"Main"_s, u" + bonus. "_s, u"  No main draw on this date."_s,
+                          u"    No main entries on this date."_s, u" "_s};
+const GameWords ThunderballWords{u"Thunderball"_s, u" + thunderball. "_s, u"  No thunderball draw on this date."_s,
+                                 u"    No thunderball entries on this date."_s, u"   "_s};
 
 const GameWords& WordsOf(const Game& game)
 {
@@ -38,7 +38,7 @@ using EntriesByUser = std::unordered_map<std::int64_t, std::vector<std::size_t>>
 EntriesByUser PlayedEntries(const CheckedGame& checked, std::span<const EntryRow> entries)
 {
     EntriesByUser played;
-    if (!checked.draw)
+    if (!checked.draw || !checked.draw->date.isValid())
         return played;
     const auto day = static_cast<std::size_t>(DaySetIndex(checked.draw->date));
     for (std::size_t i = 0; i < entries.size(); ++i)
@@ -62,12 +62,12 @@ void AppendResult(QString& text, const Game& game, const EntryResult& result)
     const GameWords& words = WordsOf(game);
     text += words.indent;
     AppendSpaced(text, result.mainMatches);
-    text += " main ball"_L1;
+    text += u" main ball"_s;
     if (result.mainMatches != 1)
         text += u's';
-    text += result.extraMatched ? words.extraMatched : ". "_L1;
+    text += result.extraMatched ? words.extraMatched : u". "_s;
     if (IsWin(game, result))
-        text += "<<WIN>>"_L1;
+        text += u"<<WIN>>"_s;
     text += LineBreak;
 }
 
@@ -79,17 +79,19 @@ void AppendSection(QString& text, const CheckedGame& checked, const std::vector<
         text += words.noDraw + LineBreak;
         return;
     }
-    text += "  Draw type: "_L1 + words.game + " ("_L1 + ShortDate(checked.draw->date) + u')' + LineBreak;
+    const CheckedDraw& draw = *checked.draw;
+    text += u"  Draw type: "_s + words.game + u" ("_s + (draw.date.isValid() ? ShortDate(draw.date) : draw.storedDate) +
+            u')' + LineBreak;
     if (played == nullptr) {
         text += words.noEntries + LineBreak;
         return;
     }
     int counter = 1;
     for (const std::size_t index : *played) {
-        text += "   "_L1;
+        text += u"   "_s;
         AppendSpaced(text, counter++);
         text += u'>';
-        AppendResult(text, *checked.game, CompareEntry(*checked.game, entries[index], *checked.draw));
+        AppendResult(text, *checked.game, CompareEntry(*checked.game, entries[index], draw));
     }
 }
 
@@ -129,13 +131,13 @@ CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const
         report.emphasised.push_back({report.text.size(), line.size()});
         report.text += line;
     };
-    appendEmphasised("Tavenor v3.0"_L1 + LineBreak + LineBreak);
+    appendEmphasised(u"Tavenor v3.0"_s + LineBreak + LineBreak);
     if (entries.empty()) {
-        report.text += "There are no user entries stored."_L1;
+        report.text += u"There are no user entries stored."_s;
         return report;
     }
     for (const CheckedUser& user : users) {
-        appendEmphasised("User: "_L1 + user.name + LineBreak);
+        appendEmphasised(u"User: "_s + user.name + LineBreak);
         for (std::size_t i = 0; i < games.size(); ++i) {
             const auto found = played[i].find(user.number);
             AppendSection(report.text, games[i], found == played[i].end() ? nullptr : &found->second, entries);

@@ -10,11 +10,13 @@
 #include <span>
 #include <vector>
 
-/// The draw that one section of the report checks against; balls in slot order.
+/// The draw that one section of the report checks against.
 struct CheckedDraw
 {
+    /// Invalid where the file holds something that is no date; no entry is played on its day then.
     QDate date;
     DrawBalls balls{};
+    QString storedDate = {};
 };
 
 /// The user of one block of the report.

@@ -42,23 +42,21 @@ DrawRow ReadDraw(const RecordRow& row, const Game& game)
 
 bool FindDrawByDate(RecordSet& table, QDate date)
 {
-    const std::string wanted = IsoDate(date);
     for (table.MoveFirst(); !table.Eof(); table.MoveNext())
-        if (table.Text(DrawField::Date) == wanted)
+        if (DateFromIso(table.Text(DrawField::Date)) == date)
             return true;
     return false;
 }
 
 bool IsOnDate(RecordSet& list, QDate date)
 {
-    return !list.Bof() && !list.Eof() && list.Text(DrawField::Date) == IsoDate(date);
+    return !list.Bof() && !list.Eof() && DateFromIso(list.Text(DrawField::Date)) == date;
 }
 
 bool FindLastDrawOfDate(RecordSet& list, QDate date)
 {
-    const std::string wanted = IsoDate(date);
     for (list.MoveLast(); !list.Bof(); list.MovePrevious())
-        if (list.Text(DrawField::Date) == wanted)
+        if (DateFromIso(list.Text(DrawField::Date)) == date)
             return true;
     return false;
 }

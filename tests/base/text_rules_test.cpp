@@ -58,7 +58,9 @@ private Q_SLOTS:
     {
         QCOMPARE(DateFromIso("1999-06-12"), QDate(1999, 6, 12));
         QCOMPARE(DateFromIso("2024-02-29"), QDate(2024, 2, 29));
-        for (const char* odd : {"2023-02-29", "1999-13-12", "1999-06-12 10:00", "1999--6-12", "", "yesterday!"})
+        QCOMPARE(DateFromIso("2024-1-9"), QDate(2024, 1, 9));
+        for (const char* odd :
+             {"2023-02-29", "1999-13-12", "1999-06-12 10:00", "1999--6-12", "", "yesterday!", "24-01-09", "2024-001-9"})
             QVERIFY2(!DateFromIso(odd).isValid(), odd);
     }
 

@@ -1,5 +1,7 @@
 #include "support/test_window.h"
 
+#include "base/dates.h"
+
 #include <QDateEdit>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -72,6 +74,52 @@ private Q_SLOTS:
         window.Find<QRadioButton>("F12typem")->click();
         QCOMPARE(Check(window),
                  QString("User: Ann\n  Draw type: Main (21/11/2026)\n    No main entries on this date.\n\n"));
+    }
+
+    /// A date of another form is told as on the other pages; what is no date names no day on which entries are played.
+    void OddDateOfTheNewestDrawIsTold()
+    {
+        for (const auto& [stored, shown, lines] : {std::tuple("2024-1-9", "09/01/2024", "    1>  0 main balls. \n"),
+                                                   {"long ago", "long ago", "    No main entries on this date.\n"}}) {
+            TestWindow window;
+            StoreDraws(MainGame, {"2024-01-09,1,2,3,4,5,6,7,,"});
+            ukmain.MoveFirst();
+            ukmain.Edit();
+            ukmain.SetField(DrawField::Date, std::string_view(stored));
+            ukmain.Update();
+            ukmainlist.Requery();
+            AddUser(users, "Ann", 9);
+            AddEntry(entries, {1, 1, 1, {11, 12, 13, 14, 15, 16}, {true, true, true, true, true, true, true}});
+            window.OpenPage(3, 4);
+            window.Click("F12typem");
+            QCOMPARE(Check(window), QString("User: Ann\n  Draw type: Main (%1)\n%2\n").arg(shown, lines));
+        }
+    }
+
+    /// In every language: the year has four digits, and is the one that is typed.
+    void DateIsTypedWithItsYear()
+    {
+        TestWindow window;
+        AddUser(users, "Ann", 9);
+        window.OpenPage(3, 4);
+        window.Click("F12dateselect");
+        auto* date = window.Find<QDateEdit>("F12cal");
+        const QDate wanted(1999, 12, 31);
+        date->setDate(wanted);
+        const QString shown = date->text();
+        QCOMPARE(shown, ShortDate(wanted));
+        date->setDate(QDate(2026, 1, 1));
+        date->setFocus();
+        for (int place = 0; place < date->sectionCount(); ++place) {
+            const auto section = date->sectionAt(place);
+            date->setSelectedSection(section);
+            QTest::keyClicks(date, section == QDateEdit::DaySection     ? "31"
+                                   : section == QDateEdit::MonthSection ? "12"
+                                                                        : "1999");
+        }
+        QTest::keyClick(date, Qt::Key_Return);
+        QCOMPARE(date->date(), wanted);
+        QCOMPARE(date->text(), shown);
     }
 
     void ReportFollowsTheChoices()
