@@ -10,13 +10,14 @@
 #include "look/theme.h"
 #include "store/open_databases.h"
 #include "store/user_changes.h"
-#include "store/user_records.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +40,13 @@ QString UserCountText(int count)
     return u"There are currently "_s + SpacedNumber(count) + u" users."_s;
 }
 
+bool AnotherUserHas(const QString& name, std::int64_t userId)
+{
+    const std::vector<UserRow> all = ReadAllUsers(users);
+    return std::any_of(all.begin(), all.end(),
+                       [&](const UserRow& user) { return user.number != userId && user.name == name; });
+}
+
 } // namespace
 
 UserDetailsPage::UserDetailsPage()
@@ -49,29 +57,40 @@ UserDetailsPage::UserDetailsPage()
       F11seluser(MakeBox(u"F11seluser"_s)),
       F11spend(MakeBox(u"F11spend"_s)),
       F11label4(MakeLabel(u"Current number of entries"_s, TextRole::Caption, u"F11label4"_s)),
-      F11entrycount(MakeBox(u"F11entrycount"_s))
+      F11entrycount(MakeBox(u"F11entrycount"_s)),
+      F11adduser(AddFooterButton(u"Add New User"_s, u"F11adduser"_s)),
+      F11edituser(AddFooterButton(u"Edit User"_s, u"F11edituser"_s)),
+      F11deleteuser(AddFooterButton(u"Delete User"_s, u"F11deleteuser"_s)),
+      F11storenu(new Button(u"Store New User"_s, u"F11storenu"_s)),
+      F11storech(new Button(u"Store Changes"_s, u"F11storech"_s))
 {
-    BuildCards();
-    F11adduser = AddFooterButton(u"Add New User"_s, u"F11adduser"_s);
-    F11edituser = AddFooterButton(u"Edit User"_s, u"F11edituser"_s);
-    F11deleteuser = AddFooterButton(u"Delete User"_s, u"F11deleteuser"_s);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(Spacing::Cards);
+    cards->addWidget(MakeListCard(), 1);
+    cards->addWidget(MakeUserCard(), 1);
+    Body()->addLayout(cards);
+    MakeForm();
     ConnectHandlers();
 }
 
-void UserDetailsPage::BuildCards()
+Card* UserDetailsPage::MakeListCard()
 {
-    auto* listCard = new Card;
     F11label1->setWordWrap(true);
-    listCard->Content()->addWidget(F11label1);
     F11list->setObjectName(u"F11list"_s);
     F11list->setAccessibleName(u"Users"_s);
     F11list->setFrameShape(QFrame::NoFrame);
     F11list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     F11list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    listCard->Content()->addWidget(F11list, 1);
+    auto* card = new Card;
+    card->Content()->addWidget(F11label1);
+    card->Content()->addWidget(F11list, 1);
+    return card;
+}
 
-    auto* userCard = new Card;
-    QVBoxLayout* form = userCard->Content();
+Card* UserDetailsPage::MakeUserCard()
+{
+    auto* card = new Card;
+    QVBoxLayout* form = card->Content();
     form->setSpacing(Spacing::Inside);
     const auto add = [form](QLabel* caption, QLineEdit* box) {
         form->addWidget(caption);
@@ -84,20 +103,12 @@ void UserDetailsPage::BuildCards()
     F11spend->setAccessibleName(u"Maximum number of entries"_s);
     F11entrycount->setAccessibleName(F11label4->text());
     F11entrycount->setReadOnly(true);
-    F11storenu = new Button(u"Store New User"_s, u"F11storenu"_s);
-    F11storech = new Button(u"Store Changes"_s, u"F11storech"_s);
     for (Button* store : {F11storenu, F11storech}) {
         store->MakeAccent();
         form->addWidget(store, 0, Qt::AlignLeft);
     }
     form->addStretch(1);
-
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(Spacing::Cards);
-    cards->addWidget(listCard, 1);
-    cards->addWidget(userCard, 1);
-    Body()->addLayout(cards);
-    MakeForm();
+    return card;
 }
 
 void UserDetailsPage::ConnectHandlers()
@@ -106,11 +117,11 @@ void UserDetailsPage::ConnectHandlers()
     ConnectGuarded(F11list, &QListWidget::itemSelectionChanged, this, [this] { F11list_Click(); });
     ConnectGuarded(F11adduser, &QPushButton::clicked, this, [this] { F11adduser_Click(); });
     ConnectGuarded(F11edituser, &QPushButton::clicked, this, [this] { F11edituser_Click(); });
-    ConnectGuarded(F11deleteuser, &QPushButton::clicked, this, [this] { F11deleteuser_Click(); });
-    ConnectGuarded(F11storenu, &QPushButton::clicked, this, [this] { F11storenu_Click(); });
-    ConnectGuarded(F11storech, &QPushButton::clicked, this, [this] { F11storech_Click(); });
     ConnectGuarded(F11seluser, &QLineEdit::returnPressed, this, [this] { F11spend->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(F11spend, &QLineEdit::returnPressed, this, [this] { F11spend_KeyPress(); });
+    ConnectGuarded(F11storenu, &QPushButton::clicked, this, [this] { F11storenu_Click(); });
+    ConnectGuarded(F11storech, &QPushButton::clicked, this, [this] { F11storech_Click(); });
+    ConnectGuarded(F11deleteuser, &QPushButton::clicked, this, [this] { F11deleteuser_Click(); });
 }
 
 void UserDetailsPage::Prepare()
@@ -133,35 +144,6 @@ void UserDetailsPage::FillList()
     F11label1->setText(UserCountText(F11list->count()));
 }
 
-void UserDetailsPage::SetMode(Mode newMode)
-{
-    mode = newMode;
-    const bool typing = mode != Mode::View;
-    for (QLineEdit* box : {F11seluser, F11spend}) {
-        box->setReadOnly(!typing);
-        if (mode != Mode::Edit)
-            box->clear();
-    }
-    F11entrycount->setVisible(mode != Mode::Add);
-    F11label4->setVisible(mode != Mode::Add);
-    if (mode != Mode::Edit)
-        F11entrycount->clear();
-    F11storenu->setVisible(mode == Mode::Add);
-    F11storech->setVisible(mode == Mode::Edit);
-    F11label2->setText(mode == Mode::View  ? u"Currently selected user"_s
-                       : mode == Mode::Add ? u"New users name"_s
-                                           : u"Updated users name"_s);
-    F11seluser->setAccessibleName(F11label2->text());
-    if (typing)
-        F11seluser->setFocus(Qt::TabFocusReason);
-}
-
-const QListWidgetItem* UserDetailsPage::SelectedLine() const
-{
-    const QList<QListWidgetItem*> selected = F11list->selectedItems();
-    return selected.isEmpty() ? nullptr : selected.first();
-}
-
 void UserDetailsPage::F11list_Click()
 {
     if (SelectedLine() == nullptr)
@@ -171,12 +153,11 @@ void UserDetailsPage::F11list_Click()
         QTimer::singleShot(0, this, [this] { Guard([this] { DropVanishedUser(); }); });
         return;
     }
-    const UserRow user = ReadUser(users);
-    selectedUserNumber = user.number;
-    entryCount = CountEntries(entries, user.number);
+    selectedUser = ReadUser(users);
+    entryCount = CountEntries(entries, selectedUser.number);
     SetMode(Mode::View);
-    F11seluser->setText(user.name);
-    F11spend->setText(PlainNumber(user.spendLimit));
+    F11seluser->setText(selectedUser.name);
+    F11spend->setText(PlainNumber(selectedUser.spendLimit));
     F11entrycount->setText(PlainNumber(entryCount));
 }
 
@@ -207,7 +188,16 @@ void UserDetailsPage::F11edituser_Click()
     if (mode == Mode::Add)
         F11list_Click();
     editedUserName = F11seluser->text();
+    editedSpendLimit = F11spend->text();
     SetMode(Mode::Edit);
+}
+
+void UserDetailsPage::F11spend_KeyPress()
+{
+    if (mode == Mode::Add)
+        F11storenu->setFocus(Qt::TabFocusReason);
+    else if (mode == Mode::Edit)
+        F11storech->setFocus(Qt::TabFocusReason);
 }
 
 void UserDetailsPage::F11storenu_Click()
@@ -221,13 +211,17 @@ void UserDetailsPage::F11storenu_Click()
 
 void UserDetailsPage::F11storech_Click()
 {
-    const QString name = F11seluser->text();
-    const double limit = NumericValue(F11spend->text());
-    if (name.isEmpty()) {
+    if (F11seluser->text().isEmpty()) {
         ShowMessage(u"Invalid user name, please retry."_s);
         return;
     }
-    if (name != editedUserName && NameIsTaken(name, selectedUserNumber)) {
+    // A box need not hold all of what is stored: a name may be longer than what fits, a number finer than what is
+    // shown. What was not changed stays as it is stored.
+    const bool renamed = F11seluser->text() != editedUserName;
+    const QString name = renamed ? F11seluser->text() : selectedUser.name;
+    const double limit =
+        F11spend->text() == editedSpendLimit ? selectedUser.spendLimit : NumericValue(F11spend->text());
+    if (renamed && AnotherUserHas(name, selectedUser.number)) {
         ShowMessage(u"This user name has already been used, please retry"_s);
         return;
     }
@@ -236,7 +230,7 @@ void UserDetailsPage::F11storech_Click()
                     u"Change the maximum limit or delete some entries, then retry."_s);
         return;
     }
-    StoreUserChanges(selectedUserNumber, name, limit);
+    StoreUserChanges(selectedUser.number, name, limit);
     Prepare();
 }
 
@@ -248,22 +242,35 @@ void UserDetailsPage::F11deleteuser_Click()
     }
     if (!AskYesNo(u"Are you sure you want to delete this user"_s + Crlf + u"and all entries stored with it?"_s))
         return;
-    DeleteUserWithEntries(selectedUserNumber);
+    DeleteUserWithEntries(selectedUser.number);
     Prepare();
 }
 
-void UserDetailsPage::F11spend_KeyPress()
+void UserDetailsPage::SetMode(Mode newMode)
 {
-    if (mode == Mode::Add)
-        F11storenu->setFocus(Qt::TabFocusReason);
-    else if (mode == Mode::Edit)
-        F11storech->setFocus(Qt::TabFocusReason);
+    mode = newMode;
+    const bool typing = mode != Mode::View;
+    for (QLineEdit* box : {F11seluser, F11spend}) {
+        box->setReadOnly(!typing);
+        if (mode != Mode::Edit)
+            box->clear();
+    }
+    F11entrycount->setVisible(mode != Mode::Add);
+    F11label4->setVisible(mode != Mode::Add);
+    if (mode != Mode::Edit)
+        F11entrycount->clear();
+    F11storenu->setVisible(mode == Mode::Add);
+    F11storech->setVisible(mode == Mode::Edit);
+    F11label2->setText(mode == Mode::View  ? u"Currently selected user"_s
+                       : mode == Mode::Add ? u"New users name"_s
+                                           : u"Updated users name"_s);
+    F11seluser->setAccessibleName(F11label2->text());
+    if (typing)
+        F11seluser->setFocus(Qt::TabFocusReason);
 }
 
-bool UserDetailsPage::NameIsTaken(const QString& name, std::int64_t exceptUser) const
+const QListWidgetItem* UserDetailsPage::SelectedLine() const
 {
-    for (const UserRow& user : ReadAllUsers(users))
-        if (user.number != exceptUser && user.name == name)
-            return true;
-    return false;
+    const QList<QListWidgetItem*> selected = F11list->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "controls/page_frame.h"
+#include "store/user_records.h"
 
 #include <QLabel>
 
-#include <cstdint>
-
+class Card;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -29,26 +29,28 @@ private:
         Edit
     };
 
-    void BuildCards();
+    Card* MakeListCard();
+    Card* MakeUserCard();
     void ConnectHandlers();
     void FillList();
-    void SetMode(Mode newMode);
-    /// The selected line of the list; the line that merely has the focus stands for nobody.
-    const QListWidgetItem* SelectedLine() const;
     void F11list_Click();
     /// Fills the list anew, for its selected line names a user who is gone. Throws the Failure that tells it.
     void DropVanishedUser();
     void F11adduser_Click();
     void F11edituser_Click();
+    void F11spend_KeyPress();
     void F11storenu_Click();
     void F11storech_Click();
     void F11deleteuser_Click();
-    void F11spend_KeyPress();
-    bool NameIsTaken(const QString& name, std::int64_t exceptUser) const;
+    void SetMode(Mode newMode);
+    /// The selected line of the list; the line that merely has the focus stands for nobody.
+    const QListWidgetItem* SelectedLine() const;
 
-    std::int64_t selectedUserNumber = 0;
+    UserRow selectedUser;
     int entryCount = 0;
+    /// What stood in the two boxes when the player began to edit.
     QString editedUserName;
+    QString editedSpendLimit;
     Mode mode = Mode::View;
 
     QLabel* F11label1;

@@ -1,5 +1,7 @@
 #include "support/test_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Stores users with a limit of 10, and entries of the first of them, and opens the page.
@@ -152,6 +154,33 @@ private Q_SLOTS:
             QCOMPARE(window.modals.TakeTexts().join(u'|'), message);
             CompareMode(window, message.isEmpty() ? View : Edit);
             QCOMPARE(TestFolder::StoredRows("users"), (QStringList{stored, "2,Bob,10"}));
+        }
+    }
+
+    /// A name may be longer than its box takes, and a limit finer than its box shows.
+    void WhatIsNotChangedStaysAsItIsStored()
+    {
+        for (const double limit : {0.00001, 9007199254740992.0, 99999999999999999999.0, 0.1 + 0.2}) {
+            const QString longName(40000, u'n');
+            TestWindow window;
+            AddUser(users, longName, limit);
+            for (const char* changed : {"F11spend", "F11seluser"}) {
+                window.OpenPage(3, 1);
+                Select(window, 0);
+                window.Click("F11edituser");
+                window.Find<QLineEdit>(changed)->setText("7");
+                window.Click("F11storech");
+                users.MoveFirst();
+                const UserRow stored = ReadUser(users);
+                if (changed == "F11spend"_L1) {
+                    QVERIFY(stored.name == longName && stored.spendLimit == 7);
+                    users.Edit();
+                    users.SetField(UserField::SpendLimit, limit);
+                    users.Update();
+                } else {
+                    QVERIFY(stored.name == "7"_L1 && stored.spendLimit == limit);
+                }
+            }
         }
     }
 
