@@ -22,19 +22,26 @@ namespace {
 struct SectionTexts
 {
     int index;
-    const char* title;
-    const char* grid;
-    const char* noDraws;
+    QString title;
+    QString grid;
+    QString noDraws;
     /// The game in the buttons' names and in the questions.
-    const char* inNames;
-    const char* inQuestions;
+    QString inNames;
+    QString inQuestions;
     int detailPage;
     int editPage;
 };
 
-constexpr SectionTexts MainTexts{0, "Main Draw", "F10Grid1", "There are no main draws stored.", "main", "main", 14, 16};
-constexpr SectionTexts ThunderballTexts{
-    1, "Thunderball Draw", "F10Grid2", "There are no Thunderball draws stored.", "thunder", "thunderball", 15, 17};
+const SectionTexts MainTexts{
+    0, u"Main Draw"_s, u"F10Grid1"_s, u"There are no main draws stored."_s, u"main"_s, u"main"_s, 14, 16};
+const SectionTexts ThunderballTexts{1,
+                                    u"Thunderball Draw"_s,
+                                    u"F10Grid2"_s,
+                                    u"There are no Thunderball draws stored."_s,
+                                    u"thunder"_s,
+                                    u"thunderball"_s,
+                                    15,
+                                    17};
 
 const SectionTexts& TextsOf(const Game& game)
 {
@@ -49,9 +56,8 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
       pages(pageSwitch),
       model(new DrawGridModel(game, this)),
       card(new Card),
-      grid(new GridView(QLatin1String(TextsOf(game).grid), QLatin1String(TextsOf(game).title))),
-      noDraws(
-          MakeLabel(QLatin1String(TextsOf(game).noDraws), TextRole::Body, ElementName(u"Label"_s, TextsOf(game).index)))
+      grid(new GridView(TextsOf(game).grid, TextsOf(game).title)),
+      noDraws(MakeLabel(TextsOf(game).noDraws, TextRole::Body, ElementName(u"Label"_s, TextsOf(game).index)))
 {
     grid->setModel(model);
     grid->SetColumnShares(DrawGridModel::ColumnShares(game));
@@ -62,8 +68,8 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Spacing::Inside);
-    layout->addWidget(MakeLabel(QLatin1String(TextsOf(game).title), TextRole::Heading,
-                                ElementName(u"labeltitle"_s, TextsOf(game).index)));
+    layout->addWidget(
+        MakeLabel(TextsOf(game).title, TextRole::Heading, ElementName(u"labeltitle"_s, TextsOf(game).index)));
     layout->addWidget(card, 1);
     BuildButtons();
     ConnectGuarded(grid, &GridView::Opened, this, [this] { View_Click(); });
@@ -72,18 +78,16 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
 
 void DrawGridSection::BuildButtons()
 {
-    const auto name = [this](const char* action) {
-        return u"F10%1%2button"_s.arg(QLatin1String(TextsOf(game).inNames), QLatin1String(action));
-    };
-    view = new Button(u"View in Detail"_s, name("view"));
-    edit = new Button(u"Edit"_s, name("edit"));
-    remove = new Button(u"Delete"_s, name("delete"));
+    const auto name = [this](const QString& action) { return u"F10%1%2button"_s.arg(TextsOf(game).inNames, action); };
+    view = new Button(u"View in Detail"_s, name(u"view"_s));
+    edit = new Button(u"Edit"_s, name(u"edit"_s));
+    remove = new Button(u"Delete"_s, name(u"delete"_s));
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, Spacing::Inside, 0, 0);
     row->setSpacing(Spacing::Between);
     row->addStretch(1);
     for (Button* button : {view, edit, remove}) {
-        button->setAccessibleDescription(QLatin1String(TextsOf(game).title));
+        button->setAccessibleDescription(TextsOf(game).title);
         row->addWidget(button);
     }
     static_cast<QVBoxLayout*>(layout())->addLayout(row);
@@ -96,6 +100,9 @@ void DrawGridSection::Fill()
 {
     model->Fill(DrawListOf(game));
     const bool empty = model->rowCount() == 0;
+    // What vanishes or can no longer be pressed would hand the keys to the menu.
+    if (empty && isAncestorOf(window()->focusWidget()))
+        Q_EMIT Emptied();
     grid->setHidden(empty);
     noDraws->setVisible(empty);
     for (Button* button : {view, edit, remove})
@@ -112,6 +119,11 @@ bool DrawGridSection::MoveToSelectedDraw() const
         return false;
     MoveToDraw(DrawListOf(game), model->Rows()[rows.first].Mark(), "The draw could not be shown");
     return true;
+}
+
+void DrawGridSection::TakeFocus()
+{
+    (grid->isHidden() ? parentWidget() : static_cast<QWidget*>(grid))->setFocus();
 }
 
 void DrawGridSection::View_Click()
@@ -132,7 +144,7 @@ void DrawGridSection::Delete_Click()
     if (rows.Count() == 0)
         return;
     const QString question = rows.Count() == 1 ? u"delete this %1 draw?"_s : u"delete these %1 draws?"_s;
-    if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(QLatin1String(TextsOf(game).inQuestions)))) {
+    if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(TextsOf(game).inQuestions))) {
         ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
@@ -149,6 +161,8 @@ DrawGridsPage::DrawGridsPage(PageSwitch& pages)
     setAccessibleName(u"View or Edit All Draws"_s);
     Body()->addWidget(mainSection, 1);
     Body()->addWidget(thunderballSection, 1);
+    ConnectGuarded(mainSection, &DrawGridSection::Emptied, this, [this] { thunderballSection->TakeFocus(); });
+    ConnectGuarded(thunderballSection, &DrawGridSection::Emptied, this, [this] { mainSection->TakeFocus(); });
 }
 
 void DrawGridsPage::Prepare()

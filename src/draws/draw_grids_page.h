@@ -20,6 +20,12 @@ public:
 
     /// Fills the grid from the list and selects the newest draw.
     void Fill();
+    /// Gives the grid the keys, or the page where there is none.
+    void TakeFocus();
+
+Q_SIGNALS:
+    /// The section has the keys, and nothing in it can take them any more.
+    void Emptied();
 
 private:
     void BuildButtons();

@@ -86,6 +86,21 @@ private Q_SLOTS:
         }
     }
 
+    /// The focus goes to the other grid, then to the page, but never to the menu, where Enter would leave the page.
+    void FocusStaysOnThePageWhenAGridIsEmptied()
+    {
+        FiveDraws window;
+        for (const auto& [name, next] : {std::pair("F10Grid1", "F10Grid2"), {"F10Grid2", "Frame_10"}}) {
+            GridDriver grid(window, name);
+            grid.Select("keys", 0, 4);
+            window.modals.WillPress(QMessageBox::Yes);
+            window.modals.WillPress(QMessageBox::Ok);
+            grid.Press(Qt::Key_Delete);
+            window.modals.TakeTexts();
+            QCOMPARE(window.FocusedName(), QString(next));
+        }
+    }
+
     void SelectionIsKeptUntilAnotherIsMade()
     {
         FiveDraws window;
