@@ -65,7 +65,7 @@ AnalysisPage::AnalysisPage(const Game& drawGame, PageSwitch& pageSwitch)
     : PageFrame(PageOf(drawGame), {}), game(drawGame), pages(pageSwitch), shape(new ScreenFrame(this))
 {
     setAccessibleName(TitleOf(game));
-    shape->setObjectName(ControlName(PageOf(game), u"shape"_s));
+    shape->setObjectName(ControlName(u"shape"_s));
     shape->hide();
     BuildHead();
     BuildScreens();
@@ -73,8 +73,8 @@ AnalysisPage::AnalysisPage(const Game& drawGame, PageSwitch& pageSwitch)
 
 void AnalysisPage::BuildHead()
 {
-    title = MakeLabel(u"Ball Frequency"_s, TextRole::Title, ControlName(PageOf(game), u"title"_s));
-    label = MakeLabel(u"Information about this option."_s, TextRole::Body, ControlName(PageOf(game), u"label"_s));
+    title = MakeLabel(u"Ball Frequency"_s, TextRole::Title, ControlName(u"title"_s));
+    label = MakeLabel(u"Information about this option."_s, TextRole::Body, ControlName(u"label"_s));
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setForegroundRole(QPalette::PlaceholderText);
@@ -82,7 +82,7 @@ void AnalysisPage::BuildHead()
     label->setMinimumHeight(DescriptionLines * label->fontMetrics().lineSpacing());
     for (QLabel* clickable : {title, label})
         clickable->installEventFilter(this);
-    loading = MakeLabel(u"Loading..."_s, TextRole::Strong, ControlName(PageOf(game), u"loading"_s));
+    loading = MakeLabel(u"Loading..."_s, TextRole::Strong, ControlName(u"loading"_s));
     KeepingRoom(loading);
     loading->hide();
 
@@ -101,7 +101,7 @@ void AnalysisPage::BuildScreens()
     grid->setSpacing(Spacing::Page);
     int index = 0;
     for (const AnalysisScreen& described : ScreensOf(game)) {
-        auto* screen = new ScreenButton(game, described, ElementName(ControlName(PageOf(game), u"screen"_s), ++index));
+        auto* screen = new ScreenButton(game, described, ElementName(ControlName(u"screen"_s), ++index));
         grid->addWidget(screen, (index - 1) / Columns, (index - 1) % Columns);
         screens.push_back(screen);
         ConnectGuarded(screen, &ScreenButton::PointedAt, this, [this, index] { screen_MouseMove(index); });

@@ -33,13 +33,12 @@ BallDataPage::BallDataPage(const Game& drawGame)
     : PageFrame(PageOf(drawGame), u"Individual Ball Data"_s),
       game(drawGame),
       enter(new QLineEdit),
-      mainBall(MakeLabelledBall(ControlName(PageOf(game), u"ball"_s), ControlName(PageOf(game), u"number"_s), nullptr))
+      mainBall(MakeLabelledBall(ControlName(u"ball"_s), ControlName(u"number"_s), nullptr))
 {
     if (!game.extraFromSameMachine)
-        extraBall =
-            MakeLabelledBall(ControlName(PageOf(game), u"ball2"_s), ControlName(PageOf(game), u"number2"_s), nullptr);
+        extraBall = MakeLabelledBall(ControlName(u"ball2"_s), ControlName(u"number2"_s), nullptr);
     BuildCards();
-    Button* backButton = AddFooterButton(u"BACK"_s, ControlName(PageOf(game), u"back"_s));
+    Button* backButton = AddFooterButton(u"BACK"_s, ControlName(u"back"_s));
     SetBackButton(backButton);
     ConnectGuarded(enter, &QLineEdit::textChanged, this, [this] { enter_Change(); });
     ConnectGuarded(enter, &QLineEdit::returnPressed, this, [this] { enter_KeyPress(); });
@@ -49,20 +48,19 @@ BallDataPage::BallDataPage(const Game& drawGame)
 
 void BallDataPage::BuildCards()
 {
-    QLabel* subtitle =
-        MakeLabel(game.name + u" Draw"_s, TextRole::Heading, ControlName(PageOf(game), u"titlelabel2"_s));
+    QLabel* subtitle = MakeLabel(game.name + u" Draw"_s, TextRole::Heading, ControlName(u"titlelabel2"_s));
     subtitle->setForegroundRole(QPalette::PlaceholderText);
     Body()->addWidget(subtitle);
 
-    enter->setObjectName(ControlName(PageOf(game), u"enter"_s));
+    enter->setObjectName(ControlName(u"enter"_s));
     enter->setAccessibleName(u"Ball Number"_s);
     enter->setFont(FontFor(TextRole::Heading));
     enter->setAlignment(Qt::AlignCenter);
     enter->setFixedWidth(enter->fontMetrics().averageCharWidth() * 12);
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing::Between);
-    row->addWidget(MakeLabel(u"Enter"_s, TextRole::Body, ControlName(PageOf(game), u"label1"_s)));
-    row->addWidget(MakeLabel(u"Ball Number"_s, TextRole::Strong, ControlName(PageOf(game), u"label2"_s)));
+    row->addWidget(MakeLabel(u"Enter"_s, TextRole::Body, ControlName(u"label1"_s)));
+    row->addWidget(MakeLabel(u"Ball Number"_s, TextRole::Strong, ControlName(u"label2"_s)));
     row->addWidget(enter);
     row->addSpacing(Spacing::Page);
     row->addWidget(mainBall.disc);
@@ -74,10 +72,10 @@ void BallDataPage::BuildCards()
     Body()->addWidget(entryCard);
 
     auto* box = new Card;
-    box->setObjectName(ControlName(PageOf(game), u"box"_s));
+    box->setObjectName(ControlName(u"box"_s));
     for (int index = 1; index <= 4; ++index) {
         QLabel*& sentence = data.at(static_cast<size_t>(index) - 1);
-        sentence = MakeStoredTextLabel({}, TextRole::Body, ElementName(ControlName(PageOf(game), u"data"_s), index));
+        sentence = MakeStoredTextLabel({}, TextRole::Body, ElementName(ControlName(u"data"_s), index));
         sentence->setMinimumHeight(sentence->fontMetrics().lineSpacing());
         if (index == 3)
             box->Content()->addSpacing(Spacing::Cards);

@@ -154,6 +154,11 @@ LabelledBall MakeLabelledBall(const QString& discName, const QString& numberName
 {
     auto* disc = new BallDisc(parent);
     disc->setObjectName(discName);
+    return PutLabelOn(disc, numberName);
+}
+
+LabelledBall PutLabelOn(BallDisc* disc, const QString& numberName)
+{
     auto* number = new QLabel(disc);
     number->setObjectName(numberName);
     number->setTextFormat(Qt::PlainText);

@@ -52,7 +52,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// Makes a ball with a label on it. `discName` and `numberName` are their object names.
+/// A ball with a label on it.
 struct LabelledBall
 {
     BallDisc* disc;
@@ -61,4 +61,7 @@ struct LabelledBall
     /// Shows a number in the given colours.
     void Show(const QString& text, const QColor& ball, const QColor& digits) const;
 };
+
+/// Puts a label of that object name on a ball.
+LabelledBall PutLabelOn(BallDisc* disc, const QString& numberName);
 LabelledBall MakeLabelledBall(const QString& discName, const QString& numberName, QWidget* parent);

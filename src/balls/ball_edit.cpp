@@ -3,32 +3,9 @@
 #include "look/control_painting.h"
 #include "look/theme.h"
 
-#include <QApplication>
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QTimer>
-
-namespace {
-
-class PressSwallower : public QObject
-{
-public:
-    explicit PressSwallower(QObject* parent) : QObject(parent)
-    {
-        qApp->installEventFilter(this);
-        // The press is delivered in this turn of the event loop or not at all.
-        QTimer::singleShot(0, this, &QObject::deleteLater);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() != QEvent::MouseButtonPress || !watched->isWidgetType())
-            return false;
-        qApp->removeEventFilter(this);
-        return true;
-    }
-};
-
-} // namespace
 
 BallEdit::BallEdit(QWidget* parent) : TextBox(parent)
 {
@@ -58,7 +35,9 @@ void BallEdit::focusInEvent(QFocusEvent* event)
         QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
-void SwallowMousePressInProgress()
+void BallEdit::dropEvent(QDropEvent* event)
 {
-    new PressSwallower(qApp);
+    TextBox::dropEvent(event);
+    // Text that is dropped is checked like text that is typed: when the field is left.
+    setFocus(Qt::OtherFocusReason);
 }

@@ -17,11 +17,8 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     bool selectsOnFocus = false;
 };
-
-/// Makes the press of the mouse that is just being delivered do nothing: it took the focus from a field whose content
-/// was refused, and the player has not yet seen that when it goes on to press what lies under it.
-void SwallowMousePressInProgress();

@@ -6,62 +6,49 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
-#include "look/theme.h"
 
-#include <QHBoxLayout>
+#include <QApplication>
+#include <QEvent>
 #include <QTimer>
-#include <QVBoxLayout>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
-BallFields::BallFields(const Names& names, const QStringList& captions, QWidget* parent)
-    : QWidget(parent), row(new QHBoxLayout(this))
+namespace {
+
+/// While it lives, no press of the mouse and no key does anything.
+class InputPause : public QObject
 {
-    row->setContentsMargins(0, 0, 0, 0);
-    // The balls bring room for their shadows and their rings.
-    row->setSpacing(0);
-    for (int slot = 0; slot < captions.size(); ++slot) {
-        const int index = names.indices.at(static_cast<size_t>(slot));
-        auto* disc = new BallDisc(this);
-        disc->setObjectName(ElementName(names.disc, index));
-        auto* field = new BallEdit(disc);
-        field->setObjectName(ElementName(names.field, index));
-        disc->Carry(field);
-        QLabel* caption =
-            MakeLabel(captions[slot], TextRole::Caption, ElementName(names.caption, names.firstCaption + slot));
-        caption->setAlignment(Qt::AlignCenter);
-        fields.push_back(field);
-        discs.push_back(disc);
-        captionLabels.push_back(caption);
-        SetCaption(slot, captions[slot]);
-        if (slot + 1 == captions.size()) {
-            gap = new BallDivider(this);
-            row->addWidget(gap);
-        }
-        auto* column = new QVBoxLayout;
-        column->setSpacing(Spacing::Inside);
-        column->addWidget(disc, 0, Qt::AlignHCenter | Qt::AlignTop);
-        column->addWidget(caption, 0, Qt::AlignHCenter);
-        row->addLayout(column);
-        ConnectGuarded(field, &BallEdit::Left, this, [this, slot](bool byMouse) { FieldLeft(slot, byMouse); });
-        ConnectGuarded(field, &BallEdit::EnterPressed, this, [this, slot] {
-            if (slot + 1 < Count())
-                FocusField(slot + 1);
-            else
-                Q_EMIT Completed();
-        });
+public:
+    InputPause() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        return event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress ||
+               event->type() == QEvent::Shortcut;
     }
-    row->addStretch(1);
+};
+
+} // namespace
+
+BallFields::BallFields(const Names& names, const QStringList& captionTexts, QWidget* parent)
+    : BallLine(names, captionTexts, parent), givenTexts(static_cast<size_t>(captionTexts.size()))
+{
+    for (int slot = 0; slot < Count(); ++slot) {
+        auto* field = new BallEdit(Disc(slot));
+        field->setObjectName(ElementName(names.number, names.indices.at(static_cast<size_t>(slot))));
+        Disc(slot)->Carry(field);
+        fields.push_back(field);
+        SetCaption(slot, captionTexts[slot]);
+        ConnectGuarded(field, &BallEdit::EnterPressed, this, [this, slot] { EnterPressed(slot); });
+        ConnectGuarded(field, &BallEdit::Left, this, [this, slot] { FieldLeft(slot); });
+    }
 }
 
 QString BallFields::Text(int slot) const
 {
     return Field(slot)->text();
-}
-
-void BallFields::SetText(int slot, const QString& text)
-{
-    Field(slot)->setText(text);
 }
 
 double BallFields::NumberIn(int slot) const
@@ -85,6 +72,19 @@ EntryNumbers BallFields::TypedEntry() const
     return numbers;
 }
 
+void BallFields::SetText(int slot, const QString& text)
+{
+    givenTexts.at(static_cast<size_t>(slot)) = text;
+    Field(slot)->setText(text);
+}
+
+void BallFields::Show(std::span<const double> numbers)
+{
+    for (int slot = 0; slot < Count(); ++slot)
+        SetText(slot, PlainNumber(numbers[static_cast<size_t>(slot)]));
+    Recolour();
+}
+
 void BallFields::Sort(int count)
 {
     bool exchanged = true;
@@ -99,18 +99,13 @@ void BallFields::Sort(int count)
             exchanged = true;
         }
     }
-}
-
-void BallFields::Recolour()
-{
-    for (int slot = 0; slot < Count(); ++slot)
-        SetColours(slot, CheckBallField(rule, slot, Text(slot)).colours);
+    Recolour();
 }
 
 void BallFields::Clear()
 {
-    for (BallEdit* field : fields)
-        field->clear();
+    for (int slot = 0; slot < Count(); ++slot)
+        SetText(slot, {});
     Recolour();
 }
 
@@ -132,28 +127,64 @@ void BallFields::SelectTextOnFocus()
         field->SelectTextOnFocus();
 }
 
-void BallFields::SetLastApart(bool apart)
+void BallFields::EnterPressed(int slot)
 {
-    gap->setVisible(apart);
+    if (slot + 1 < Count())
+        FocusField(slot + 1);
+    else
+        Q_EMIT Completed();
 }
 
-void BallFields::FieldLeft(int slot, bool byMouse)
+BallFieldVerdict BallFields::Check(int slot) const
 {
-    const BallFieldVerdict verdict = CheckBallField(rule, slot, Text(slot));
-    SetColours(slot, verdict.colours);
-    if (!verdict.IsRefused())
-        return;
-    if (byMouse)
-        SwallowMousePressInProgress();
-    // The message waits until the focus has arrived where it was going: a box opened in between would lose it.
-    QTimer::singleShot(0, this, [this, slot, verdict] {
-        if (!isVisible())
-            return;
-        ShowMessage(verdict.message);
-        Field(slot)->clear();
+    const QString text = Text(slot);
+    if (!text.isEmpty() && text == givenTexts.at(static_cast<size_t>(slot)))
+        return {ColoursOfBall(*rule.game, slot, NumberIn(slot)), {}};
+    return CheckBallField(rule, slot, text);
+}
+
+void BallFields::FieldLeft(int slot)
+{
+    const BallFieldVerdict verdict = Check(slot);
+    if (!verdict.IsRefused()) {
         SetColours(slot, verdict.colours);
-        FocusField(slot);
+        return;
+    }
+    // The message waits until the focus has arrived where it was going: a box opened in between would lose it. Until
+    // then nothing is pressed, neither by the click that left the field nor by keys that were typed ahead.
+    QTimer::singleShot(0, this, [this, slot, verdict, pause = std::make_shared<InputPause>()]() mutable {
+        pause.reset();
+        if (isVisible())
+            TellRefusal(slot, verdict);
     });
+}
+
+void BallFields::TellRefusal(int slot, const BallFieldVerdict& verdict)
+{
+    if (rule.greyBeforeMessage)
+        SetColours(slot, verdict.colours);
+    ShowMessage(verdict.message);
+    SetText(slot, {});
+    SetColours(slot, verdict.colours);
+    FocusField(slot);
+}
+
+bool BallFields::AreAccepted()
+{
+    for (int slot = 0; slot < Count(); ++slot) {
+        const BallFieldVerdict verdict = Check(slot);
+        if (!verdict.IsRefused())
+            continue;
+        TellRefusal(slot, verdict);
+        return false;
+    }
+    return true;
+}
+
+void BallFields::Recolour()
+{
+    for (int slot = 0; slot < Count(); ++slot)
+        SetColours(slot, Check(slot).colours);
 }
 
 void BallFields::SetColours(int slot, const BallColours& colours)

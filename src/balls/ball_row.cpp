@@ -4,37 +4,12 @@
 #include "controls/label.h"
 #include "game/ball_colours.h"
 #include "game/game.h"
-#include "look/theme.h"
 
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-
-BallRow::BallRow(const BallFields::Names& names, const QStringList& captions, QWidget* parent) : QWidget(parent)
+BallRow::BallRow(const Names& names, const QStringList& captionTexts, QWidget* parent)
+    : BallLine(names, captionTexts, parent)
 {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    // The balls bring room for their shadows and their rings.
-    row->setSpacing(0);
-    for (int slot = 0; slot < captions.size(); ++slot) {
-        const int index = names.indices.at(static_cast<size_t>(slot));
-        balls.push_back(MakeLabelledBall(ElementName(names.disc, index), ElementName(names.field, index), this));
-        if (slot + 1 == captions.size()) {
-            gap = new BallDivider(this);
-            row->addWidget(gap);
-        }
-        auto* column = new QVBoxLayout;
-        column->setSpacing(Spacing::Inside);
-        column->addWidget(balls.back().disc, 0, Qt::AlignHCenter | Qt::AlignTop);
-        if (!names.caption.isEmpty()) {
-            captionLabels.push_back(
-                MakeLabel(captions[slot], TextRole::Caption, ElementName(names.caption, slot), this));
-            // With a large font the captions are wider than the balls, and must not run together.
-            captionLabels.back()->setContentsMargins(Spacing::Inside / 2, 0, Spacing::Inside / 2, 0);
-            column->addWidget(captionLabels.back(), 0, Qt::AlignHCenter);
-        }
-        row->addLayout(column);
-    }
-    row->addStretch(1);
+    for (int slot = 0; slot < Count(); ++slot)
+        balls.push_back(PutLabelOn(Disc(slot), ElementName(names.number, names.indices.at(static_cast<size_t>(slot)))));
 }
 
 void BallRow::Show(const Game& game, std::span<const double> numbers)

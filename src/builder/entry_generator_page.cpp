@@ -15,7 +15,7 @@
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
-#include "store/user_records.h"
+#include "users/user_choice.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -80,15 +80,8 @@ void EntryGeneratorPage::Prepare()
 {
     steps.Begin();
     ShowBuilt({});
-    F26combo[0]->clear();
-    const std::vector<UserRow> allUsers = ReadAllUsers(users);
-    if (allUsers.empty()) {
-        pages.ChooseMenu(3, 1);
-        ShowMessage(u"You cannot store entries until you have created a user profile."_s);
+    if (FillUserList(F26combo[0], pages, u"You cannot store entries until you have created a user profile."_s).empty())
         return;
-    }
-    for (const UserRow& user : allUsers)
-        F26combo[0]->addItem(user.name);
     F26combo[0]->setCurrentIndex(-1);
     F26combo[1]->clear();
     for (const BuildType& type : BuildTypes)

@@ -24,11 +24,6 @@ QLabel* MakeStoredTextLabel(const QString& text, TextRole role, const QString& n
     return label;
 }
 
-QString ControlName(int page, const QString& control)
-{
-    return u"F%1%2"_s.arg(page).arg(control);
-}
-
 QString ElementName(const QString& array, int index)
 {
     return array + u'_' + QString::number(index);

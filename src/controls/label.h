@@ -10,8 +10,5 @@ QLabel* MakeLabel(const QString& text, TextRole role, const QString& name = {}, 
 /// The same for a text of the files, which may be of any length: the label breaks it and never widens its page.
 QLabel* MakeStoredTextLabel(const QString& text, TextRole role, const QString& name);
 
-/// The name of a page's control: "F21title" for page 21 and "title".
-QString ControlName(int page, const QString& control);
-
 /// The name of element `index` of a control array.
 QString ElementName(const QString& array, int index);

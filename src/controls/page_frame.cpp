@@ -4,10 +4,8 @@
 #include "look/button.h"
 #include "look/theme.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -32,7 +30,7 @@ public:
 };
 
 PageFrame::PageFrame(int pageNumber, const QString& title, const QString& titleName)
-    : sheet(new PageLayout(this)), body(new QVBoxLayout), footer(new QHBoxLayout)
+    : number(pageNumber), sheet(new PageLayout(this)), body(new QVBoxLayout), footer(new QHBoxLayout)
 {
     setObjectName(ElementName(u"Frame"_s, pageNumber));
     setAccessibleName(title);
@@ -68,6 +66,11 @@ void PageFrame::ShowInFront()
     raise();
     if (back != nullptr)
         back->setFocus();
+}
+
+QString PageFrame::ControlName(const QString& name) const
+{
+    return u'F' + QString::number(number) + name;
 }
 
 void PageFrame::PutFooterLastInTabOrder()
@@ -106,11 +109,5 @@ void PageFrame::keyPressEvent(QKeyEvent* event)
         QFrame::keyPressEvent(event);
         return;
     }
-    // As with the mouse, a field is left and checked before the button is pressed; one that is refused keeps the focus.
-    // Its message box is open by then, but the focus may still be on its way there.
-    back->setFocus();
-    QTimer::singleShot(0, back, [button = back] {
-        if (button->hasFocus() && QApplication::activeModalWidget() == nullptr)
-            button->click();
-    });
+    PressByKey(*back);
 }

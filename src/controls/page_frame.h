@@ -32,6 +32,8 @@ Q_SIGNALS:
     void Stored();
 
 protected:
+    /// The object name of a control of this page: "F", the page's index and the name.
+    QString ControlName(const QString& name) const;
     QVBoxLayout* Body() const { return body; }
     /// Puts the buttons right under the body, which keeps its own height, and gives both a measure that the eye can
     /// follow on a large screen. To be called when the body is complete.
@@ -45,6 +47,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    int number;
     Button* back = nullptr;
     PageLayout* sheet;
     QVBoxLayout* body;

@@ -22,5 +22,5 @@ void TextBox::focusOutEvent(QFocusEvent* event)
     const bool goneForGood = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
                              reason != Qt::MenuBarFocusReason && isVisible();
     if (goneForGood)
-        Q_EMIT Left(reason == Qt::MouseFocusReason);
+        Q_EMIT Left();
 }

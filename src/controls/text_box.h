@@ -14,8 +14,8 @@ public:
 Q_SIGNALS:
     /// The Enter key was pressed.
     void EnterPressed();
-    /// The focus went to another control of the window. `byMouse` when a press of the mouse took it.
-    void Left(bool byMouse);
+    /// The focus went to another control of the window.
+    void Left();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

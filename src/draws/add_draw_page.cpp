@@ -1,5 +1,7 @@
 #include "draws/add_draw_page.h"
 
+#include "balls/ball_fields.h"
+#include "balls/ball_names.h"
 #include "controls/card.h"
 #include "controls/card_row.h"
 #include "controls/guard.h"
@@ -25,54 +27,64 @@ namespace {
 struct PageTexts
 {
     int page;
-    const char* title;
-    const char* titleName;
-    const char* calendar;
-    const char* field;
-    const char* disc;
-    const char* caption;
-    const char* frame;
-    const char* gameInQuestion;
-    const char* stored;
+    QString title;
+    QString titleName;
+    QString calendar;
+    QString field;
+    QString disc;
+    QString caption;
+    QString firstCaption;
+    QString frame;
+    QString gameInQuestion;
+    QString stored;
 };
 
-constexpr PageTexts MainTexts{6,         "Main Draw", "Label1",  "F6Cal", "F6MBall1",
-                              "F6MBall", "F6Mlabel",  "F6FMain", "main",  "The new main draw data has been stored."};
-constexpr PageTexts ThunderballTexts{
-    7,         "Thunderball Draw", "Label2",     "F7cal",       "F7TBall1",
-    "F7TBall", "F7Tlabel",         "F7FThunder", "thunderball", "The new Thunderball draw data has been stored."};
+const PageTexts MainTexts{6,
+                          u"Main Draw"_s,
+                          u"Label1"_s,
+                          u"F6Cal"_s,
+                          u"F6MBall1"_s,
+                          u"F6MBall"_s,
+                          u"F6Mlabel"_s,
+                          u"F6Mlabel_0"_s,
+                          u"F6FMain"_s,
+                          u"main"_s,
+                          u"The new main draw data has been stored."_s};
+const PageTexts ThunderballTexts{7,
+                                 u"Thunderball Draw"_s,
+                                 u"Label2"_s,
+                                 u"F7cal"_s,
+                                 u"F7TBall1"_s,
+                                 u"F7TBall"_s,
+                                 u"F7Tlabel"_s,
+                                 u"F7Tabel"_s,
+                                 u"F7FThunder"_s,
+                                 u"thunderball"_s,
+                                 u"The new Thunderball draw data has been stored."_s};
 
 const PageTexts& TextsOf(const Game& game)
 {
     return game.IsMain() ? MainTexts : ThunderballTexts;
 }
 
-QString ControlName(const Game& game, const char* name)
-{
-    return u"F%1%2"_s.arg(TextsOf(game).page).arg(QLatin1String(name));
-}
-
 } // namespace
 
 AddDrawPage::AddDrawPage(const Game& drawGame)
-    : PageFrame(TextsOf(drawGame).page, QLatin1String(TextsOf(drawGame).title),
-                QLatin1String(TextsOf(drawGame).titleName)),
+    : PageFrame(TextsOf(drawGame).page, TextsOf(drawGame).title, TextsOf(drawGame).titleName),
       game(drawGame),
       calendar(new MonthCalendar),
-      balls(new BallFields(DrawFieldNames(game, QLatin1String(TextsOf(game).field), QLatin1String(TextsOf(game).disc),
-                                          QLatin1String(TextsOf(game).caption)),
+      balls(new BallFields(DrawBallNames(game, TextsOf(game).field, TextsOf(game).disc, TextsOf(game).caption),
                            DrawBallCaptions(game)))
 {
-    calendar->setObjectName(QLatin1String(TextsOf(game).calendar));
+    calendar->setObjectName(TextsOf(game).calendar);
     balls->SetRule(AddingRule(game));
-    if (!game.hasMachine)
-        balls->Caption(0)->setObjectName(u"F7Tabel"_s);
+    balls->Caption(0)->setObjectName(TextsOf(game).firstCaption);
     BuildCards();
-    reset = AddFooterButton(u"Reset"_s, ControlName(game, "Reset"));
-    store = AddFooterDefault(u"Store"_s, ControlName(game, "Store"));
+    reset = AddFooterButton(u"Reset"_s, ControlName(u"Reset"_s));
+    store = AddFooterDefault(u"Store"_s, ControlName(u"Store"_s));
     ConnectGuarded(calendar, &MonthCalendar::DateChosen, this, [this] { balls->FocusField(0); });
     ConnectGuarded(balls, &BallFields::Completed, this, [this] {
-        (machine != nullptr ? static_cast<QWidget*>(machine) : store)->setFocus(Qt::TabFocusReason);
+        (machines != nullptr ? static_cast<QWidget*>(machines) : store)->setFocus(Qt::TabFocusReason);
     });
     ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Prepare(); });
     ConnectGuarded(store, &QPushButton::clicked, this, [this] { Store_Click(); });
@@ -84,13 +96,12 @@ void AddDrawPage::BuildCards()
     dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(calendar);
     auto* drawCard = new Card;
-    drawCard->setObjectName(QLatin1String(TextsOf(game).frame));
+    drawCard->setObjectName(TextsOf(game).frame);
     drawCard->Content()->addWidget(balls);
     if (game.hasMachine) {
-        machine = MakeEditableList(ControlName(game, "Mmachine"), u"Machine"_s);
-        ballSet = MakeEditableList(ControlName(game, "Mballset"), u"Set of Balls"_s);
+        machines = new MachineFields(ControlName(u"Mmachine"_s), ControlName(u"Mballset"_s), TextsOf(game).caption);
         drawCard->Content()->addSpacing(Spacing::Between);
-        drawCard->Content()->addLayout(MakeMachineForm(machine, ballSet, QLatin1String(TextsOf(game).caption)));
+        drawCard->Content()->addWidget(machines);
     }
     drawCard->Content()->addStretch(1);
     auto* cards = new CardRow;
@@ -102,10 +113,8 @@ void AddDrawPage::BuildCards()
 
 void AddDrawPage::Prepare()
 {
-    if (game.hasMachine) {
-        RefillList(machine, MachineNames);
-        RefillList(ballSet, BallSetNames);
-    }
+    if (machines != nullptr)
+        machines->Show({}, {});
     show();
     balls->Clear();
     balls->FocusField(0);
@@ -119,13 +128,12 @@ void AddDrawPage::Store_Click()
         return;
     }
     balls->Sort(game.mainBalls);
-    balls->Recolour();
     if (!StoreDraw(ReadControls())) {
         ShowMessage(u"The data has NOT been stored."_s);
         return;
     }
     Prepare();
-    ShowMessage(QLatin1String(TextsOf(game).stored));
+    ShowMessage(TextsOf(game).stored);
 }
 
 EnteredDraw AddDrawPage::ReadControls() const
@@ -133,10 +141,8 @@ EnteredDraw AddDrawPage::ReadControls() const
     EnteredDraw draw;
     draw.date = calendar->selectedDate();
     draw.balls = balls->TypedDraw();
-    if (game.hasMachine) {
-        draw.machine = machine->currentText();
-        draw.ballSet = ballSet->currentText();
-    }
+    if (machines != nullptr)
+        machines->Read(draw);
     return draw;
 }
 
@@ -144,7 +150,7 @@ bool AddDrawPage::StoreDraw(const EnteredDraw& draw)
 {
     auto choice = DrawPromptChoice::AddNewDraw;
     if (FindDrawByDate(DrawsOf(game), draw.date)) {
-        DrawPrompt frmmsgbox1(QLatin1String(TextsOf(game).gameInQuestion), this);
+        DrawPrompt frmmsgbox1(TextsOf(game).gameInQuestion, this);
         frmmsgbox1.exec();
         choice = frmmsgbox1.MsgBoxChoice();
     }

@@ -6,8 +6,8 @@
 #include <optional>
 
 class BallFields;
+class MachineFields;
 class MonthCalendar;
-class QComboBox;
 struct Game;
 
 /// Pages 6 and 7: the result of a draw of the game is typed in, checked and stored.
@@ -32,8 +32,8 @@ private:
     const Game& game;
     MonthCalendar* calendar;
     BallFields* balls;
-    QComboBox* machine = nullptr;
-    QComboBox* ballSet = nullptr;
+    /// In the Main game only.
+    MachineFields* machines = nullptr;
     Button* reset;
     Button* store;
 };

@@ -20,9 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString ControlName(const Game& game, const char* name)
+QString ControlName(const Game& game, const QString& name)
 {
-    return u"F9%1%2"_s.arg(game.name.at(0)).arg(QLatin1String(name));
+    return (game.IsMain() ? u"F9M"_s : u"F9T"_s) + name;
 }
 
 QString GameInSentence(const Game& game)
@@ -39,17 +39,18 @@ BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
       card(new Card(parent)),
       frame(new QFrame(card)),
       draw(new DrawView(game,
-                        {QString(), ControlName(game, "ballnum"), ControlName(game, "ball"), ControlName(game, "label"),
-                         ControlName(game, "machine"), ControlName(game, "setofballs")},
+                        {QString(), ControlName(game, u"ballnum"_s), ControlName(game, u"ball"_s),
+                         ControlName(game, u"label"_s), ControlName(game, u"machine"_s),
+                         ControlName(game, u"setofballs"_s)},
                         {u"Machine:  "_s, u"Set of balls:  "_s})),
       noDraw(MakeLabel(u"There was no %1 draw on this date."_s.arg(GameInSentence(game)), TextRole::Body,
-                       ControlName(game, "nodraw"), card)),
-      back(new Button(u"<"_s, ControlName(game, "back"), card)),
-      forward(new Button(u">"_s, ControlName(game, "forward"), card))
+                       ControlName(game, u"nodraw"_s), card)),
+      back(new Button(u"<"_s, ControlName(game, u"back"_s), card)),
+      forward(new Button(u">"_s, ControlName(game, u"forward"_s), card))
 {
     draw->Balls()->MakeCompact();
     AddArrows();
-    frame->setObjectName(ControlName(game, "frame"));
+    frame->setObjectName(ControlName(game, u"frame"_s));
     auto* framed = new QVBoxLayout(frame);
     framed->setContentsMargins(0, 0, 0, 0);
     framed->addWidget(draw);
@@ -65,7 +66,7 @@ void BrowserSection::AddArrows()
 {
     auto* heading = new QHBoxLayout;
     heading->addWidget(MakeLabel(game.IsMain() ? u"Main Draw"_s : u"Thunderball Draw"_s, TextRole::Heading,
-                                 ControlName(game, "labelmain")),
+                                 ControlName(game, u"labelmain"_s)),
                        1);
     for (Button* arrow : {back, forward}) {
         KeepingRoom(arrow);

@@ -24,21 +24,16 @@ QString TitleOf(const Game& game)
     return game.IsMain() ? u"Main Lottery Draw"_s : u"Thunderball Draw"_s;
 }
 
-QString ControlName(const Game& game, const char* name)
-{
-    return u"F%1%2"_s.arg(PageOf(game)).arg(QLatin1String(name));
-}
-
 } // namespace
 
 DrawDetailPage::DrawDetailPage(const Game& drawGame)
     : PageFrame(PageOf(drawGame), TitleOf(drawGame)),
       game(drawGame),
       draw(new DrawView(game,
-                        {ControlName(game, "date"), ControlName(game, "number"), ControlName(game, "ball"),
-                         ControlName(game, "label"), ControlName(game, "machine"), ControlName(game, "ballset")},
+                        {ControlName(u"date"_s), ControlName(u"number"_s), ControlName(u"ball"_s),
+                         ControlName(u"label"_s), ControlName(u"machine"_s), ControlName(u"ballset"_s)},
                         {u"Machine used: "_s, u"Set of balls used: "_s})),
-      back(AddFooterButton(u"BACK"_s, ControlName(game, "back")))
+      back(AddFooterButton(u"BACK"_s, ControlName(u"back"_s)))
 {
     auto* card = new Card;
     card->Content()->addWidget(draw);
@@ -53,5 +48,4 @@ void DrawDetailPage::Prepare()
 {
     draw->Show(ReadDraw(DrawListOf(game), game));
     ShowInFront();
-    back->setFocus();
 }

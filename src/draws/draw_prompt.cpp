@@ -18,15 +18,15 @@ DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent)
                                 TextRole::Body, u"Label1"_s));
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing::Between);
-    const auto add = [&](const char* caption, const char* name, DrawPromptChoice chosen) {
-        auto* button = new Button(QLatin1String(caption), QLatin1String(name));
+    const auto add = [&](const QString& caption, const QString& name, DrawPromptChoice chosen) {
+        auto* button = new Button(caption, name);
         connect(button, &QPushButton::clicked, this, [this, chosen] { Choose(chosen); });
         row->addWidget(button);
         return button;
     };
-    add("Add New Draw", "Command1", DrawPromptChoice::AddNewDraw);
-    add("Overwrite Existing Draw", "Command2", DrawPromptChoice::OverwriteExistingDraw);
-    Button* cancel = add("Cancel", "Command3", DrawPromptChoice::Cancel);
+    add(u"Add New Draw"_s, u"Command1"_s, DrawPromptChoice::AddNewDraw);
+    add(u"Overwrite Existing Draw"_s, u"Command2"_s, DrawPromptChoice::OverwriteExistingDraw);
+    Button* cancel = add(u"Cancel"_s, u"Command3"_s, DrawPromptChoice::Cancel);
     cancel->setDefault(true);
     cancel->setFocus();
     layout->addLayout(row);

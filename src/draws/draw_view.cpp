@@ -1,10 +1,10 @@
 #include "draws/draw_view.h"
 
+#include "balls/ball_names.h"
 #include "balls/ball_row.h"
 #include "base/dates.h"
 #include "base/texts.h"
 #include "controls/label.h"
-#include "draws/machine_fields.h"
 #include "game/game.h"
 #include "look/theme.h"
 
@@ -16,7 +16,7 @@ DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& tex
     : QWidget(parent),
       game(drawGame),
       prefixes(textPrefixes),
-      balls(new BallRow(DrawFieldNames(game, names.number, names.disc, names.caption), DrawBallCaptions(game)))
+      balls(new BallRow(DrawBallNames(game, names.number, names.disc, names.caption), DrawBallCaptions(game)))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,7 +1,8 @@
 #include "draws/edit_draw_page.h"
 
+#include "balls/ball_fields.h"
+#include "balls/ball_names.h"
 #include "base/dates.h"
-#include "base/numbers.h"
 #include "base/texts.h"
 #include "controls/card.h"
 #include "controls/guard.h"
@@ -15,7 +16,7 @@
 #include "store/draw_changes.h"
 #include "store/open_databases.h"
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -25,14 +26,14 @@ namespace {
 struct PageTexts
 {
     int page;
-    const char* title;
-    const char* back;
-    const char* stored;
+    QString title;
+    QString back;
+    QString stored;
 };
 
-constexpr PageTexts MainTexts{16, "Edit Main Draw", "Go Back", "The edited main draw data has been stored."};
-constexpr PageTexts ThunderballTexts{17, "Edit Thunderball Draw", "Back",
-                                     "The edited thunderball draw data has been stored."};
+const PageTexts MainTexts{16, u"Edit Main Draw"_s, u"Go Back"_s, u"The edited main draw data has been stored."_s};
+const PageTexts ThunderballTexts{17, u"Edit Thunderball Draw"_s, u"Back"_s,
+                                 u"The edited thunderball draw data has been stored."_s};
 constexpr int AllDrawsPage = 10;
 
 const PageTexts& TextsOf(const Game& game)
@@ -40,31 +41,26 @@ const PageTexts& TextsOf(const Game& game)
     return game.IsMain() ? MainTexts : ThunderballTexts;
 }
 
-QString ControlName(const Game& game, const char* name)
-{
-    return u"F%1%2"_s.arg(TextsOf(game).page).arg(QLatin1String(name));
-}
-
 } // namespace
 
 EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
-    : PageFrame(TextsOf(drawGame).page, QLatin1String(TextsOf(drawGame).title)),
+    : PageFrame(TextsOf(drawGame).page, TextsOf(drawGame).title),
       game(drawGame),
       pages(pageSwitch),
-      date(MakeStoredTextLabel(QString(), TextRole::Heading, ControlName(game, "date"))),
+      date(MakeStoredTextLabel(QString(), TextRole::Heading, ControlName(u"date"_s))),
       balls(new BallFields(
-          DrawFieldNames(game, ControlName(game, "number"), ControlName(game, "ball"), ControlName(game, "entrylabel")),
+          DrawBallNames(game, ControlName(u"number"_s), ControlName(u"ball"_s), ControlName(u"entrylabel"_s)),
           DrawBallCaptions(game))),
-      back(AddFooterButton(QLatin1String(TextsOf(game).back), ControlName(game, "back"))),
-      reset(AddFooterButton(u"Reset"_s, ControlName(game, "reset"))),
-      save(AddFooterDefault(u"Save Changes"_s, ControlName(game, "save")))
+      back(AddFooterButton(TextsOf(game).back, ControlName(u"back"_s))),
+      reset(AddFooterButton(u"Reset"_s, ControlName(u"reset"_s))),
+      save(AddFooterDefault(u"Save Changes"_s, ControlName(u"save"_s)))
 {
     balls->SetRule(DrawEditingRule(game));
     balls->SelectTextOnFocus();
     BuildCard();
     SetBackButton(back);
     ConnectGuarded(balls, &BallFields::Completed, this, [this] {
-        (machine != nullptr ? static_cast<QWidget*>(machine) : save)->setFocus(Qt::TabFocusReason);
+        (machines != nullptr ? static_cast<QWidget*>(machines) : save)->setFocus(Qt::TabFocusReason);
     });
     ConnectGuarded(save, &QPushButton::clicked, this, [this] { Save_Click(); });
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
@@ -77,10 +73,10 @@ void EditDrawPage::BuildCard()
     card->Content()->addWidget(date);
     card->Content()->addWidget(balls);
     if (game.hasMachine) {
-        machine = MakeEditableList(ControlName(game, "machine"), u"Machine"_s);
-        ballSet = MakeEditableList(ControlName(game, "ballset"), u"Set of Balls"_s);
+        machines =
+            new MachineFields(ControlName(u"machine"_s), ControlName(u"ballset"_s), ControlName(u"entrylabel"_s));
         card->Content()->addSpacing(Spacing::Between);
-        card->Content()->addLayout(MakeMachineForm(machine, ballSet, ControlName(game, "entrylabel")));
+        card->Content()->addWidget(machines);
     }
     Body()->addWidget(card);
     MakeForm();
@@ -92,15 +88,9 @@ void EditDrawPage::Prepare()
     shown = list.Mark();
     const DrawRow draw = ReadDraw(list, game);
     date->setText(LongStoredDate(draw.date));
-    for (int slot = 0; slot < game.BallCount(); ++slot)
-        balls->SetText(slot, PlainNumber(draw.balls.at(static_cast<size_t>(slot))));
-    balls->Recolour();
-    if (game.hasMachine) {
-        RefillList(machine, MachineNames);
-        RefillList(ballSet, BallSetNames);
-        machine->setEditText(FromUtf8(draw.machine));
-        ballSet->setEditText(FromUtf8(draw.ballSet));
-    }
+    balls->Show(draw.balls);
+    if (machines != nullptr)
+        machines->Show(FromUtf8(draw.machine), FromUtf8(draw.ballSet));
     ShowInFront();
     balls->FocusField(0);
 }
@@ -129,9 +119,8 @@ void EditDrawPage::Save_Click()
         return;
     }
     balls->Sort(game.mainBalls);
-    balls->Recolour();
     ChangeDraw(game, shown, ReadControls());
-    ShowMessage(QLatin1String(TextsOf(game).stored));
+    ShowMessage(TextsOf(game).stored);
     hide();
     pages.Page(AllDrawsPage)->hide();
     pages.ShowPage(AllDrawsPage);
@@ -141,9 +130,7 @@ EnteredDraw EditDrawPage::ReadControls() const
 {
     EnteredDraw draw;
     draw.balls = balls->TypedDraw();
-    if (game.hasMachine) {
-        draw.machine = machine->currentText();
-        draw.ballSet = ballSet->currentText();
-    }
+    if (machines != nullptr)
+        machines->Read(draw);
     return draw;
 }

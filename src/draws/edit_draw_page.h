@@ -6,8 +6,8 @@
 #include <QLabel>
 
 class BallFields;
+class MachineFields;
 class PageSwitch;
-class QComboBox;
 struct EnteredDraw;
 struct Game;
 
@@ -38,8 +38,8 @@ private:
     Bookmark shown;
     QLabel* date;
     BallFields* balls;
-    QComboBox* machine = nullptr;
-    QComboBox* ballSet = nullptr;
+    /// In the Main game only.
+    MachineFields* machines = nullptr;
     Button* back;
     Button* reset;
     Button* save;

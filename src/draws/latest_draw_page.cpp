@@ -22,32 +22,32 @@ namespace {
 struct SectionTexts
 {
     int index;
-    const char* title;
-    const char* box;
-    const char* blank;
-    const char* noDrawsName;
-    const char* noDraws;
+    QString title;
+    QString box;
+    QString blank;
+    QString noDrawsName;
+    QString noDraws;
     DrawView::Names names;
 };
 
+const SectionTexts MainTexts{0,
+                             u"Main Draw"_s,
+                             u"F8Mbox"_s,
+                             u"blankshapem"_s,
+                             u"Label4"_s,
+                             u"There are no main draws stored."_s,
+                             {u"F8Mdate"_s, u"F8Mnumber"_s, u"F8Mball"_s, {}, u"F8Mmachine"_s, u"F8Mballset"_s}};
+const SectionTexts ThunderballTexts{1,
+                                    u"Thunderball Draw"_s,
+                                    u"F8Tbox"_s,
+                                    u"blankshapet"_s,
+                                    u"Label5"_s,
+                                    u"There are no thunderball draws stored."_s,
+                                    {u"F8Tdate"_s, u"F8Tnumber"_s, u"F8Tball"_s, {}, {}, {}}};
+
 const SectionTexts& TextsOf(const Game& game)
 {
-    static const SectionTexts mainTexts{
-        0,
-        "Main Draw",
-        "F8Mbox",
-        "blankshapem",
-        "Label4",
-        "There are no main draws stored.",
-        {u"F8Mdate"_s, u"F8Mnumber"_s, u"F8Mball"_s, QString(), u"F8Mmachine"_s, u"F8Mballset"_s}};
-    static const SectionTexts thunderballTexts{1,
-                                               "Thunderball Draw",
-                                               "F8Tbox",
-                                               "blankshapet",
-                                               "Label5",
-                                               "There are no thunderball draws stored.",
-                                               {u"F8Tdate"_s, u"F8Tnumber"_s, u"F8Tball"_s, {}, {}, {}}};
-    return game.IsMain() ? mainTexts : thunderballTexts;
+    return game.IsMain() ? MainTexts : ThunderballTexts;
 }
 
 } // namespace
@@ -69,19 +69,18 @@ LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
     const SectionTexts& texts = TextsOf(game);
     Section section{};
     section.card = new Card(this);
-    section.card->setObjectName(QLatin1String(texts.box));
+    section.card->setObjectName(texts.box);
     section.card->Content()->addWidget(
-        MakeLabel(QLatin1String(texts.title), TextRole::Caption, ElementName(u"F8label"_s, texts.index)));
+        MakeLabel(texts.title, TextRole::Caption, ElementName(u"F8label"_s, texts.index)));
     section.draw = new DrawView(game, texts.names, {u"Machine: "_s, u"Set of balls: "_s}, section.card);
     section.draw->Balls()->MakeCompact();
     KeepingRoom(section.draw);
 
     section.blank = new QFrame(section.card);
-    section.blank->setObjectName(QLatin1String(texts.blank));
+    section.blank->setObjectName(texts.blank);
     section.blank->setBackgroundRole(QPalette::AlternateBase);
     section.blank->setAutoFillBackground(true);
-    section.noDraws =
-        MakeLabel(QLatin1String(texts.noDraws), TextRole::Body, QLatin1String(texts.noDrawsName), section.card);
+    section.noDraws = MakeLabel(texts.noDraws, TextRole::Body, texts.noDrawsName, section.card);
     section.noDraws->setAlignment(Qt::AlignCenter);
     section.noDraws->setWordWrap(true);
 

@@ -3,29 +3,16 @@
 #include "controls/label.h"
 #include "game/game.h"
 #include "look/theme.h"
+#include "store/draw_records.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 
 using namespace Qt::StringLiterals;
 
-BallFields::Names DrawFieldNames(const Game& game, const QString& field, const QString& disc, const QString& caption)
-{
-    BallFields::Names names{field, disc, caption, {}};
-    for (int slot = 0; slot < game.BallCount(); ++slot)
-        names.indices.push_back(game.IsExtra(slot) ? 0 : slot + 1);
-    return names;
-}
+namespace {
 
-QStringList DrawBallCaptions(const Game& game)
-{
-    QStringList captions;
-    for (int slot = 0; slot < game.BallCount(); ++slot)
-        captions.append(game.BallCaption(slot));
-    return captions;
-}
-
-QComboBox* MakeEditableList(const QString& name, const QString& accessibleName)
+QComboBox* MakeList(const QString& name, const QString& accessibleName)
 {
     auto* list = new QComboBox;
     list->setObjectName(name);
@@ -36,9 +23,25 @@ QComboBox* MakeEditableList(const QString& name, const QString& accessibleName)
     return list;
 }
 
-QGridLayout* MakeMachineForm(QComboBox* machine, QComboBox* ballSet, const QString& captionArray)
+template <typename Names>
+void Refill(QComboBox* list, const Names& items, const QString& text)
 {
-    auto* form = new QGridLayout;
+    list->clear();
+    for (const QString& item : items)
+        list->addItem(item);
+    list->setCurrentIndex(-1);
+    list->setEditText(text);
+}
+
+} // namespace
+
+MachineFields::MachineFields(const QString& machineName, const QString& ballSetName, const QString& captionArray,
+                             QWidget* parent)
+    : QWidget(parent), machine(MakeList(machineName, u"Machine"_s)), ballSet(MakeList(ballSetName, u"Set of Balls"_s))
+{
+    setFocusProxy(machine);
+    auto* form = new QGridLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
     form->setHorizontalSpacing(Spacing::Page);
     form->setVerticalSpacing(Spacing::Between);
     form->addWidget(MakeLabel(u"Machine"_s, TextRole::Caption, ElementName(captionArray, 7)), 0, 0);
@@ -47,5 +50,16 @@ QGridLayout* MakeMachineForm(QComboBox* machine, QComboBox* ballSet, const QStri
     form->addWidget(ballSet, 1, 1);
     form->setColumnMinimumWidth(1, 28 * machine->fontMetrics().averageCharWidth());
     form->setColumnStretch(2, 1);
-    return form;
+}
+
+void MachineFields::Show(const QString& machineText, const QString& ballSetText)
+{
+    Refill(machine, MachineNames, machineText);
+    Refill(ballSet, BallSetNames, ballSetText);
+}
+
+void MachineFields::Read(EnteredDraw& draw) const
+{
+    draw.machine = machine->currentText();
+    draw.ballSet = ballSet->currentText();
 }

@@ -1,31 +1,27 @@
 #pragma once
 
-#include "balls/ball_fields.h"
+#include <QWidget>
 
-#include <QComboBox>
+class QComboBox;
+struct EnteredDraw;
 
-class QGridLayout;
-struct Game;
-
-/// The object names of the ball fields of a draw page: index 0 is the extra ball, indices from 1 the main balls.
-BallFields::Names DrawFieldNames(const Game& game, const QString& field, const QString& disc, const QString& caption);
-
-/// The captions of a draw's balls in slot order.
-QStringList DrawBallCaptions(const Game& game);
-
-/// An editable list that keeps every typed text as it is.
-QComboBox* MakeEditableList(const QString& name, const QString& accessibleName);
-
-/// The two lists with their captions, elements 7 and 8 of the caption array.
-QGridLayout* MakeMachineForm(QComboBox* machine, QComboBox* ballSet, const QString& captionArray);
-
-/// Empties the list and its text, and fills it with the given items.
-template <typename Names>
-void RefillList(QComboBox* list, const Names& items)
+/// The machine and the set of balls of a draw: two lists with their captions. Any text may be typed into them. The
+/// focus goes to the first.
+class MachineFields : public QWidget
 {
-    list->clear();
-    for (const QString& item : items)
-        list->addItem(item);
-    list->setCurrentIndex(-1);
-    list->clearEditText();
-}
+    Q_OBJECT
+
+public:
+    /// The object names of the two lists; their captions are elements 7 and 8 of the caption array.
+    MachineFields(const QString& machineName, const QString& ballSetName, const QString& captionArray,
+                  QWidget* parent = nullptr);
+
+    /// Fills both lists anew and puts the texts into them.
+    void Show(const QString& machineText, const QString& ballSetText);
+    /// Puts the two texts into the draw.
+    void Read(EnteredDraw& draw) const;
+
+private:
+    QComboBox* machine;
+    QComboBox* ballSet;
+};

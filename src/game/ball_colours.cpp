@@ -25,7 +25,7 @@ int BallColourBand(double value)
 BallColours ColoursOfBall(const Game& game, int slot, double value)
 {
     if (game.IsMain()) {
-        if (value < 1 || value >= 50)
+        if (value >= game.highestMain + 1)
             return EmptyBallColours;
         return {BandColours.at(static_cast<size_t>(BallColourBand(value)) - 1), Black};
     }

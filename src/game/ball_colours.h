@@ -19,6 +19,6 @@ extern const BallColours EmptyBallColours;
 /// The band, 1 to 5, of a ball of the Main game by its tens: 1 for numbers up to 9, 5 for those above 39.
 int BallColourBand(double value);
 
-/// The colours of a ball of the game in the given slot: by its band in the Main game, where a stored value that is no
-/// ball is dark grey; navy, and red for the thunderball, in the other.
+/// The colours of a ball of the game in the given slot: by its band in the Main game, where a stored value above all
+/// bands is dark grey; navy, and red for the thunderball, in the other.
 BallColours ColoursOfBall(const Game& game, int slot, double value);

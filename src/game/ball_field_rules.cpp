@@ -7,14 +7,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const BallFieldRule AddingMain{&MainGame, u"Ball values must be between 1 and 49"_s,
-                               u"Ball values must be between 1 and 49"_s, false};
-const BallFieldRule AddingThunderball{&ThunderballGame, u"Main ball values must be between 1 and 34"_s,
-                                      u"Thunderball value must be between 1 and 14"_s, true};
-const BallFieldRule EditingThunderball{&ThunderballGame, u"Balls must be between 1 and 34"_s,
-                                       u"Thunderball must be between 1 and 14"_s, false, true};
-const BallFieldRule EditingThunderballEntry{&ThunderballGame, u"Main ball values must be between 1 and 34"_s,
-                                            u"Main ball values must be between 1 and 14"_s, false};
+const QString MainRange = u"Ball values must be between 1 and 49"_s;
+const QString ThunderballMainRange = u"Main ball values must be between 1 and 34"_s;
+
+const BallFieldRule MainDraw{&MainGame, MainRange, MainRange, Fractions::Inside, true};
+const BallFieldRule NewThunderballDraw{&ThunderballGame, ThunderballMainRange,
+                                       u"Thunderball value must be between 1 and 14"_s, Fractions::InsideAndAtTheEdges,
+                                       false};
+const BallFieldRule StoredThunderballDraw{&ThunderballGame,
+                                          u"Balls must be between 1 and 34"_s,
+                                          u"Thunderball must be between 1 and 14"_s,
+                                          Fractions::Inside,
+                                          false,
+                                          true};
+const BallFieldRule StoredMainEntry{&MainGame, MainRange, MainRange, Fractions::None, false};
+const BallFieldRule StoredThunderballEntry{&ThunderballGame, ThunderballMainRange,
+                                           u"Main ball values must be between 1 and 14"_s, Fractions::None, false};
 
 BallColours ColoursOfEmptyField(const BallFieldRule& rule, int slot)
 {
@@ -24,24 +32,32 @@ BallColours ColoursOfEmptyField(const BallFieldRule& rule, int slot)
 bool IsInRange(const BallFieldRule& rule, int slot, double value)
 {
     const int highest = rule.game->Highest(slot);
-    return rule.fractionsAtTheEdgesPass ? value > 0 && value < highest + 1 : value >= 1 && value <= highest;
+    switch (rule.fractions) {
+    case Fractions::Inside:
+        return value >= 1 && value <= highest;
+    case Fractions::InsideAndAtTheEdges:
+        return value > 0 && value < highest + 1;
+    case Fractions::None:
+        break;
+    }
+    return IsWholeBetween(value, 1, highest);
 }
 
 } // namespace
 
 const BallFieldRule& AddingRule(const Game& game)
 {
-    return game.IsMain() ? AddingMain : AddingThunderball;
+    return game.IsMain() ? MainDraw : NewThunderballDraw;
 }
 
 const BallFieldRule& DrawEditingRule(const Game& game)
 {
-    return game.IsMain() ? AddingMain : EditingThunderball;
+    return game.IsMain() ? MainDraw : StoredThunderballDraw;
 }
 
 const BallFieldRule& EntryEditingRule(const Game& game)
 {
-    return game.IsMain() ? AddingMain : EditingThunderballEntry;
+    return game.IsMain() ? StoredMainEntry : StoredThunderballEntry;
 }
 
 BallFieldVerdict CheckBallField(const BallFieldRule& rule, int slot, const QString& text)

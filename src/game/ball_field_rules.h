@@ -6,15 +6,24 @@
 
 struct Game;
 
+/// Which fractions pass the check of a field: those between the lowest and the highest ball, also those just outside
+/// them (0.5, say, or 14.5), or none. New draws and entries refuse them all when they are stored.
+enum class Fractions
+{
+    Inside,
+    InsideAndAtTheEdges,
+    None
+};
+
 /// How the fields of a page check one typed ball when it loses the focus.
 struct BallFieldRule
 {
     const Game* game;
     QString mainMessage;
     QString extraMessage;
-    /// Whether a value between 0 and 1, or between the highest ball and the next number, passes here; storing refuses
-    /// fractions in any case.
-    bool fractionsAtTheEdgesPass;
+    Fractions fractions;
+    /// Whether a refused field turns grey before its message is shown, or after it.
+    bool greyBeforeMessage;
     /// Whether every field keeps its slot's colours, an empty or refused one too.
     bool coloursAreFixed = false;
 };
@@ -28,8 +37,8 @@ const BallFieldRule& DrawEditingRule(const Game& game);
 /// The rule of the page on which a stored entry of the game is edited.
 const BallFieldRule& EntryEditingRule(const Game& game);
 
-/// What became of a field: an accepted one (an empty one too) has its colours; a refused one has those of an empty one
-/// and the message that says why.
+/// The outcome of the check of a field: an accepted one (an empty one too) has its colours; a refused one has those of
+/// an empty one and the message that says why.
 struct BallFieldVerdict
 {
     BallColours colours;

@@ -2,7 +2,31 @@
 
 #include "look/theme.h"
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimer>
+
+namespace {
+
+/// Whether the event is the button's own key, pressed while a field is being typed in.
+bool LeavesAField(const QEvent& event)
+{
+    return event.type() == QEvent::Shortcut && qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
+}
+
+} // namespace
+
+void PressByKey(QAbstractButton& button)
+{
+    button.setFocus(Qt::ShortcutFocusReason);
+    // The message box of a refused field is open by then, but the focus may still be on its way back.
+    QTimer::singleShot(0, &button, [&button] {
+        const QWidget* modal = QApplication::activeModalWidget();
+        if (button.hasFocus() && (modal == nullptr || modal == button.window()))
+            button.click();
+    });
+}
 
 bool IsEnter(const QKeyEvent& event)
 {
@@ -36,12 +60,28 @@ void Button::MakeAccent()
     update();
 }
 
+bool Button::event(QEvent* event)
+{
+    if (!LeavesAField(*event))
+        return QPushButton::event(event);
+    PressByKey(*this);
+    return true;
+}
+
 void Button::keyPressEvent(QKeyEvent* event)
 {
     if (IsEnter(*event))
         click();
     else
         QPushButton::keyPressEvent(event);
+}
+
+bool EnterButton::event(QEvent* event)
+{
+    if (!LeavesAField(*event))
+        return QAbstractButton::event(event);
+    PressByKey(*this);
+    return true;
 }
 
 void EnterButton::keyPressEvent(QKeyEvent* event)

@@ -9,6 +9,10 @@ inline constexpr char AccentProperty[] = "accent";
 /// Whether a key is one of the two Enter keys.
 bool IsEnter(const QKeyEvent& event);
 
+/// Presses a button by a key that was pressed in another control. As with the mouse, that control is left first; a
+/// field whose content is refused then takes the focus back, and the button is not pressed.
+void PressByKey(QAbstractButton& button);
+
 /// A button that also answers the Enter key.
 class Button : public QPushButton
 {
@@ -25,6 +29,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -37,5 +42,6 @@ public:
     using QAbstractButton::QAbstractButton;
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

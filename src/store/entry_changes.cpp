@@ -37,7 +37,7 @@ void StoreEntry(EntryRow entry)
     // Another copy of the program may have changed the user or its entries since the user was chosen.
     if (!FindUserByNumber(users, entry.userId))
         throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
-    if (!MayStoreEntries(CountEntries(entries, entry.userId), 1, ReadUser(users).spendLimit))
+    if (IsUpToLimit(CountEntries(entries, entry.userId), ReadUser(users).spendLimit))
         throw Failure(doing, "the user's spend limit no longer allows it", "changed by another copy");
     entry.number = entries.NextNumber();
     AddEntry(entries, entry);

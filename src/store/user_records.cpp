@@ -91,6 +91,11 @@ int CountEntries(RecordSet& entries, std::int64_t userId)
     return entries.CountOf(EntryField::UserId, userId);
 }
 
+bool IsUpToLimit(int count, double spendLimit)
+{
+    return count >= spendLimit;
+}
+
 bool MayStoreEntries(int count, int more, double spendLimit)
 {
     return count + more <= spendLimit;

@@ -36,6 +36,9 @@ bool FindUserByNumber(RecordSet& users, std::int64_t userId);
 /// How many entries the user has, of both games.
 int CountEntries(RecordSet& entries, std::int64_t userId);
 
+/// Whether a user who has `count` entries may store no further one under the limit.
+bool IsUpToLimit(int count, double spendLimit);
+
 /// Whether a user who has `count` entries may store `more` of them under the limit.
 bool MayStoreEntries(int count, int more, double spendLimit);
 

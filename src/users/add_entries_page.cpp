@@ -1,6 +1,7 @@
 #include "users/add_entries_page.h"
 
 #include "balls/ball_fields.h"
+#include "balls/ball_names.h"
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "controls/card.h"
@@ -14,8 +15,8 @@
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
-#include "store/user_records.h"
 #include "users/day_boxes.h"
+#include "users/user_choice.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -25,37 +26,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QComboBox* MakeList(const QString& name, const QString& caption)
-{
-    auto* list = new QComboBox;
-    // Not as wide as its longest text, which may be of any length.
-    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    list->setObjectName(name);
-    list->setAccessibleName(caption);
-    return list;
-}
-
-QStringList EntryCaptions()
-{
-    QStringList captions;
-    for (int slot = 0; slot < 6; ++slot)
-        captions.append(MainGame.BallCaption(slot));
-    return captions;
-}
+const QString GoToUserDetails = u"Go to 'User Details' to change the spend limit, or choose another user."_s;
 
 } // namespace
 
 AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
     : PageFrame(18, u"Add New Entries"_s),
       pages(pageSwitch),
-      F18user(MakeList(u"F18user"_s, u"User Name"_s)),
-      F18type(MakeList(u"F18type"_s, u"Draw Type"_s)),
-      F18ent(new BallFields({u"F18ent"_s, u"F18ball"_s, u"F18blab"_s, {1, 2, 3, 4, 5, 6}, 1}, EntryCaptions())),
+      F18user(MakeUserList(u"F18user"_s, u"User Name"_s)),
+      F18type(new QComboBox),
+      F18ent(new BallFields(EntryBallNames(u"F18ent"_s, u"F18ball"_s, u"F18blab"_s), EntryBallCaptions())),
       F18day(new DayBoxes({u"F18day"_s, u"F18selallday"_s, u"F18clearday"_s}, u" "_s)),
-      F18reset(new Button(u"Clear Ball Values"_s, u"F18reset"_s))
+      F18reset(new Button(u"Clear Ball Values"_s, u"F18reset"_s)),
+      F18store(AddFooterDefault(u"Store"_s, u"F18store"_s))
 {
-    BuildCards();
-    F18store = AddFooterDefault(u"Store"_s, u"F18store"_s);
+    for (Card* card : {MakeUserCard(), MakeBallCard(), MakeDayCard()})
+        Body()->addWidget(card);
+    MakeForm();
     ConnectGuarded(F18user, &QComboBox::activated, this, [this] { F18user_Click(); });
     ConnectGuarded(F18type, &QComboBox::activated, this, [this] { F18type_Click(); });
     ConnectGuarded(F18ent, &BallFields::Completed, this, [this] { F18store->setFocus(Qt::TabFocusReason); });
@@ -63,9 +50,11 @@ AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
     ConnectGuarded(F18store, &QPushButton::clicked, this, [this] { F18store_Click(); });
 }
 
-void AddEntriesPage::BuildCards()
+Card* AddEntriesPage::MakeUserCard()
 {
-    auto* userCard = new Card;
+    F18type->setObjectName(u"F18type"_s);
+    F18type->setAccessibleName(u"Draw Type"_s);
+    F18type->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     auto* form = new QGridLayout;
     form->setHorizontalSpacing(Spacing::Cards);
     form->setVerticalSpacing(Spacing::Inside);
@@ -73,93 +62,100 @@ void AddEntriesPage::BuildCards()
     form->addWidget(F18user, 1, 0);
     form->addWidget(MakeLabel(u"Draw Type"_s, TextRole::Caption, u"F18label3"_s), 0, 1);
     form->addWidget(F18type, 1, 1);
-    for (const QString& text : {u"This user has __ entries stored."_s, u"Your spend limit is £__"_s,
-                                u"To alter limit, goto \"User Details\""_s}) {
-        const int index = static_cast<int>(F18userdata.size());
-        F18userdata.push_back(MakeLabel(text, TextRole::Body, ElementName(u"F18userdata"_s, index)));
-        F18userdata.back()->setForegroundRole(QPalette::PlaceholderText);
-        form->addWidget(F18userdata.back(), 2 + index, 0, 1, 2);
+    const std::array<QString, 3> texts{u"This user has __ entries stored."_s, u"Your spend limit is £__"_s,
+                                       u"To alter limit, goto \"User Details\""_s};
+    for (int index = 0; index < 3; ++index) {
+        QLabel*& label = F18userdata.at(static_cast<size_t>(index));
+        label = MakeLabel(texts.at(static_cast<size_t>(index)), TextRole::Body, ElementName(u"F18userdata"_s, index));
+        label->setForegroundRole(QPalette::PlaceholderText);
+        form->addWidget(label, 2 + index, 0, 1, 2);
     }
     form->setColumnStretch(0, 1);
     form->setColumnStretch(1, 1);
-    userCard->Content()->addLayout(form);
+    auto* card = new Card;
+    card->Content()->addLayout(form);
+    return card;
+}
 
-    auto* ballCard = new Card;
+Card* AddEntriesPage::MakeBallCard()
+{
     auto* balls = new CardRow;
     balls->setSpacing(Spacing::Between);
     balls->addWidget(F18ent, 1);
     balls->addWidget(F18reset);
-    ballCard->Content()->addLayout(balls);
+    auto* card = new Card;
+    card->Content()->setContentsMargins(Spacing::Cards, Spacing::Between, Spacing::Cards, Spacing::Between);
+    card->Content()->addLayout(balls);
+    return card;
+}
 
-    ballCard->Content()->setContentsMargins(Spacing::Cards, Spacing::Between, Spacing::Cards, Spacing::Between);
-
-    auto* dayCard = new Card;
-    dayCard->Content()->setSpacing(Spacing::Inside);
-    dayCard->Content()->addWidget(MakeLabel(u"Draw day for this entry"_s, TextRole::Caption, u"F18label4"_s));
-    dayCard->Content()->addWidget(F18day);
-
-    for (Card* card : {userCard, ballCard, dayCard})
-        Body()->addWidget(card);
-    MakeForm();
+Card* AddEntriesPage::MakeDayCard()
+{
+    auto* card = new Card;
+    card->Content()->setSpacing(Spacing::Inside);
+    card->Content()->addWidget(MakeLabel(u"Draw day for this entry"_s, TextRole::Caption, u"F18label4"_s));
+    card->Content()->addWidget(F18day);
+    return card;
 }
 
 void AddEntriesPage::Prepare()
 {
-    F18user->clear();
-    const std::vector<UserRow> allUsers = ReadAllUsers(users);
-    if (allUsers.empty()) {
-        pages.ChooseMenu(3, 1);
-        ShowMessage(u"You cannot store entries until you have created a user profile."_s);
+    const QString whyNot = u"You cannot store entries until you have created a user profile."_s;
+    const std::vector<UserRow> all = FillUserList(F18user, pages, whyNot);
+    if (all.empty())
         return;
-    }
-    for (const UserRow& user : allUsers)
-        F18user->addItem(user.name);
-    F18user->setCurrentIndex(0);
-    F18user_Click();
+    ShowUser(all.front());
     F18type->clear();
     F18type->addItems({MainGame.name, ThunderballGame.name});
-    F18type->setCurrentIndex(0);
     F18type_Click();
-    ClearDrawDays();
+    F18day->SetAll(false);
     show();
 }
 
 void AddEntriesPage::F18user_Click()
 {
-    if (!FindUserByName(users, F18user->currentText())) {
-        const std::string name = F18user->currentText().toStdString();
+    const QString name = F18user->currentText();
+    if (!FindUserByName(users, name)) {
         Prepare();
         throw Failure("The user could not be chosen",
-                      "another copy of the program has deleted it or given it another name meanwhile", name);
+                      "another copy of the program has deleted it or given it another name meanwhile",
+                      name.toStdString());
     }
-    const UserRow user = ReadUser(users);
-    selectedUserNumber = user.number;
-    selectedUserLimit = user.spendLimit;
-    F18userdata[1]->setText(u"Your limit is "_s + PlainNumber(selectedUserLimit) + u" entries."_s);
-    entryCount = CountEntries(entries, selectedUserNumber);
+    ShowUser(ReadUser(users));
+}
+
+void AddEntriesPage::ShowUser(const UserRow& user)
+{
+    selectedUser = user;
+    F18userdata[1]->setText(u"Your limit is "_s + PlainNumber(user.spendLimit) + u" entries."_s);
+    entryCount = CountEntries(entries, user.number);
     F18userdata[0]->setText(entryCount > 0 ? u"This user has "_s + PlainNumber(entryCount) + u" entries stored."_s
                                            : u"This user has no entries stored."_s);
-    if (IsUpToLimit())
-        ShowMessage(u"This user is up to the spend limit."_s + Crlf +
-                    u"Go to 'User Details' to change the spend limit, or choose another user."_s);
+    if (IsUpToLimit(entryCount, user.spendLimit))
+        ShowMessage(u"This user is up to the spend limit."_s + Crlf + GoToUserDetails);
+}
+
+const Game& AddEntriesPage::ChosenGame() const
+{
+    return F18type->currentIndex() == 0 ? MainGame : ThunderballGame;
 }
 
 void AddEntriesPage::F18type_Click()
 {
-    if (F18type->currentText() == previousDrawType)
-        return;
-    previousDrawType = F18type->currentText();
-    F18ent->SetRule(AddingRule(ChosenGame()));
-    F18ent->Clear();
-    ClearDrawDays();
-    LayoutBalls();
+    if (&ChosenGame() != begunGame)
+        BeginEntry();
 }
 
-void AddEntriesPage::LayoutBalls()
+void AddEntriesPage::BeginEntry()
 {
-    const bool isMain = &ChosenGame() == &MainGame;
-    F18ent->SetLastApart(!isMain);
-    F18ent->SetCaption(5, isMain ? MainGame.BallCaption(5) : ThunderballGame.extraBallName);
+    constexpr int last = EntryBalls - 1;
+    const Game& game = ChosenGame();
+    begunGame = &game;
+    F18ent->SetRule(AddingRule(game));
+    F18ent->Clear();
+    F18day->SetAll(false);
+    F18ent->SetLastApart(!game.IsMain());
+    F18ent->SetCaption(last, game.BallCaption(last));
 }
 
 void AddEntriesPage::F18reset_Click()
@@ -168,52 +164,26 @@ void AddEntriesPage::F18reset_Click()
     F18ent->FocusField(0);
 }
 
-void AddEntriesPage::ClearDrawDays()
-{
-    F18day->SetAll(false);
-}
-
-const Game& AddEntriesPage::ChosenGame() const
-{
-    return F18type->currentText() == MainGame.name ? MainGame : ThunderballGame;
-}
-
-bool AddEntriesPage::IsUpToLimit() const
-{
-    return entryCount >= selectedUserLimit;
-}
-
 void AddEntriesPage::F18store_Click()
 {
-    if (IsUpToLimit()) {
+    if (IsUpToLimit(entryCount, selectedUser.spendLimit)) {
         ShowMessage(u"This user is up to the spend limit, so this entry has NOT been stored."_s + Crlf +
-                    u"Go to 'User Details' to change the spend limit, or choose another user."_s);
+                    GoToUserDetails);
         return;
     }
-    if (!IsPossibleEntry(ChosenGame(), F18ent->TypedEntry())) {
+    const Game& game = ChosenGame();
+    if (!IsPossibleEntry(game, F18ent->TypedEntry())) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Store' again."_s);
         return;
     }
-    F18ent->Sort(ChosenGame().mainBalls);
-    F18ent->Recolour();
+    F18ent->Sort(game.mainBalls);
     if (!F18day->AnyTicked()) {
         ShowMessage(u"You must specify at least ONE draw day. Please retry."_s);
         return;
     }
-    StoreEntry();
+    StoreEntry({0, selectedUser.number, game.drawType, F18ent->TypedEntry(), F18day->Days()});
     ShowMessage(u"This entry has been stored."_s);
     F18user_Click();
-    previousDrawType.clear();
-    F18type_Click();
-}
-
-void AddEntriesPage::StoreEntry()
-{
-    EntryRow entry;
-    entry.userId = selectedUserNumber;
-    entry.drawType = ChosenGame().drawType;
-    entry.days = F18day->Days();
-    entry.numbers = F18ent->TypedEntry();
-    ::StoreEntry(entry);
+    BeginEntry();
 }

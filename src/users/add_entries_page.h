@@ -1,13 +1,14 @@
 #pragma once
 
 #include "controls/page_frame.h"
+#include "store/user_records.h"
 
 #include <QLabel>
 
-#include <cstdint>
-#include <vector>
+#include <array>
 
 class BallFields;
+class Card;
 class DayBoxes;
 class PageSwitch;
 class QComboBox;
@@ -25,25 +26,27 @@ public:
     void Prepare() override;
 
 private:
-    void BuildCards();
+    Card* MakeUserCard();
+    Card* MakeBallCard();
+    Card* MakeDayCard();
     void F18user_Click();
     void F18type_Click();
     void F18reset_Click();
     void F18store_Click();
-    void ClearDrawDays();
-    void LayoutBalls();
+    /// Shows how many entries the user has and may have; tells the player when there is no room for another one.
+    void ShowUser(const UserRow& user);
+    /// Empties the balls and the days for entries of the chosen game.
+    void BeginEntry();
     const Game& ChosenGame() const;
-    bool IsUpToLimit() const;
-    void StoreEntry();
 
     PageSwitch& pages;
-    std::int64_t selectedUserNumber = 0;
-    double selectedUserLimit = 0;
+    UserRow selectedUser;
     int entryCount = 0;
-    QString previousDrawType;
+    /// The game for which the balls were last emptied.
+    const Game* begunGame = nullptr;
 
     QComboBox* F18user;
-    std::vector<QLabel*> F18userdata;
+    std::array<QLabel*, 3> F18userdata{};
     QComboBox* F18type;
     BallFields* F18ent;
     DayBoxes* F18day;

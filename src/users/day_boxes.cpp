@@ -20,7 +20,7 @@ DayBoxes::DayBoxes(const Names& names, const QString& captionPrefix, QWidget* pa
     grid->setHorizontalSpacing(Spacing::Page);
     grid->setVerticalSpacing(Spacing::Inside);
     constexpr int rowsInColumn = 4;
-    for (int day = 0; day < 7; ++day) {
+    for (int day = 0; day < DaysOfWeek; ++day) {
         auto* box = new QCheckBox(captionPrefix + DayNames.at(static_cast<size_t>(day)));
         box->setObjectName(ElementName(names.box, day));
         box->setAccessibleName(DayNames.at(static_cast<size_t>(day)));

@@ -33,5 +33,5 @@ Q_SIGNALS:
     void Changed();
 
 private:
-    std::array<QCheckBox*, 7> boxes{};
+    std::array<QCheckBox*, DaysOfWeek> boxes{};
 };

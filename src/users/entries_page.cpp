@@ -10,8 +10,8 @@
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
-#include "store/user_records.h"
 #include "users/entry_grid_model.h"
+#include "users/user_choice.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -26,10 +26,10 @@ namespace {
 constexpr int ViewPage = 19;
 constexpr int EditPage = 20;
 
-QRadioButton* MakeOption(const Game& game, const char* name)
+QRadioButton* MakeOption(const Game& game, const QString& name)
 {
     auto* option = new QRadioButton(game.name);
-    option->setObjectName(QLatin1String(name));
+    option->setObjectName(name);
     option->setAccessibleName(game.name);
     return option;
 }
@@ -39,9 +39,9 @@ QRadioButton* MakeOption(const Game& game, const char* name)
 EntriesPage::EntriesPage(PageSwitch& pageSwitch)
     : PageFrame(13, u"View or Edit Entries"_s),
       pages(pageSwitch),
-      F13user(new QComboBox),
-      F13typemain(MakeOption(MainGame, "F13typemain")),
-      F13typethunder(MakeOption(ThunderballGame, "F13typethunder")),
+      F13user(MakeUserList(u"F13user"_s, u"User"_s)),
+      F13typemain(MakeOption(MainGame, u"F13typemain"_s)),
+      F13typethunder(MakeOption(ThunderballGame, u"F13typethunder"_s)),
       model(new EntryGridModel(this)),
       F13grid(new GridView(u"F13grid"_s, u"Entries"_s)),
       F13noentries(MakeLabel(u"There are no entries of this type, for this user."_s, TextRole::Body, u"F13noentries"_s))
@@ -65,10 +65,6 @@ EntriesPage::EntriesPage(PageSwitch& pageSwitch)
 
 Card* EntriesPage::MakeChoiceCard()
 {
-    F13user->setObjectName(u"F13user"_s);
-    F13user->setAccessibleName(u"User"_s);
-    // A long name is cut at the list's edge instead of widening the page.
-    F13user->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     F13user->setMinimumContentsLength(14);
     auto* card = new Card;
     auto* form = new QGridLayout;
@@ -98,17 +94,10 @@ Card* EntriesPage::MakeGridCard()
 
 void EntriesPage::Prepare()
 {
-    F13user->clear();
-    const std::vector<UserRow> allUsers = ReadAllUsers(users);
-    if (allUsers.empty()) {
-        pages.ChooseMenu(3, 1);
-        ShowMessage(u"You cannot view or edit entries until you have created a user profile."_s);
+    const QString whyNot = u"You cannot view or edit entries until you have created a user profile."_s;
+    if (FillUserList(F13user, pages, whyNot).empty())
         return;
-    }
-    for (const UserRow& user : allUsers)
-        F13user->addItem(user.name);
     F13typemain->setChecked(true);
-    F13user->setCurrentIndex(0);
     F13user_Click();
     show();
 }

@@ -2,7 +2,7 @@
 
 #include "balls/ball_edit.h"
 #include "balls/ball_fields.h"
-#include "base/numbers.h"
+#include "balls/ball_names.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "game/game.h"
@@ -19,16 +19,18 @@ using namespace Qt::StringLiterals;
 
 EntryEditPage::EntryEditPage()
     : PageFrame(20, u"View Entry in Detail"_s),
+      game(&MainGame),
       head(new EntryHead(u"F20"_s)),
-      F20num(new BallFields({u"F20num"_s, u"F20ball"_s, u"F20caption"_s, {1, 2, 3, 4, 5, 6}}, EntryBallCaptions())),
+      F20num(new BallFields(EntryBallNames(u"F20num"_s, u"F20ball"_s), EntryBallCaptions())),
       F20day(new DayBoxes({u"F20day"_s, {}, {}}, QString())),
       F20back(AddFooterButton(u"BACK"_s, u"F20back"_s)),
       F20store(AddFooterDefault(u"Store Changes"_s, u"F20store"_s))
 {
-    KeepThunderballCaptionOnly(F20num, u"F20thunderlabel"_s);
+    F20num->LastCaption()->setObjectName(u"F20thunderlabel"_s);
+    F20num->LastCaption()->setText(ThunderballGame.extraBallName);
     // The page is shown without an entry where another copy has deleted the chosen one.
-    F20num->SetRule(EntryEditingRule(MainGame));
-    F20num->Recolour();
+    F20num->SetRule(EntryEditingRule(*game));
+    F20num->Clear();
     auto* ballCard = new Card;
     ballCard->Content()->addWidget(F20num);
     auto* dayCard = new Card;
@@ -44,40 +46,38 @@ EntryEditPage::EntryEditPage()
 
 void EntryEditPage::Prepare()
 {
+    constexpr int last = EntryBalls - 1;
     const EntryRow entry = ReadEntry(entries);
-    const Game& game = GameOfDrawType(entry.drawType);
-    const bool isMain = &game == &MainGame;
     shown = entries.Mark();
-    head->Show(ReadUser(users).name, game);
-    F20num->SetRule(EntryEditingRule(game));
-    for (int slot = 0; slot < F20num->Count(); ++slot)
-        F20num->SetText(slot, PlainNumber(entry.numbers.at(static_cast<size_t>(slot))));
-    F20num->Recolour();
-    F20num->SetLastApart(!isMain);
-    F20num->Caption(5)->setVisible(!isMain);
-    F20num->Field(5)->setAccessibleName(isMain ? MainGame.BallCaption(5) : ThunderballGame.extraBallName);
+    game = &GameOfDrawType(entry.drawType);
+    head->Show(ReadUser(users).name, *game);
+    F20num->SetRule(EntryEditingRule(*game));
+    F20num->Show(entry.numbers);
+    F20num->SetLastApart(!game->IsMain());
+    F20num->LastCaption()->setVisible(!game->IsMain());
+    F20num->Field(last)->setAccessibleName(game->BallCaption(last));
     F20day->SetDays(entry.days);
     ShowInFront();
     F20num->FocusField(0);
 }
 
-bool EntryEditPage::HasEqualTexts() const
+bool EntryEditPage::HasEqualMainBalls() const
 {
     QStringList texts;
-    for (int slot = 0; slot < head->ShownGame().mainBalls; ++slot)
+    for (int slot = 0; slot < game->mainBalls; ++slot)
         texts.append(F20num->Text(slot));
     return texts.removeDuplicates() > 0;
 }
 
 void EntryEditPage::F20store_Click()
 {
-    const Game& game = head->ShownGame();
-    F20num->Sort(game.mainBalls);
-    F20num->Recolour();
-    if (HasEqualTexts()) {
-        const QString first = &game == &MainGame ? u"Two or more balls have the same value,"_s
-                                                 : u"Two or more main balls have the same value,"_s;
-        ShowMessage(first + Crlf + u"please retry."_s);
+    if (!F20num->AreAccepted())
+        return;
+    F20num->Sort(game->mainBalls);
+    if (HasEqualMainBalls()) {
+        ShowMessage((game->IsMain() ? u"Two or more balls have the same value,"_s
+                                    : u"Two or more main balls have the same value,"_s) +
+                    Crlf + u"please retry."_s);
         return;
     }
     StoreEntryChanges(shown, F20num->TypedEntry(), F20day->Days());

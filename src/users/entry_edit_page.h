@@ -6,6 +6,7 @@
 class BallFields;
 class DayBoxes;
 class EntryHead;
+struct Game;
 
 /// Page 20: the numbers and days of one entry are changed. Laid over the entries list.
 class EntryEditPage : public PageFrame
@@ -21,9 +22,10 @@ public:
 private:
     void F20store_Click();
     void F20back_Click();
-    bool HasEqualTexts() const;
+    bool HasEqualMainBalls() const;
 
     Bookmark shown;
+    const Game* game;
     EntryHead* head;
     BallFields* F20num;
     DayBoxes* F20day;

@@ -45,16 +45,3 @@ void EntryHead::Show(const QString& userName, const Game& game)
     user->setCursorPosition(0);
     type->setText(game.name);
 }
-
-const Game& EntryHead::ShownGame() const
-{
-    return type->text() == ThunderballGame.name ? ThunderballGame : MainGame;
-}
-
-QStringList EntryBallCaptions()
-{
-    QStringList captions;
-    for (int slot = 0; slot < 6; ++slot)
-        captions.append(MainGame.BallCaption(slot));
-    return captions;
-}

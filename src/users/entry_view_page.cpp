@@ -1,5 +1,6 @@
 #include "users/entry_view_page.h"
 
+#include "balls/ball_names.h"
 #include "balls/ball_row.h"
 #include "base/dates.h"
 #include "controls/guard.h"
@@ -19,10 +20,11 @@ using namespace Qt::StringLiterals;
 EntryViewPage::EntryViewPage()
     : PageFrame(19, u"View Entry in Detail"_s),
       head(new EntryHead(u"F19"_s)),
-      balls(new BallRow({u"F19num"_s, u"F19ball"_s, u"F19caption"_s, {1, 2, 3, 4, 5, 6}}, EntryBallCaptions())),
+      balls(new BallRow(EntryBallNames(u"F19num"_s, u"F19ball"_s), EntryBallCaptions())),
       F19back(AddFooterButton(u"BACK"_s, u"F19back"_s))
 {
-    KeepThunderballCaptionOnly(balls, u"F19thunderlabel"_s);
+    balls->LastCaption()->setObjectName(u"F19thunderlabel"_s);
+    balls->LastCaption()->setText(ThunderballGame.extraBallName);
     auto* ballCard = new Card;
     ballCard->Content()->addWidget(balls);
     for (Card* card : {static_cast<Card*>(head), ballCard, MakeDayCard()})
@@ -40,7 +42,7 @@ Card* EntryViewPage::MakeDayCard()
     grid->setHorizontalSpacing(Spacing::Page);
     grid->setVerticalSpacing(Spacing::Between);
     constexpr int rowsInColumn = 4;
-    for (int day = 0; day < 7; ++day) {
+    for (int day = 0; day < DaysOfWeek; ++day) {
         QLabel*& label = F19day.at(static_cast<size_t>(day));
         label = MakeLabel(DayNames.at(static_cast<size_t>(day)), TextRole::Strong, ElementName(u"F19day"_s, day));
         grid->addWidget(label, day % rowsInColumn, day / rowsInColumn);
@@ -54,11 +56,10 @@ void EntryViewPage::Prepare()
 {
     const EntryRow entry = ReadEntry(entries);
     const Game& game = GameOfDrawType(entry.drawType);
-    const bool isMain = &game == &MainGame;
     head->Show(ReadUser(users).name, game);
     balls->Show(game, entry.numbers);
-    balls->SetLastApart(!isMain);
-    balls->Caption(5)->setVisible(!isMain);
+    balls->SetLastApart(!game.IsMain());
+    balls->LastCaption()->setVisible(!game.IsMain());
     days = entry.days;
     ColourDays();
     ShowInFront();

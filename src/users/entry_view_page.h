@@ -32,6 +32,6 @@ private:
     DaySet days{};
     EntryHead* head;
     BallRow* balls;
-    std::array<QLabel*, 7> F19day{};
+    std::array<QLabel*, DaysOfWeek> F19day{};
     Button* F19back;
 };

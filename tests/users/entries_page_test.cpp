@@ -186,6 +186,50 @@ private Q_SLOTS:
         }
     }
 
+    /// What was put into a box that nobody left is checked before it is stored.
+    void RefusedNumberIsNotStored()
+    {
+        const QString question = u"Do you want to save the changes to this entry"_s;
+        const QString range = u"Ball values must be between 1 and 49"_s;
+        Entries window;
+        const QStringList before = TestFolder::StoredRows("entries");
+        for (const auto& [button, typed, told] : {std::tuple("F20store", "99", QStringList{range}),
+                                                  {"F20store", "41.5", {range}},
+                                                  {"F20back", "-5", {question, range}}}) {
+            window.Edit(false, 0);
+            window.Find<QLineEdit>("F20num_2")->setText(typed);
+            if (told.size() > 1)
+                window.modals.WillPress(QMessageBox::Yes);
+            window.modals.WillPress(QMessageBox::Ok);
+            window.Click(button);
+            QCOMPARE(window.modals.TakeTexts(), told);
+            QCOMPARE(window.ColourOf("F20ball_2", QPalette::Window), QColor("#404040"));
+            QCOMPARE(window.TextOf("F20num_2") + window.FocusedName(), QString("F20num_2"));
+            window.Click("F20back", {QMessageBox::No});
+        }
+        QCOMPARE(TestFolder::StoredRows("entries"), before);
+    }
+
+    void StoredZeroHasItsColoursAndIsLeftWithoutAWord()
+    {
+        Entries window;
+        AddEntry(entries, {8, 1, 1, {0, 15, 22, 38, 41, 49}, {}});
+        AddEntry(entries, {9, 1, 2, {0, 15, 22, 30, 34, 0}, {}});
+        for (const auto& [thunderball, row, colours] :
+             {std::tuple(false, 5, "#FFFFFF #FFFF80"), {true, 1, "#000080 #FF0000"}}) {
+            window.Edit(thunderball, row);
+            QCOMPARE(window.ColoursOf("F20ball", "16", QPalette::Window), QString(colours));
+            window.Press("F20num_1", Qt::Key_Tab);
+            QCOMPARE(window.ColoursOf("F20ball", "16", QPalette::Window), QString(colours));
+            window.Find("F20num_1")->setFocus();
+            QCOMPARE(window.Click("F20back", {QMessageBox::No}),
+                     QStringList{"Do you want to save the changes to this entry"});
+            window.Click("F13view");
+            QCOMPARE(window.ColoursOf("F19ball", "16", QPalette::Window), QString(colours));
+            window.Click("F19back");
+        }
+    }
+
     void BackAsksWhetherToSave()
     {
         Entries window;
