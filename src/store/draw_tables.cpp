@@ -5,6 +5,16 @@
 
 namespace {
 
+TableLayout TableOf(const Game& game, const std::string& name, const std::vector<ColumnLayout>& afterMainBalls)
+{
+    TableLayout table{name, {{"DrawId", "INTEGER"}, {"Date", "TEXT"}, {"Day", "TEXT"}}};
+    for (int ball = 1; ball <= game.mainBalls; ++ball)
+        table.columns.push_back({"Ball" + std::to_string(ball), "INTEGER"});
+    for (const ColumnLayout& column : afterMainBalls)
+        table.columns.push_back(column);
+    return table;
+}
+
 TableLayout ListOf(TableLayout table)
 {
     table.listedTable = table.name;
@@ -17,29 +27,9 @@ TableLayout ListOf(TableLayout table)
 
 const TableLayout& DrawTable(const Game& game)
 {
-    static const TableLayout mainDraws{"ukmain",
-                                       {{"DrawId", "INTEGER"},
-                                        {"Date", "TEXT"},
-                                        {"Day", "TEXT"},
-                                        {"Ball1", "INTEGER"},
-                                        {"Ball2", "INTEGER"},
-                                        {"Ball3", "INTEGER"},
-                                        {"Ball4", "INTEGER"},
-                                        {"Ball5", "INTEGER"},
-                                        {"Ball6", "INTEGER"},
-                                        {"Bonus", "INTEGER"},
-                                        {"Machine", "TEXT"},
-                                        {"BallSet", "TEXT"}}};
-    static const TableLayout thunderballDraws{"ukthunder",
-                                              {{"DrawId", "INTEGER"},
-                                               {"Date", "TEXT"},
-                                               {"Day", "TEXT"},
-                                               {"Ball1", "INTEGER"},
-                                               {"Ball2", "INTEGER"},
-                                               {"Ball3", "INTEGER"},
-                                               {"Ball4", "INTEGER"},
-                                               {"Ball5", "INTEGER"},
-                                               {"Thunderball", "INTEGER"}}};
+    static const TableLayout mainDraws =
+        TableOf(MainGame, "ukmain", {{"Bonus", "INTEGER"}, {"Machine", "TEXT"}, {"BallSet", "TEXT"}});
+    static const TableLayout thunderballDraws = TableOf(ThunderballGame, "ukthunder", {{"Thunderball", "INTEGER"}});
     return game.IsMain() ? mainDraws : thunderballDraws;
 }
 
