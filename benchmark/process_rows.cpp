@@ -39,7 +39,9 @@ public:
         for (char** variable = environ; *variable != nullptr; ++variable)
             environment.push_back(*variable);
         environment.push_back(nullptr);
-        const std::array<char*, 3> arguments{const_cast<char*>(program.c_str()), password.data(), nullptr};
+        // The program itself would take an argument for its folder.
+        char* const argument = program == BENCH_PROGRAM ? nullptr : password.data();
+        const std::array<char*, 3> arguments{const_cast<char*>(program.c_str()), argument, nullptr};
         posix_spawn_file_actions_t actions;
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
