@@ -103,7 +103,8 @@ std::vector<Step> Handlers()
     add("F10maineditbutton");
     FillBalls(steps, "F16number", {1});
     add("F16save");
-    add("F16back");
+    // Whether the page stays depends on the draw: the ball may be among its others.
+    OpenFromMenu(steps, 2, {"View Latest Draw", "View Any Single Draw", "View or Edit All Draws"});
     add("F10maindeletebutton");
     add("F10thunderdeletebutton");
     OpenFromMenu(steps, 3, {"User Details"});
@@ -132,6 +133,8 @@ std::vector<Step> Handlers()
     add("F13edit");
     FillBalls(steps, "F20num", {1});
     add("F20store");
+    OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries"});
+    add("F13grid", {}, Qt::Key_Down);
     add("F13delete");
     OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries", "Check Your Entries"});
     add("F12dateselect");
