@@ -109,6 +109,7 @@ void Walk::AddUserAndEntries() const
     Type(u"F11spend"_s, u"60"_s);
     Show(u"new_user"_s);
     Press(u"F11storenu"_s);
+    Find(u"F11list"_s)->setFocus();
     QTest::keyClick(Find(u"F11list"_s), Qt::Key_Down);
     Show(u"user_details"_s);
     const QList<QStringList> lines{{"3", "15", "22", "30", "36", "49"}, {"5", "9", "17", "23", "34", "14"}};

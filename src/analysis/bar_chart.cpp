@@ -4,13 +4,16 @@
 #include "look/theme.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QBarCategoryAxis>
 #include <QBarSet>
 #include <QChart>
+#include <QClipboard>
 #include <QEvent>
 #include <QFontMetricsF>
 #include <QGraphicsSimpleTextItem>
 #include <QLegend>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QStackedBarSeries>
 #include <QToolTip>
@@ -26,11 +29,19 @@ constexpr qreal Gap = Spacing::Inside;
 constexpr qreal WidestBar = 120;
 constexpr qreal BarShare = 0.84;
 
-/// Tells a screen reader that this is a chart, where it would see a scrolling area.
+/// Tells a screen reader that this is a chart and nothing else, where it would see a scrolling area with a part inside.
+class AccessibleChart : public QAccessibleWidget
+{
+public:
+    explicit AccessibleChart(BarChart* chart) : QAccessibleWidget(chart, QAccessible::Chart) {}
+
+    int childCount() const override { return 0; }
+};
+
 QAccessibleInterface* MakeAccessibleChart(const QString& /*className*/, QObject* object)
 {
     auto* chart = qobject_cast<BarChart*>(object);
-    return chart == nullptr ? nullptr : new QAccessibleWidget(chart, QAccessible::Chart);
+    return chart == nullptr ? nullptr : new AccessibleChart(chart);
 }
 
 } // namespace
@@ -76,6 +87,21 @@ void BarChart::ShowBars(std::vector<ChartBar> shownBars)
     FillTexts();
     TakeColours();
     LayOut();
+}
+
+void BarChart::Copy() const
+{
+    QString lines;
+    for (const ChartBar& bar : bars)
+        lines += bar.label + u'\t' + QString::number(bar.value) + u'\n';
+    QImage picture(viewport()->size() * devicePixelRatio(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(devicePixelRatio());
+    picture.fill(CurrentTheme().card);
+    viewport()->render(&picture, {}, {}, DrawChildren);
+    auto* copied = new QMimeData;
+    copied->setText(lines);
+    copied->setImageData(picture);
+    QApplication::clipboard()->setMimeData(copied);
 }
 
 void BarChart::FillSeries()
@@ -251,14 +277,4 @@ void BarChart::mouseMoveEvent(QMouseEvent* event)
     const ChartBar& pointed = bars[static_cast<size_t>(bar)];
     QToolTip::showText(event->globalPosition().toPoint(), pointed.label + u": "_s + QString::number(pointed.value),
                        viewport());
-}
-
-void BarChart::drawForeground(QPainter* painter, const QRectF& rect)
-{
-    QChartView::drawForeground(painter, rect);
-    if (!hasFocus())
-        return;
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(CurrentTheme().accent, 2));
-    painter->drawRoundedRect(QRectF(viewport()->rect()).adjusted(1, 1, -1, -1), 8, 8);
 }

@@ -31,13 +31,16 @@ public:
 
     void ShowBars(std::vector<ChartBar> shownBars);
 
+    /// Puts the chart on the clipboard: its picture, and as text a line for each bar, label and figure with a tab
+    /// between them.
+    void Copy() const;
+
     QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void drawForeground(QPainter* painter, const QRectF& rect) override;
 
 private:
     void FillSeries();

@@ -124,7 +124,7 @@ QColor FillOf(BarColour colour)
 
 QColor OutlineOf(const QColor& fill)
 {
-    return fill.darker(fill.lightness() > 250 ? 170 : 145);
+    return fill.darker(fill.lightness() > 250 ? 200 : 145);
 }
 
 QString Chart::Title() const

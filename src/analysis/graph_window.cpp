@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,7 @@ GraphWindow::GraphWindow(QWidget* parent)
     graph->setObjectName(u"graph"_s);
     BuildLayout();
     OpenAt(DefaultSize);
+    connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, graph, &BarChart::Copy);
     ConnectGuarded(balltype, &QComboBox::currentIndexChanged, this, [this](int index) { balltype_Click(index); });
 }
 

@@ -2,7 +2,10 @@
 
 #include "look/theme.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QTextCursor>
 
 ReportView::ReportView(QWidget* parent) : QTextEdit(parent)
@@ -42,4 +45,12 @@ void ReportView::Show(const CheckReport& report)
         caret.setCharFormat(emphasised);
     }
     caret.endEditBlock();
+}
+
+void ReportView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy) && !textCursor().hasSelection())
+        QApplication::clipboard()->setText(toPlainText());
+    else
+        QTextEdit::keyPressEvent(event);
 }

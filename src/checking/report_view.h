@@ -4,7 +4,7 @@
 
 #include <QTextEdit>
 
-/// A report to be read, scrolled and copied, in letters of one width.
+/// A report to be read, scrolled and copied, in letters of one width. Ctrl+C copies what is selected, or all of it.
 class ReportView : public QTextEdit
 {
     Q_OBJECT
@@ -14,4 +14,7 @@ public:
 
     /// Shows a report in the place of the one before; its emphasised stretches are bold.
     void Show(const CheckReport& report);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };

@@ -1,6 +1,7 @@
 #include "controls/click_label.h"
 
 #include "look/button.h"
+#include "look/shortcut_letters.h"
 #include "look/theme.h"
 
 #include <QPainter>
@@ -32,8 +33,8 @@ void ClickLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setFont(drawn);
     painter.setPen(palette().color(QPalette::WindowText));
     const QRect line = rect().adjusted(Spacing::Inside, 0, -Spacing::Inside, 0);
-    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, line.width()));
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextShowMnemonic,
+                     fontMetrics().elidedText(DrawnCaption(*this), Qt::ElideRight, line.width(), Qt::TextShowMnemonic));
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

@@ -1,5 +1,6 @@
 #include "controls/grid_view.h"
 
+#include "look/input_watch.h"
 #include "look/theme.h"
 
 #include <QApplication>
@@ -68,6 +69,7 @@ GridView::GridView(const QString& name, const QString& accessibleName, QWidget* 
     headings->setSectionsClickable(false);
     headings->setHighlightSections(false);
     headings->setFont(FontFor(TextRole::Caption));
+    connect(this, &QTableView::doubleClicked, this, &GridView::Opened);
 }
 
 void GridView::SetColumnShares(std::vector<double> columnShares)
@@ -78,7 +80,7 @@ void GridView::SetColumnShares(std::vector<double> columnShares)
 
 void GridView::LayOutColumns()
 {
-    const int available = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int available = contentsRect().width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     if (model() == nullptr || available <= 0)
         return;
     const auto columns = std::min(static_cast<size_t>(model()->columnCount()), shares.size());
@@ -115,7 +117,7 @@ QSize GridView::minimumSizeHint() const
 {
     // The texts may become smaller than the pages' own, but not by much.
     constexpr double smallestFactor = 0.8;
-    double width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    double width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) + 2 * frameWidth();
     for (int column = 0; model() != nullptr && column < model()->columnCount(); ++column)
         if (!isColumnHidden(column))
             width += TextWidth(column) * smallestFactor + CellMargins;
@@ -184,6 +186,7 @@ void GridView::SelectRow(int row)
     setCurrentIndex(cell);
     if (cell.isValid())
         scrollTo(cell);
+    HideCurrentCell(*this, !hasFocus());
 }
 
 int GridView::FirstShownColumn() const
@@ -237,6 +240,15 @@ void GridView::focusOutEvent(QFocusEvent* event)
 {
     QTableView::focusOutEvent(event);
     viewport()->update();
+}
+
+void GridView::hideEvent(QHideEvent* event)
+{
+    QTableView::hideEvent(event);
+    // Its window may not be the active one, as while a message box closes: then the toolkit would not hand the focus
+    // on.
+    if (isHidden() && window()->focusWidget() == this)
+        focusNextPrevChild(true);
 }
 
 void GridView::resizeEvent(QResizeEvent* event)

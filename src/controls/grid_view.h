@@ -38,7 +38,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The Enter key was pressed.
+    /// The Enter key was pressed, or a row clicked twice.
     void Opened();
     /// The Delete key was pressed.
     void DeletePressed();
@@ -47,6 +47,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

@@ -1,5 +1,6 @@
 #include "controls/month_calendar.h"
 
+#include "look/control_painting.h"
 #include "look/theme.h"
 
 #include <QEvent>
@@ -33,7 +34,8 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
         findChild<QToolButton*>(QLatin1String(name))->setFont(FontFor(TextRole::Strong));
     if (auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1)) {
-        days->setFrameShape(QFrame::NoFrame);
+        days->setProperty(BareProperty, true);
+        days->setFrameShape(QFrame::StyledPanel);
         days->setAccessibleName(accessibleName());
     }
     TakeColours();

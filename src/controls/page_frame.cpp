@@ -2,6 +2,7 @@
 
 #include "controls/label.h"
 #include "look/button.h"
+#include "look/input_watch.h"
 #include "look/theme.h"
 
 #include <QHBoxLayout>
@@ -71,6 +72,37 @@ void PageFrame::ShowInFront()
 QString PageFrame::ControlName(const QString& name) const
 {
     return u'F' + QString::number(number) + name;
+}
+
+void PageFrame::FocusFirstField()
+{
+    if (!isVisible() || isAncestorOf(window()->focusWidget()))
+        return;
+    if (firstField != nullptr)
+        firstField->setFocus(Qt::TabFocusReason);
+    else
+        FocusNextOnPage(this);
+}
+
+bool PageFrame::FocusNextOnPage(QWidget* behind)
+{
+    for (QWidget* next = behind->nextInFocusChain(); next != behind; next = next->nextInFocusChain()) {
+        if (!isAncestorOf(next) || !next->isVisible() || !next->isEnabled() ||
+            (next->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        next->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+bool PageFrame::focusNextPrevChild(bool next)
+{
+    QWidget* focused = window()->focusWidget();
+    const bool vanished = isAncestorOf(focused) && (!focused->isVisible() || !focused->isEnabled());
+    if (vanished && isVisible() && isEnabled() && FocusNextOnPage(focused))
+        return true;
+    return QFrame::focusNextPrevChild(next);
 }
 
 void PageFrame::PutFooterLastInTabOrder()

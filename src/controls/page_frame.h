@@ -23,6 +23,9 @@ public:
     /// Makes the page visible in front of the others. One that has a button that leaves it gives that the focus.
     void ShowInFront();
 
+    /// Gives the focus to the field with which the work on the page begins, unless the page has the focus already.
+    void FocusFirstField();
+
     /// Makes the Tab key reach the buttons at the lower right after all else on the page, as the eye does. To be called
     /// when the page is in its window: by itself its keys go round in a ring, in which nothing is last.
     void PutFooterLastInTabOrder();
@@ -44,11 +47,19 @@ protected:
     /// The button that leaves the page; Escape presses it too.
     void SetBackButton(Button* button) { back = button; }
 
+    /// The field with which the work on the page begins, where that is not the first in the order of the Tab key.
+    void SetFirstField(QWidget* field) { firstField = field; }
+
+    /// The focus of a control that vanishes or can no longer be pressed stays on the page.
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    bool FocusNextOnPage(QWidget* behind);
+
     int number;
     Button* back = nullptr;
+    QWidget* firstField = nullptr;
     PageLayout* sheet;
     QVBoxLayout* body;
     QHBoxLayout* footer;

@@ -86,6 +86,8 @@ AddDrawPage::AddDrawPage(const Game& drawGame)
     ConnectGuarded(balls, &BallFields::Completed, this, [this] {
         (machines != nullptr ? static_cast<QWidget*>(machines) : store)->setFocus(Qt::TabFocusReason);
     });
+    if (machines != nullptr)
+        connect(machines, &MachineFields::Completed, store, [this] { store->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Prepare(); });
     ConnectGuarded(store, &QPushButton::clicked, this, [this] { Store_Click(); });
 }

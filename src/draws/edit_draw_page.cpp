@@ -62,6 +62,8 @@ EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
     ConnectGuarded(balls, &BallFields::Completed, this, [this] {
         (machines != nullptr ? static_cast<QWidget*>(machines) : save)->setFocus(Qt::TabFocusReason);
     });
+    if (machines != nullptr)
+        connect(machines, &MachineFields::Completed, save, [this] { save->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(save, &QPushButton::clicked, this, [this] { Save_Click(); });
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
     ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Reset_Click(); });

@@ -6,7 +6,9 @@
 #include "store/draw_records.h"
 
 #include <QComboBox>
+#include <QCompleter>
 #include <QGridLayout>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +21,9 @@ QComboBox* MakeList(const QString& name, const QString& accessibleName)
     list->setAccessibleName(accessibleName);
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
-    list->setCompleter(nullptr);
+    list->lineEdit()->setAccessibleName(accessibleName);
+    // What differs from an item in its letters' case alone is a text of its own.
+    list->completer()->setCaseSensitivity(Qt::CaseSensitive);
     return list;
 }
 
@@ -50,6 +54,8 @@ MachineFields::MachineFields(const QString& machineName, const QString& ballSetN
     form->addWidget(ballSet, 1, 1);
     form->setColumnMinimumWidth(1, 28 * machine->fontMetrics().averageCharWidth());
     form->setColumnStretch(2, 1);
+    connect(machine->lineEdit(), &QLineEdit::returnPressed, ballSet, [this] { ballSet->setFocus(Qt::TabFocusReason); });
+    connect(ballSet->lineEdit(), &QLineEdit::returnPressed, this, &MachineFields::Completed);
 }
 
 void MachineFields::Show(const QString& machineText, const QString& ballSetText)

@@ -21,6 +21,10 @@ public:
     /// Puts the two texts into the draw.
     void Read(EnteredDraw& draw) const;
 
+Q_SIGNALS:
+    /// Enter, which leads from the machine to the set of balls, was pressed there.
+    void Completed();
+
 private:
     QComboBox* machine;
     QComboBox* ballSet;

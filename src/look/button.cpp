@@ -4,15 +4,14 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QTimer>
 
 namespace {
 
-/// Whether the event is the button's own key, pressed while a field is being typed in.
-bool LeavesAField(const QEvent& event)
+/// Whether the event is the button's own key.
+bool IsOwnKey(QEvent& event)
 {
-    return event.type() == QEvent::Shortcut && qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
+    return event.type() == QEvent::Shortcut && !static_cast<QShortcutEvent&>(event).isAmbiguous();
 }
 
 } // namespace
@@ -23,7 +22,7 @@ void PressByKey(QAbstractButton& button)
     // The message box of a refused field is open by then, but the focus may still be on its way back.
     QTimer::singleShot(0, &button, [&button] {
         const QWidget* modal = QApplication::activeModalWidget();
-        if (button.hasFocus() && (modal == nullptr || modal == button.window()))
+        if (button.hasFocus() && (modal == nullptr || modal->isAncestorOf(&button)))
             button.click();
     });
 }
@@ -62,7 +61,7 @@ void Button::MakeAccent()
 
 bool Button::event(QEvent* event)
 {
-    if (!LeavesAField(*event))
+    if (!IsOwnKey(*event))
         return QPushButton::event(event);
     PressByKey(*this);
     return true;
@@ -78,7 +77,7 @@ void Button::keyPressEvent(QKeyEvent* event)
 
 bool EnterButton::event(QEvent* event)
 {
-    if (!LeavesAField(*event))
+    if (!IsOwnKey(*event))
         return QAbstractButton::event(event);
     PressByKey(*this);
     return true;

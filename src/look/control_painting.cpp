@@ -58,7 +58,13 @@ void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* wi
         fill = Mixed(fill, toward, 0.16);
     else if (enabled && option->state & QStyle::State_MouseOver)
         fill = Mixed(fill, toward, 0.07);
-    FillRounded(painter, option->rect, Corner, fill, accent ? fill : OutlineColour(palette));
+    const bool focus = option->state & QStyle::State_HasFocus;
+    // Beside its own colour the ring of the accent button is seen by the gap between them.
+    const int gap = focus && accent ? 4 : 0;
+    FillRounded(painter, option->rect.adjusted(gap, gap, -gap, -gap), Corner - gap / 2.0, fill,
+                accent ? fill : OutlineColour(palette));
+    if (focus)
+        DrawFocusRing(painter, option->rect, palette);
 }
 
 void DrawFieldPanel(const QStyleOption* option, QPainter* painter)

@@ -23,5 +23,6 @@ void DrawArrow(QPainter* painter, const QRectF& rect, const QColor& colour);
 void DrawIndicator(const QStyleOption* option, QPainter* painter, bool round);
 void DrawHeaderSection(const QStyleOption* option, QPainter* painter);
 
-/// The name of the property by which a text field is left without a frame and background of its own.
+/// The name of the property of a text field that has no frame and background of its own, and of a view whose frame is
+/// empty but for the ring of the focus.
 inline constexpr char BareProperty[] = "bare";

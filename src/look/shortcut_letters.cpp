@@ -2,13 +2,15 @@
 
 #include "look/button.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QKeyEvent>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-bool altIsHeld = false;
+bool lettersAreShown = false;
 
 QChar LetterOf(const QAbstractButton& button)
 {
@@ -16,51 +18,85 @@ QChar LetterOf(const QAbstractButton& button)
     return keys.isEmpty() ? QChar() : QChar(keys[0].key());
 }
 
+bool IsDefaultAction(const Button& button)
+{
+    return button.isDefault() || button.property(AccentProperty).toBool();
+}
+
+QString FreeLetters(const Button& button, const QString& taken)
+{
+    QString letters;
+    for (const QChar letter : button.text().toUpper())
+        if (letter >= u'A' && letter <= u'Z' && !taken.contains(letter) && !letters.contains(letter))
+            letters += letter;
+    return letters;
+}
+
 } // namespace
 
 bool AltIsHeld()
 {
-    return altIsHeld;
+    return lettersAreShown;
 }
 
 void SetShortcutLetter(QAbstractButton& button, QChar letter)
 {
-    button.setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter.toUpper().unicode())));
+    const QKeySequence keys =
+        letter.isNull() ? QKeySequence() : QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter.toUpper().unicode()));
+    if (button.shortcut() != keys)
+        button.setShortcut(keys);
 }
 
-void GiveShortcutLetters(const QWidget& page, QString taken)
+void GiveShortcutLetters(const QWidget& window)
 {
-    for (auto* button : page.findChildren<Button*>()) {
-        for (const QChar letter : button->text().toUpper()) {
-            if (letter < u'A' || letter > u'Z' || taken.contains(letter))
-                continue;
+    QList<Button*> waiting;
+    QString taken;
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || !button->isEnabled())
+            continue;
+        if (auto* pushed = qobject_cast<Button*>(button))
+            waiting.insert(IsDefaultAction(*pushed) ? 0 : waiting.size(), pushed);
+        else if (const QChar letter = LetterOf(*button); !letter.isNull())
             taken += letter;
-            SetShortcutLetter(*button, letter);
-            break;
-        }
     }
+    for (Button* button : QList<Button*>(waiting)) {
+        const QString letters = FreeLetters(*button, taken);
+        if (!letters.startsWith(button->text().left(1).toUpper()) || letters.isEmpty())
+            continue;
+        SetShortcutLetter(*button, letters[0]);
+        taken += letters[0];
+        waiting.removeOne(button);
+    }
+    while (!waiting.isEmpty()) {
+        // Whoever has fewest letters left to choose from goes first.
+        const auto next =
+            std::min_element(waiting.begin(), waiting.end(), [&](const Button* first, const Button* second) {
+                return FreeLetters(*first, taken).size() < FreeLetters(*second, taken).size();
+            });
+        const QString letters = FreeLetters(**next, taken);
+        SetShortcutLetter(**next, letters.isEmpty() ? QChar() : letters[0]);
+        taken += letters.left(1);
+        waiting.erase(next);
+    }
+}
+
+void ShowShortcutLetters(bool shown)
+{
+    if (shown == lettersAreShown)
+        return;
+    lettersAreShown = shown;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        for (auto* button : window->findChildren<QAbstractButton*>())
+            button->update();
 }
 
 QString DrawnCaption(const QAbstractButton& button)
 {
     const QChar letter = LetterOf(button);
     const qsizetype place = letter.isNull() ? -1 : button.text().indexOf(letter, 0, Qt::CaseInsensitive);
-    return altIsHeld && place >= 0 ? QString(button.text()).insert(place, u'&') : button.text();
-}
-
-bool AltKeyWatch::eventFilter(QObject* watched, QEvent* event)
-{
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    bool held = altIsHeld;
-    if (isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
-        held = event->type() == QEvent::KeyPress;
-    else if (event->type() == QEvent::WindowDeactivate)
-        held = false;
-    if (held != altIsHeld) {
-        altIsHeld = held;
-        for (QWidget* window : QApplication::topLevelWidgets())
-            for (auto* button : window->findChildren<QAbstractButton*>())
-                button->update();
-    }
-    return QObject::eventFilter(watched, event);
+    // An ampersand of the caption itself stands for no mark.
+    const auto plain = [](QString part) { return part.replace(u'&', u"&&"_s); };
+    if (!lettersAreShown || place < 0)
+        return plain(button.text());
+    return plain(button.text().left(place)) + u'&' + plain(button.text().mid(place));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QObject>
 #include <QString>
 
 class QAbstractButton;
+class QWidget;
 
 // Captions stand as they are given, without the mark of a shortcut key: the key is kept by the button, and its letter
 // is underlined while the Alt key is held.
@@ -11,21 +11,15 @@ class QAbstractButton;
 /// Whether the Alt key is held, while which letters are underlined.
 bool AltIsHeld();
 
-/// Makes Alt with a letter press a button.
+/// Makes Alt with a letter press a button; none when the letter is null.
 void SetShortcutLetter(QAbstractButton& button, QChar letter);
 
-/// Gives every push button of a page or a dialog a letter of its caption, the first one that is neither taken by
-/// another button there nor among `taken`.
-void GiveShortcutLetters(const QWidget& page, QString taken = {});
+/// Gives every push button of a page or a dialog that can be pressed now a letter of its caption, none that a button of
+/// the menu or another one has. The default action chooses first, and an initial is better than another letter.
+void GiveShortcutLetters(const QWidget& window);
+
+/// Has the captions drawn with or without the marks of their keys.
+void ShowShortcutLetters(bool shown);
 
 /// The caption as it is to be drawn now, with the mark of the shortcut key while the Alt key is held.
 QString DrawnCaption(const QAbstractButton& button);
-
-/// Has the captions drawn anew when the Alt key is pressed or let go.
-class AltKeyWatch : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-};

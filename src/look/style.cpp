@@ -2,6 +2,7 @@
 
 #include "look/button.h"
 #include "look/control_painting.h"
+#include "look/input_watch.h"
 #include "look/message_icon.h"
 #include "look/scroll_bar.h"
 #include "look/shortcut_letters.h"
@@ -10,11 +11,12 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStyleOption>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +30,43 @@ constexpr int ControlHeight = 36;
 constexpr int ListLineHeight = 28;
 constexpr int IndicatorSize = 18;
 constexpr int ArrowWidth = 28;
+constexpr int RingWidth = 2;
+
+/// A view without a frame gets one that is empty until the view has the focus.
+void MakeRoomForRing(QAbstractScrollArea& area)
+{
+    if (area.frameShape() != QFrame::NoFrame || area.focusPolicy() == Qt::NoFocus ||
+        area.window()->windowType() == Qt::Popup)
+        return;
+    area.setProperty(BareProperty, true);
+    area.setFrameShape(QFrame::StyledPanel);
+}
+
+/// The ring of a check box or a choice goes around its mark as well as around its caption.
+QRect RingPlace(const QStyleOption& option, const QWidget* widget)
+{
+    if (qobject_cast<const QCheckBox*>(widget) == nullptr && qobject_cast<const QRadioButton*>(widget) == nullptr)
+        return option.rect;
+    const QRect whole = widget->rect();
+    const QRect caption = option.rect.adjusted(-Spacing::Inside, 0, Spacing::Inside, 0);
+    const bool leftToRight = option.direction == Qt::LeftToRight;
+    return (leftToRight ? caption | QRect(whole.topLeft(), QSize(1, whole.height()))
+                        : caption | QRect(whole.topRight(), QSize(1, whole.height()))) &
+           whole;
+}
+
+/// The Tab key enters a group of choices at the chosen one; the arrow keys lead to the others.
+void TakeTabWhileChosen(QRadioButton& choice)
+{
+    const auto follow = [&choice](bool chosen) { choice.setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus); };
+    QObject::connect(&choice, &QRadioButton::toggled, &choice, follow);
+    follow(choice.isChecked());
+}
+
+bool IsBareView(const QWidget* widget)
+{
+    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr && widget->property(BareProperty).toBool();
+}
 
 } // namespace
 
@@ -41,19 +80,21 @@ void Style::polish(QPalette& palette)
 void Style::polish(QApplication* application)
 {
     QProxyStyle::polish(application);
-    application->installEventFilter(new AltKeyWatch(this));
+    application->installEventFilter(new InputWatch(this));
 }
 
 void Style::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    if (const auto* dialog = qobject_cast<QDialog*>(widget))
-        GiveShortcutLetters(*dialog);
     if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr)
         widget->setAttribute(Qt::WA_Hover);
     // The toolkit's own dialogs bring plain ones.
     if (qobject_cast<QPushButton*>(widget) != nullptr)
         widget->setFont(FontFor(TextRole::Strong));
+    if (auto* choice = qobject_cast<QRadioButton*>(widget))
+        TakeTabWhileChosen(*choice);
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(widget))
+        MakeRoomForRing(*area);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -65,7 +106,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
     case PE_FrameFocusRect:
         if (qobject_cast<const QAbstractItemView*>(widget) == nullptr)
-            DrawFocusRing(painter, option->rect, option->palette);
+            DrawFocusRing(painter, RingPlace(*option, widget), option->palette);
         return;
     case PE_PanelLineEdit: {
         const bool bare =
@@ -98,6 +139,12 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         if (IsAccent(option, widget) && (option->state & State_Enabled))
             drawn.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
         QProxyStyle::drawControl(element, &drawn, painter, widget);
+        return;
+    }
+    if (element == CE_ShapedFrame && IsBareView(widget)) {
+        // In a view the selection may be hidden, whose colour is the ring's elsewhere.
+        if (option->state & State_HasFocus)
+            DrawFocusRing(painter, option->rect, QApplication::palette());
         return;
     }
     if (element == CE_HeaderSection) {
@@ -170,13 +217,6 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     return QProxyStyle::subControlRect(control, option, subControl, widget);
 }
 
-QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
-{
-    if (element == SE_CheckBoxFocusRect || element == SE_RadioButtonFocusRect)
-        return option->rect;
-    return QProxyStyle::subElementRect(element, option, widget);
-}
-
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -192,6 +232,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ButtonShiftVertical:
         return 0;
     case PM_DefaultFrameWidth:
+        if (IsBareView(widget))
+            return RingWidth;
         // A drop-down list and a text area have one fine line; the fields' own panel brings its own room.
         return qobject_cast<const QLineEdit*>(widget) != nullptr ? Spacing::Inside : 1;
     default:

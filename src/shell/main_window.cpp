@@ -4,6 +4,7 @@
 #include "controls/message_box.h"
 #include "controls/page_frame.h"
 #include "controls/scrolling_content.h"
+#include "look/input_watch.h"
 #include "look/shortcut_letters.h"
 #include "look/theme.h"
 #include "shell/introduction_page.h"
@@ -56,6 +57,7 @@ MainWindow::MainWindow()
         setWindowState(Qt::WindowMaximized);
     }
     Form_Load();
+    menu->FocusChosen();
 }
 
 void MainWindow::Form_Load()
@@ -82,7 +84,6 @@ PageFrame* MainWindow::Page(int index)
     if (page != nullptr) {
         area->Add(page);
         page->PutFooterLastInTabOrder();
-        GiveShortcutLetters(*page, MenuColumn::ShortcutLetters.toString());
     }
     return page;
 }
@@ -132,6 +133,8 @@ void MainWindow::Button_Click(int group)
 {
     MenuGroup = group;
     BuildMenu();
+    if (group > 0 && LastInputWasKey())
+        menu->FocusChosen();
 }
 
 void MainWindow::Suboption_Click(int number)
@@ -140,6 +143,8 @@ void MainWindow::Suboption_Click(int number)
         menu->Mark(number);
     if (const MenuSuboption* suboption = FindSuboption(MenuGroup, number))
         ShowPage(suboption->page);
+    if (LastInputWasKey())
+        Page(SelectedPage)->FocusFirstField();
 }
 
 void MainWindow::Exit_Click()
@@ -151,6 +156,15 @@ void MainWindow::Exit_Click()
 void MainWindow::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter(this).fillRect(menuScroll->geometry(), CurrentTheme().menu);
+}
+
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    // What vanishes hands its focus on; the first in the row would be the logo.
+    if (focusWidget() == nullptr || (focusWidget()->isVisible() && focusWidget()->isEnabled()))
+        return QWidget::focusNextPrevChild(next);
+    menu->FocusChosen();
+    return true;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -25,6 +25,7 @@ public:
     void ShowStartPage() override;
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

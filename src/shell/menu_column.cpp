@@ -73,6 +73,7 @@ void MenuColumn::LayOut(int openGroup)
         if (suboption != nullptr) {
             label->setText(suboption->caption);
             label->setAccessibleName(suboption->caption);
+            SetShortcutLetter(*label, suboption->letter);
         }
     }
     for (int group = 1; group <= MenuGroups; ++group)
@@ -88,6 +89,14 @@ void MenuColumn::Mark(int suboption)
         suboptions.at(static_cast<size_t>(number) - 1)->SetMarked(number == marked);
     PlaceChildren();
     optionMark->show();
+}
+
+void MenuColumn::FocusChosen()
+{
+    QWidget* chosen = buttons.front();
+    if (open > 0)
+        chosen = suboptions.at(static_cast<size_t>(qMax(marked, 1)) - 1);
+    chosen->setFocus(Qt::TabFocusReason);
 }
 
 void MenuColumn::PlaceChildren()

@@ -24,7 +24,10 @@ public:
     /// Moves the marker beside a sub-option (1 to 4).
     void Mark(int suboption);
 
-    /// The letters that, with Alt, open the groups in their order and press the exit button. Pages leave them alone.
+    /// Gives the focus to the marked sub-option, or to the first one of the open group, or to the first group.
+    void FocusChosen();
+
+    /// The letters that, with Alt, open the groups in their order and press the exit button.
     static constexpr QStringView ShortcutLetters = u"ARYGLX";
 
     QSize sizeHint() const override;

@@ -10,18 +10,18 @@ QString Text(const char* utf8)
 const std::array<MenuGroupRow, MenuGroups>& Groups()
 {
     static const std::array<MenuGroupRow, MenuGroups> groups{{
-        {Text("Add Draws"), {{Text("Add Main Draw"), 1920, 6}, {Text("Add Thunderball Draw"), 2290, 7}}},
+        {Text("Add Draws"), {{Text("Add Main Draw"), 1920, 6, u'M'}, {Text("Add Thunderball Draw"), 2290, 7, u'T'}}},
         {Text("Draw Records"),
-         {{Text("View Latest Draw"), 2400, 8},
-          {Text("View Any Single Draw"), 2760, 9},
-          {Text("View or Edit All Draws"), 3120, 10}}},
+         {{Text("View Latest Draw"), 2400, 8, {}},
+          {Text("View Any Single Draw"), 2760, 9, u'N'},
+          {Text("View or Edit All Draws"), 3120, 10, u'O'}}},
         {Text("Your Entries"),
-         {{Text("User Details"), 2880, 11},
-          {Text("Add New Entries"), 3240, 18},
-          {Text("View or Edit Entries"), 3600, 13},
-          {Text("Check Your Entries"), 3960, 12}}},
-        {Text("Entry Generator"), {{Text("Main Draw"), 3360, 26}}},
-        {Text("Draw Analysis"), {{Text("Main Draw"), 3840, 21}, {Text("Thunderball Draw"), 4200, 22}}},
+         {{Text("User Details"), 2880, 11, u'U'},
+          {Text("Add New Entries"), 3240, 18, u'N'},
+          {Text("View or Edit Entries"), 3600, 13, u'O'},
+          {Text("Check Your Entries"), 3960, 12, u'K'}}},
+        {Text("Entry Generator"), {{Text("Main Draw"), 3360, 26, u'M'}}},
+        {Text("Draw Analysis"), {{Text("Main Draw"), 3840, 21, u'M'}, {Text("Thunderball Draw"), 4200, 22, u'T'}}},
     }};
     return groups;
 }

@@ -5,12 +5,14 @@
 #include <vector>
 
 /// One sub-option of a menu group. `top` is in twips from the top of the menu column, of which ten make a logical
-/// pixel.
+/// pixel; Alt with the letter chooses it while the group is open, where a letter is left for it beside those of the
+/// pages.
 struct MenuSuboption
 {
     QString caption;
     int top;
     int page;
+    QChar letter;
 };
 
 struct MenuGroupRow

@@ -3,13 +3,48 @@
 #include "controls/label.h"
 #include "look/theme.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Tells a screen reader of the page in front alone, for the others cannot be seen.
+class AccessiblePageArea : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePageArea(PageArea& pageArea)
+        : QAccessibleWidget(&pageArea, QAccessible::Grouping), area(pageArea)
+    {
+    }
+
+    int childCount() const override { return area.FrontPage() == nullptr ? 0 : 1; }
+    QAccessibleInterface* child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(area.FrontPage()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child != nullptr && child->object() == area.FrontPage() ? 0 : -1;
+    }
+
+private:
+    const PageArea& area;
+};
+
+QAccessibleInterface* MakeAccessiblePageArea(const QString& /*className*/, QObject* object)
+{
+    auto* area = qobject_cast<PageArea*>(object);
+    return area == nullptr ? nullptr : new AccessiblePageArea(*area);
+}
+
+} // namespace
+
 PageArea::PageArea(QWidget* parent) : QWidget(parent)
 {
+    QAccessible::installFactory(MakeAccessiblePageArea);
     auto* loading = new QFrame(this);
     loading->setObjectName(u"Loadingframe"_s);
     loading->setAutoFillBackground(true);
@@ -76,13 +111,19 @@ bool PageArea::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-void PageArea::EnableFrontPageOnly()
+QWidget* PageArea::FrontPage() const
 {
     // Children are held in stacking order, the front one last.
-    const QWidget* front = nullptr;
-    for (const QObject* child : children())
-        if (const auto* page = qobject_cast<const QWidget*>(child); page != nullptr && !page->isHidden())
+    QWidget* front = nullptr;
+    for (QObject* child : children())
+        if (auto* page = qobject_cast<QWidget*>(child); page != nullptr && !page->isHidden())
             front = page;
+    return front;
+}
+
+void PageArea::EnableFrontPageOnly()
+{
+    const QWidget* front = FrontPage();
     for (Place& place : pages) {
         QWidget& page = *place.page;
         const bool inFront = front != nullptr && &page == front;

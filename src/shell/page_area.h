@@ -15,6 +15,9 @@ public:
     /// Takes a page in, hidden or not.
     void Add(QWidget* page);
 
+    /// The page that is seen, or nullptr when all are hidden.
+    QWidget* FrontPage() const;
+
     QSize minimumSizeHint() const override;
     /// The least height at which the texts of the shown page are whole.
     int heightForWidth(int width) const override;

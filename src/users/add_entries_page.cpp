@@ -1,5 +1,6 @@
 #include "users/add_entries_page.h"
 
+#include "balls/ball_edit.h"
 #include "balls/ball_fields.h"
 #include "balls/ball_names.h"
 #include "base/failure.h"
@@ -43,6 +44,7 @@ AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
     for (Card* card : {MakeUserCard(), MakeBallCard(), MakeDayCard()})
         Body()->addWidget(card);
     MakeForm();
+    SetFirstField(F18ent->Field(0));
     ConnectGuarded(F18user, &QComboBox::activated, this, [this] { F18user_Click(); });
     ConnectGuarded(F18type, &QComboBox::activated, this, [this] { F18type_Click(); });
     ConnectGuarded(F18ent, &BallFields::Completed, this, [this] { F18store->setFocus(Qt::TabFocusReason); });
@@ -186,4 +188,5 @@ void AddEntriesPage::F18store_Click()
     ShowMessage(u"This entry has been stored."_s);
     F18user_Click();
     BeginEntry();
+    F18ent->FocusField(0);
 }

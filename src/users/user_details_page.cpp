@@ -77,7 +77,7 @@ Card* UserDetailsPage::MakeListCard()
 {
     F11label1->setWordWrap(true);
     F11list->setObjectName(u"F11list"_s);
-    F11list->setAccessibleName(u"Users"_s);
+    F11list->setAccessibleName(u"User"_s);
     F11list->setFrameShape(QFrame::NoFrame);
     F11list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     F11list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -2,16 +2,42 @@
 
 #include "look/theme.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 
 namespace {
 
 constexpr int NarrowestWidth = 120;
 
+/// Tells a screen reader whether the label is a link, which can be pressed, or no more than a text.
+class AccessibleLinkLabel : public QAccessibleWidget
+{
+public:
+    explicit AccessibleLinkLabel(LinkLabel& linkLabel) : QAccessibleWidget(&linkLabel), label(linkLabel) {}
+
+    QAccessible::Role role() const override { return label.IsLink() ? QAccessible::Link : QAccessible::StaticText; }
+    QStringList actionNames() const override { return label.IsLink() ? QStringList{pressAction()} : QStringList(); }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction())
+            label.click();
+    }
+
+private:
+    LinkLabel& label;
+};
+
+QAccessibleInterface* MakeAccessibleLinkLabel(const QString& /*className*/, QObject* object)
+{
+    auto* label = qobject_cast<LinkLabel*>(object);
+    return label == nullptr ? nullptr : new AccessibleLinkLabel(*label);
+}
+
 } // namespace
 
 LinkLabel::LinkLabel(const QString& name) : ClickLabel({})
 {
+    QAccessible::installFactory(MakeAccessibleLinkLabel);
     setObjectName(name);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     TakeColour();

@@ -7,6 +7,7 @@
 #include "analysis/graph_window.h"
 
 #include <QChartView>
+#include <QClipboard>
 #include <QGraphicsSimpleTextItem>
 #include <QLabel>
 #include <QPushButton>
@@ -150,6 +151,20 @@ private Q_SLOTS:
         }
     }
 
+    void CopyingTakesThePictureAndTheBars()
+    {
+        ShownChart shown(2);
+        shown.window.activateWindow();
+        for (const char* focused : {"balltype", "graph"}) {
+            QApplication::clipboard()->clear();
+            QTest::keyClick(shown.Find(focused), Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(QApplication::clipboard()->text(), shown.Bars().join('\n').replace(": ", "\t") + '\n');
+            const QImage picture = QApplication::clipboard()->image();
+            QCOMPARE(picture.pixelColor(shown.FootOf(1)).name(), QString("#8cc8f5"));
+            QCOMPARE(picture.pixelColor(1, 1), CurrentTheme().card);
+        }
+    }
+
     void KeysMoveThroughTheWindowAndCloseIt()
     {
         ShownChart shown(1);
@@ -202,7 +217,7 @@ private:
                 for (QGraphicsItem* item : shown.Graph()->scene()->items())
                     if (dynamic_cast<QGraphicsLineItem*>(item) != nullptr)
                         item->setVisible(withLines);
-                return shown.Graph()->grab().toImage();
+                return shown.Graph()->viewport()->grab().toImage();
             };
             const QImage withLines = picture(true);
             const QImage withoutLines = picture(false);

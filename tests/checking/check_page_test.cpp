@@ -2,6 +2,7 @@
 
 #include "base/dates.h"
 
+#include <QClipboard>
 #include <QDateEdit>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -36,6 +37,13 @@ private Q_SLOTS:
             QVERIFY(!window.IsShown(hidden));
         QCOMPARE(Check(window), QString("There are no user entries stored."));
         QVERIFY(window.IsShown("F12clear") && window.IsShown("F12print"));
+        // All of it is copied, or what is selected.
+        for (const char* copied : {"Tavenor v3.0\n\nThere are no user entries stored.", "Tavenor"}) {
+            window.Press("F12text", Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(QApplication::clipboard()->text(), QString(copied));
+            window.Find<QTextEdit>("F12text")->moveCursor(QTextCursor::Start);
+            window.Find<QTextEdit>("F12text")->moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+        }
         window.Click("F12clear");
         QCOMPARE(window.TextOf("F12text"), QString());
         QVERIFY(!window.IsShown("F12clear") && !window.IsShown("F12print"));

@@ -128,6 +128,23 @@ private Q_SLOTS:
             StoreTwice(thunderball, button, message, rows);
     }
 
+    void EnterLeadsOverTheMachineThatCompletesWhatIsTyped()
+    {
+        for (const auto& [typed, machine, set] :
+             {std::tuple("G|2", "GUINEVERE", "2"), {"Merlin II|9a", "Merlin II", "9a"}, {"merlin|", "merlin", ""}}) {
+            TestWindow window;
+            Page page(window, false);
+            page.TypeBalls("1 2 3 4 5 6 7");
+            for (const QString& text : QString(typed).split('|')) {
+                QTest::keyClicks(QApplication::focusWidget(), text);
+                window.PressFocused(Qt::Key_Return);
+            }
+            QCOMPARE(window.FocusedName(), QString("F6Store"));
+            QCOMPARE(window.Find<QComboBox>("F6Mmachine")->currentText(), QString(machine));
+            QCOMPARE(window.Find<QComboBox>("F6Mballset")->currentText(), QString(set));
+        }
+    }
+
 private:
     static void StoreTwice(bool thunderball, const QString& button, const QString& message, const QStringList& rows)
     {

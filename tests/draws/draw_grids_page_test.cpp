@@ -62,7 +62,7 @@ private Q_SLOTS:
             QApplication::processEvents();
             for (const auto& [name, last, lastPart] : {std::tuple("F10Grid1", 8, 9.3), {"F10Grid2", 7, 4.65}}) {
                 const auto* grid = window.Find<GridView>(name);
-                const double available = grid->width() - grid->verticalScrollBar()->sizeHint().width();
+                const double available = grid->contentsRect().width() - grid->verticalScrollBar()->sizeHint().width();
                 for (const auto& [column, part] : {std::pair(0, 7.0), {1, 11.3}, {2, 9.2}, {last, lastPart}})
                     QVERIFY(qAbs(grid->columnWidth(column) - available / part) <= 1);
                 QVERIFY(grid->horizontalHeader()->length() <= available && !grid->horizontalScrollBar()->isVisible());
@@ -149,6 +149,10 @@ private Q_SLOTS:
     {
         FiveDraws window;
         GridDriver grid = window.MainGrid();
+        grid.Click(2);
+        QTest::mouseDClick(grid.view->viewport(), Qt::LeftButton, {}, grid.Middle(2));
+        QCOMPARE(window.TextOf("F14ballset"), QString("Set of balls used: 3"));
+        window.PressFocused(Qt::Key_Escape);
         grid.Click(1);
         grid.Press(Qt::Key_Return);
         QVERIFY(window.IsShown("Frame_14") && window.IsShown("Frame_10"));

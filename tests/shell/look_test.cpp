@@ -90,24 +90,30 @@ private Q_SLOTS:
             {"overlap",
              [](PlantedDialog& dialog) {
                  dialog.layout()->removeWidget(dialog.tick);
-                 dialog.tick->move(dialog.store->pos());
+                 dialog.tick->move(dialog.store->pos() - QPoint(0, dialog.tick->height() - 4));
              }},
             {"order", [](PlantedDialog& dialog) { QWidget::setTabOrder(dialog.second, dialog.first); }},
             {"default", [](PlantedDialog& dialog) { dialog.store->setDefault(false); }},
             {"escape", [](PlantedDialog& dialog) { dialog.answersEscape = false; }},
             {"contrast", [](PlantedDialog& dialog) { MakePale(*dialog.caption, QPalette::WindowText); }},
             {"contrast outline", [](PlantedDialog& dialog) { MakePale(*dialog.tick, QPalette::PlaceholderText); }},
+            {"ring",
+             [](PlantedDialog& dialog) {
+                 QPalette hidden = dialog.store->palette();
+                 hidden.setColor(QPalette::Highlight, hidden.color(QPalette::Window));
+                 dialog.tick->setPalette(hidden);
+             }},
             {"fixed", [](PlantedDialog& dialog) { dialog.setFixedSize(dialog.sizeHint()); }}};
         for (const auto& [kind, plant] : rows) {
             PlantedDialog dialog;
             dialog.show();
             plant(dialog);
             QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-            QStringList faults = LayoutFaults(dialog) + ContrastFaults(dialog);
+            QStringList faults = LayoutFaults(dialog) + ContrastFaults(dialog) + FocusFaults(dialog);
             faults += DialogFaults(dialog);
             QVERIFY2(kind.isEmpty() == faults.isEmpty(), qPrintable(kind + ": " + faults.join('\n')));
             for (const QString& fault : faults)
-                QVERIFY2(fault.startsWith(kind), qPrintable(fault));
+                QVERIFY2(fault.startsWith(kind), qPrintable(kind + ": " + fault));
         }
     }
 
@@ -180,9 +186,9 @@ private:
                 if (window.size() != SmallSize)
                     add(name, {QString("fit %1 x %2").arg(window.width()).arg(window.height())});
             }
-            add(name, LayoutFaults(shown));
+            add(name, LayoutFaults(shown) + ScreenReaderFaults(shown));
             if (!qEnvironmentVariableIsSet("LAYOUT_ONLY"))
-                add(name, ContrastFaults(shown));
+                add(name, ContrastFaults(shown) + FocusFaults(shown));
         });
         walk.MainJob();
         walk.EverythingElse();

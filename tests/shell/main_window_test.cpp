@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QProcess>
+#include <QWheelEvent>
 
 #include <csignal>
 
@@ -34,6 +35,25 @@ QString ShownPage(TestWindow& window)
             shown.append(QString::number(index));
     }
     return shown.join(',');
+}
+
+/// Presses keys where the focus is, such as "Alt+A Return =12", of which the last types two digits; a message is
+/// answered by its default button. Tells how many keys were pressed, those of a chord one by one, without what was
+/// typed.
+int PressKeys(TestWindow& window, const QString& keys)
+{
+    int pressed = 0;
+    window.modals.WillAlwaysDo([](QDialog&) {});
+    for (const QString& key : keys.split(' ')) {
+        if (key.startsWith('=')) {
+            QTest::keyClicks(QApplication::focusWidget(), key.mid(1));
+            continue;
+        }
+        const QKeyCombination combination = QKeySequence(key)[0];
+        window.PressFocused(combination.key(), combination.keyboardModifiers());
+        pressed += static_cast<int>(key.count('+')) + 1;
+    }
+    return pressed;
 }
 
 /// Whether a process has come so far that it answers SIGTERM itself, as the program does once its files are open.
@@ -121,6 +141,87 @@ private Q_SLOTS:
         window.Press("F6MBall1_0", Qt::Key_E, Qt::AltModifier);
         QTRY_COMPARE(window.TextOf("F6MBall1_0"), QString());
         QCOMPARE(window.TextOf("F6Reset"), QString("Reset"));
+    }
+
+    /// On every page the buttons that can be pressed have letters of their own, the default action its first.
+    void LettersOfAPageAreItsButtonsOwn()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        for (const char* keys : {"Alt+A Alt+M", "Alt+A Alt+T", "Alt+R Alt+N", "Alt+R Alt+O", "Alt+R Alt+O Return",
+                                 "Alt+Y Alt+U", "Alt+Y Alt+U Alt+W", "Alt+Y Alt+N", "Alt+Y Alt+O", "Alt+Y Alt+K",
+                                 "Alt+Y Alt+K Alt+C", "Alt+G Alt+M", "Alt+L Alt+M"}) {
+            PressKeys(window, keys);
+            QString letters;
+            for (const auto* button : window.Window().findChildren<QAbstractButton*>()) {
+                if (!button->isVisible() || !button->isEnabled() ||
+                    (!button->inherits("Button") && button->shortcut().isEmpty()))
+                    continue;
+                const QString letter = button->shortcut().toString().right(1);
+                QVERIFY2(!letter.isEmpty() && !letters.contains(letter),
+                         qPrintable(keys + QString(": ") + button->text()));
+                QVERIFY2(!button->property("accent").toBool() || button->text().startsWith(letter),
+                         qPrintable(button->text()));
+                letters += letter;
+            }
+        }
+    }
+
+    void TheFocusGoesWhereTheWorkBeginsAndStaysOnThePage()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        QCOMPARE(window.FocusedName(), QString("Button1"));
+        for (const auto& [keys, focused] : {std::pair("Alt+Y", "Suboption1"),
+                                            {"Tab Tab Tab Return", "F12user"},
+                                            {"Alt+Y Alt+N", "F18ent_1"},
+                                            {"Alt+R Return", "Suboption1"},
+                                            {"Alt+R Alt+O", "F10Grid1"},
+                                            {"Alt+A Space", "F6MBall1_1"},
+                                            // A button that vanishes when it is pressed.
+                                            {"Alt+Y Alt+K Alt+C Alt+E", "F12check"}}) {
+            PressKeys(window, keys);
+            QCOMPARE(window.FocusedName(), QString(focused));
+        }
+    }
+
+    void TheWheelChangesNothingThatHasNoFocus()
+    {
+        TestWindow window;
+        AddUser(users, "Ann", 10);
+        for (const auto& [suboption, name, property] :
+             {std::tuple(2, "F18type", "currentText"), {4, "F12cal", "date"}}) {
+            window.OpenPage(3, suboption);
+            if (suboption == 4)
+                window.Click("F12dateselect");
+            auto* field = window.Find(name);
+            for (const bool hasFocus : {false, true}) {
+                window.Find(hasFocus ? name : "Logo")->setFocus();
+                const QVariant before = field->property(property);
+                QWheelEvent wheel(field->rect().center(), field->mapToGlobal(field->rect().center()), {}, {0, -120},
+                                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(field, &wheel);
+                QCOMPARE(field->property(property) != before, hasFocus);
+            }
+        }
+    }
+
+    void TheMainJobTakesFewKeys()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        const QString line = " Return =15 Return =22 Return =38 Return =41 Return =44 Return";
+        int keys = PressKeys(window, "Alt+A Return =3" + line + " =7 Return =A Return =1 Return Return");
+        keys += PressKeys(window, "Alt+Y Return =Ann Return =10 Return Return Alt+N");
+        for (const char* first : {"=3", "=4", "=5"})
+            keys += PressKeys(window, first + line + " Alt+T Alt+S");
+        keys += PressKeys(window, "Alt+K Alt+C");
+        // Each message is answered by one more.
+        const auto messages = static_cast<int>(window.modals.TakeSeen().size());
+        QCOMPARE(messages, 4);
+        QVERIFY(TestFolder::StoredRows("ukmain").last().endsWith(",3,15,22,38,41,44,7,ARTHUR,1"));
+        QCOMPARE(TestFolder::StoredRows("entries").size(), 3);
+        QVERIFY(window.Find("F12text")->property("plainText").toString().contains("3>  5 main balls"));
+        QVERIFY2(keys + messages <= 60, qPrintable(QString::number(keys + messages)));
     }
 
     void AboutWindowTellsTheVersion()

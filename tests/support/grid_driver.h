@@ -66,10 +66,9 @@ public:
             Press(from < to ? Qt::Key_Down : Qt::Key_Up, Qt::ShiftModifier);
     }
 
+    QPoint Middle(int row) const { return view->visualRect(view->model()->index(row, 2)).center(); }
+
     TestWindow& window;
     QString name;
     GridView* view;
-
-private:
-    QPoint Middle(int row) const { return view->visualRect(view->model()->index(row, 2)).center(); }
 };

@@ -19,6 +19,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -199,6 +200,18 @@ double StrongestContrast(const QImage& picture, const QRect& part)
     return strongest;
 }
 
+/// How many pixels stand out in one picture from what they are in the other.
+int ChangedPixels(const QImage& before, const QImage& after)
+{
+    int changed = 0;
+    for (int y = 0; y < before.height(); ++y)
+        for (int x = 0; x < before.width(); ++x)
+            if (before.pixel(x, y) != after.pixel(x, y) &&
+                Contrast(Luminance(before.pixel(x, y)), Luminance(after.pixel(x, y))) >= OutlineContrast)
+                ++changed;
+    return changed;
+}
+
 QString ShownText(const QWidget& widget)
 {
     // The title of a screen is told above the screens.
@@ -223,7 +236,51 @@ bool HasOutline(const QWidget& widget)
            IsOneOf<QComboBox, QCheckBox, QRadioButton, QPushButton, QAbstractSpinBox>(&widget);
 }
 
+/// Whether a page of the page area lies under another one.
+bool IsCovered(const QWidget& widget)
+{
+    for (const QWidget* page = &widget; page->parentWidget() != nullptr; page = page->parentWidget())
+        if (IsOneOf<PageArea>(page->parentWidget()))
+            for (const auto* other :
+                 page->parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+                if (const auto& pages = page->parentWidget()->children();
+                    other->isVisible() && pages.indexOf(other) > pages.indexOf(page))
+                    return true;
+    return false;
+}
+
+/// Looks at what a screen reader finds in an object that is showing, and in all that it holds.
+void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& faults)
+{
+    const QAccessible::State state = told.state();
+    if (state.invisible)
+        return;
+    auto* widget = qobject_cast<QWidget*>(told.object());
+    if (widget != nullptr)
+        owner = widget;
+    const QString what = "told " + NameOf(*owner) + (widget == nullptr ? " part " + told.text(QAccessible::Name) : "");
+    if (!owner->isVisible() || IsCovered(*owner))
+        faults.append(what + " is not seen");
+    // The calendar keeps its chosen day as the current cell.
+    if (state.focused && !owner->hasFocus() && !IsOneOf<QCalendarWidget>(owner->parentWidget()))
+        faults.append(what + " has no focus");
+    if (state.focusable && told.text(QAccessible::Name).trimmed().isEmpty())
+        faults.append(what + " has no name" + NameOf(*owner->parentWidget()));
+    if (told.role() == QAccessible::Button && IsOneOf<EnterButton>(widget) && widget->focusPolicy() == Qt::NoFocus)
+        faults.append(what + " is no button");
+    for (int child = 0; child < qMin(told.childCount(), LookedAtRows * 10); ++child)
+        if (QAccessibleInterface* inner = told.child(child))
+            FindReaderFaults(*inner, owner, faults);
+}
+
 } // namespace
+
+QStringList ScreenReaderFaults(QWidget& window)
+{
+    QStringList faults;
+    FindReaderFaults(*QAccessible::queryAccessibleInterface(&window), &window, faults);
+    return faults;
+}
 
 QStringList LayoutFaults(QWidget& window)
 {
@@ -275,6 +332,33 @@ QStringList ContrastFaults(QWidget& window)
         if (widget->isEnabled() && HasOutline(*widget) && StrongestContrast(picture, part(edge)) < OutlineContrast)
             faults.append("contrast outline of " + NameOf(*widget));
     }
+    return faults;
+}
+
+QStringList FocusFaults(QWidget& window)
+{
+    QStringList faults;
+    // A field that is left like this is not checked.
+    constexpr auto forAWhile = Qt::PopupFocusReason;
+    const QPointer<QWidget> focused = window.focusWidget();
+    window.activateWindow();
+    QApplication::processEvents();
+    for (QWidget* widget : SeenWidgets(window)) {
+        if (!TakesTab(*widget) || widget->visibleRegion().boundingRect() != widget->rect())
+            continue;
+        constexpr int ringRoom = 6;
+        const QRect place = PlaceOf(*widget).adjusted(-ringRoom, -ringRoom, ringRoom, ringRoom) & window.rect();
+        window.setFocus(forAWhile);
+        const QImage without = window.grab(place).toImage();
+        widget->setFocus(forAWhile);
+        const QImage with = window.grab(place).toImage();
+        // Half of a ring of one pixel, for a ring may take the place of an outline that is nearly as strong.
+        const QSize needed = widget->size().boundedTo(widget->sizeHint());
+        if (ChangedPixels(without, with) < (needed.width() + needed.height()) * with.devicePixelRatio())
+            faults.append("ring " + NameOf(*widget));
+    }
+    if (focused != nullptr)
+        focused->setFocus(forAWhile);
     return faults;
 }
 

@@ -14,5 +14,11 @@ QStringList LayoutFaults(QWidget& window);
 /// "contrast": the colours of the window as it is painted.
 QStringList ContrastFaults(QWidget& window);
 
+/// "ring": the controls that do not show the focus, one after the other.
+QStringList FocusFaults(QWidget& window);
+
+/// "told": what a screen reader would tell wrongly, such as a field without a name or a focus that is elsewhere.
+QStringList ScreenReaderFaults(QWidget& window);
+
 /// "default" and "escape". A dialog without a fault is closed afterwards.
 QStringList DialogFaults(QDialog& dialog);

@@ -260,9 +260,9 @@ void TestWindow::Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers m
     Settle();
 }
 
-void TestWindow::PressFocused(Qt::Key key)
+void TestWindow::PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     Settle();
 }
 

@@ -138,7 +138,7 @@ public:
     /// Chooses a group of the menu and one of its sub-options.
     void OpenPage(int group, int suboption);
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void PressFocused(Qt::Key key);
+    void PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     QString FocusedName() const;
     QColor ColourOf(const QString& name, QPalette::ColorRole role) const;
     /// The same of a control array's elements, as "#RRGGBB" with blanks between them.

@@ -1,0 +1,90 @@
+#include "look/input_watch.h"
+
+#include "look/button.h"
+#include "look/shortcut_letters.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QKeyEvent>
+
+namespace {
+
+bool lastInputWasKey = false;
+
+/// Whether the wheel over this widget would change a value that does not have the focus.
+bool WouldChangeUnfocusedValue(const QWidget& widget)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    for (const QWidget* part = &widget; part != nullptr && !part->isWindow(); part = part->parentWidget())
+        if (qobject_cast<const QComboBox*>(part) != nullptr || qobject_cast<const QAbstractSpinBox*>(part) != nullptr ||
+            qobject_cast<const QCalendarWidget*>(part) != nullptr)
+            return part != focused && !part->isAncestorOf(focused);
+    return false;
+}
+
+constexpr char CurrentCellProperty[] = "currentCell";
+
+} // namespace
+
+void HideCurrentCell(QAbstractItemView& view, bool hidden)
+{
+    // The list that a choice folds out and a calendar need their current cell.
+    if (view.selectionModel() == nullptr || view.window()->windowType() == Qt::Popup ||
+        qobject_cast<QCalendarWidget*>(view.parentWidget()) != nullptr)
+        return;
+    QModelIndex shown;
+    if (hidden)
+        view.setProperty(CurrentCellProperty, QPersistentModelIndex(view.currentIndex()));
+    else
+        shown = view.property(CurrentCellProperty).value<QPersistentModelIndex>();
+    if (hidden || shown.isValid())
+        view.selectionModel()->setCurrentIndex(shown, QItemSelectionModel::NoUpdate);
+}
+
+bool LastInputWasKey()
+{
+    return lastInputWasKey;
+}
+
+bool InputWatch::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        lastInputWasKey = true;
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
+            ShowShortcutLetters(event->type() == QEvent::KeyPress);
+        return false;
+    case QEvent::MouseButtonPress:
+        lastInputWasKey = false;
+        return false;
+    case QEvent::WindowDeactivate:
+        ShowShortcutLetters(false);
+        return false;
+    case QEvent::Shortcut:
+        lastInputWasKey = true;
+        return false;
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::EnabledChange:
+        if (const auto* button = qobject_cast<Button*>(watched); button != nullptr && button->window()->isVisible())
+            GiveShortcutLetters(*button->window());
+        return false;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        if (auto* view = qobject_cast<QAbstractItemView*>(watched))
+            HideCurrentCell(*view, event->type() == QEvent::FocusOut);
+        return false;
+    case QEvent::Wheel:
+        if (!watched->isWidgetType() || !WouldChangeUnfocusedValue(*static_cast<QWidget*>(watched)))
+            return false;
+        // What lies around it may roll.
+        event->ignore();
+        return true;
+    default:
+        return false;
+    }
+}
