@@ -12,10 +12,10 @@ const DaySet EveryDay{true, true, true, true, true, true, true};
 const CheckedDraw Draw{QDate(2026, 11, 21), {1, 2, 3, 4, 5, 6, 7}};
 
 /// The report, with the short form of the date, which is the desktop's own, left out.
-QString Report(const std::vector<CheckedUser>& users, const std::vector<CheckedGame>& games,
-               const std::vector<EntryRow>& entries)
+QString Report(const std::vector<CheckedUser>& players, const std::vector<CheckedGame>& games,
+               const std::vector<EntryRow>& playedLines)
 {
-    return WriteCheckReport(users, games, entries).text.remove(QRegularExpression("\\([^)]*2026\\)"));
+    return WriteCheckReport(players, games, playedLines).text.remove(QRegularExpression("\\([^)]*2026\\)"));
 }
 
 } // namespace
@@ -53,18 +53,18 @@ private Q_SLOTS:
 
     void SectionsListWhatIsPlayedOnTheDayOfTheDraw()
     {
-        std::vector<EntryRow> entries(10, EntryRow{1, 1, 1, {}, EveryDay});
+        std::vector<EntryRow> playedLines(10, EntryRow{1, 1, 1, {}, EveryDay});
         // Bob has a winning entry on every day but the one of the draw.
         for (std::size_t day = 0; day < 7; ++day) {
-            entries.push_back({2, 2, 2, {1, 2, 3, 4, 5, 6}, {}});
-            entries.back().days.at(day) = true;
+            playedLines.push_back({2, 2, 2, {1, 2, 3, 4, 5, 6}, {}});
+            playedLines.back().days.at(day) = true;
         }
-        entries[15].numbers = {41, 42, 43, 44, 45, 46};
-        const std::vector<CheckedUser> users{{2, "<b>Bob</b>"}, {1, "Ann"}};
+        playedLines[15].numbers = {41, 42, 43, 44, 45, 46};
+        const std::vector<CheckedUser> players{{2, "<b>Bob</b>"}, {1, "Ann"}};
         QString ten;
         for (int i = 1; i <= 10; ++i)
             ten += QString("    %1>  0 main balls. \r\n").arg(i);
-        QCOMPARE(Report(users, {{&MainGame, Draw}, {&ThunderballGame, Draw}, {&ThunderballGame, {}}}, entries),
+        QCOMPARE(Report(players, {{&MainGame, Draw}, {&ThunderballGame, Draw}, {&ThunderballGame, {}}}, playedLines),
                  "Tavenor v3.0\r\n\r\n"
                  "User: <b>Bob</b>\r\n  Draw type: Main \r\n    No main entries on this date.\r\n"
                  "  Draw type: Thunderball \r\n    1>    0 main balls. \r\n"
@@ -73,7 +73,7 @@ private Q_SLOTS:
                      ten +
                      "  Draw type: Thunderball \r\n    No thunderball entries on this date.\r\n"
                      "  No thunderball draw on this date.\r\n\r\n");
-        QCOMPARE(Report(users, {{&MainGame, {}}}, {}),
+        QCOMPARE(Report(players, {{&MainGame, {}}}, {}),
                  QString("Tavenor v3.0\r\n\r\nThere are no user entries stored."));
     }
 };
