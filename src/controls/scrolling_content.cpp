@@ -17,6 +17,12 @@ ScrollingContent::ScrollingContent(QWidget* content)
             [this](const QWidget* /*before*/, QWidget* now) { BringIntoView(now); });
 }
 
+ScrollingContent::~ScrollingContent()
+{
+    // What has the focus loses it while the content is deleted, when this is no scroll area of its own any more.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void ScrollingContent::BringIntoView(QWidget* focused)
 {
     if (focused != nullptr && widget()->isAncestorOf(focused))

@@ -10,6 +10,9 @@ class ScrollingContent : public QScrollArea
 
 public:
     explicit ScrollingContent(QWidget* content);
+    ~ScrollingContent() override;
+    ScrollingContent(const ScrollingContent&) = delete;
+    ScrollingContent& operator=(const ScrollingContent&) = delete;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
