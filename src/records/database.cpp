@@ -61,7 +61,8 @@ Transaction::Transaction(Database& owner, std::string doingClause) : database(ow
         table->KeepChanges();
 }
 
-Transaction::~Transaction()
+// Where memory is lacking to take back what the rows show, the program ends rather than show what is not stored.
+Transaction::~Transaction() // NOLINT(bugprone-exception-escape)
 {
     if (open && database.IsOpen())
         database.RollBack();

@@ -51,7 +51,7 @@ public:
     /// `doing` is the clause that a failure carries, such as "The entries could not be stored". Throws Failure.
     Transaction(Database& owner, std::string doing);
     /// What is not committed is taken back.
-    ~Transaction();
+    ~Transaction(); // NOLINT(bugprone-exception-escape)
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
