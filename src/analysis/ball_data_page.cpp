@@ -23,8 +23,7 @@ int PageOf(const Game& game)
 
 void ShowIn(const LabelledBall& disc, const Game& game, int slot, int ball)
 {
-    const BallColours colours = ColoursOfBall(game, slot, ball);
-    disc.Show(TwoDigits(ball), QColor(colours.ball), QColor(colours.number));
+    disc.Show(TwoDigits(ball), ColoursOfBall(game, slot, ball));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "balls/ball_disc.h"
 
+#include "game/ball_colours.h"
 #include "look/theme.h"
 
 #include <QEvent>
@@ -42,7 +43,6 @@ BallDisc::BallDisc(QWidget* parent) : QWidget(parent)
 void BallDisc::Carry(QWidget* number)
 {
     carried = number;
-    carried->setParent(this);
     carried->installEventFilter(this);
     PlaceNumber();
 }
@@ -78,11 +78,8 @@ void BallDisc::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor colour = palette().color(QPalette::Window);
     const QRectF ball = BallRect();
-
-    PaintBall(painter, ball, colour);
-
+    PaintBall(painter, ball, palette().color(QPalette::Window));
     if (carried != nullptr && carried->hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2.5));
@@ -131,21 +128,11 @@ void BallDisc::PlaceNumber()
                          height);
 }
 
-BallDivider::BallDivider(QWidget* parent) : QWidget(parent)
+void LabelledBall::Show(const QString& text, const BallColours& colours) const
 {
-    setFixedWidth(Spacing::Between + 1);
-}
-
-void BallDivider::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter(this).fillRect(QRect(width() / 2, 0, 1, height()), palette().color(QPalette::Mid));
-}
-
-void LabelledBall::Show(const QString& text, const QColor& ball, const QColor& digits) const
-{
-    disc->SetColour(ball);
+    disc->SetColour(QColor::fromRgb(colours.ball));
     QPalette palette = number->palette();
-    palette.setColor(QPalette::WindowText, digits);
+    palette.setColor(QPalette::WindowText, QColor::fromRgb(colours.number));
     number->setPalette(palette);
     number->setText(text);
 }

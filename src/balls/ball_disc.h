@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QLabel;
+struct BallColours;
 
 /// Paints a ball of one colour, lit from the upper left, with a thin dark outline and a soft shadow. The shadow needs
 /// about three pixels around the ball.
@@ -18,7 +19,7 @@ class BallDisc : public QWidget
 public:
     explicit BallDisc(QWidget* parent = nullptr);
 
-    /// Puts the control that shows the number onto the ball; the ball draws a ring while it has the focus.
+    /// Takes the control on the ball that shows the number; the ball draws a ring while it has the focus.
     void Carry(QWidget* number);
     void SetColour(const QColor& colour);
     /// Makes the ball a little smaller, for two draws that stand side by side.
@@ -42,26 +43,15 @@ private:
     bool compact = false;
 };
 
-/// The line that sets the extra ball apart, with its room.
-class BallDivider : public QWidget
-{
-public:
-    explicit BallDivider(QWidget* parent);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
 /// A ball with a label on it.
 struct LabelledBall
 {
     BallDisc* disc;
     QLabel* number;
 
-    /// Shows a number in the given colours.
-    void Show(const QString& text, const QColor& ball, const QColor& digits) const;
+    void Show(const QString& text, const BallColours& colours) const;
 };
 
-/// Puts a label of that object name on a ball.
+/// Puts a label of that object name on a ball that has no number yet, or on a new one.
 LabelledBall PutLabelOn(BallDisc* disc, const QString& numberName);
 LabelledBall MakeLabelledBall(const QString& discName, const QString& numberName, QWidget* parent);

@@ -6,11 +6,13 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
+#include "game/game.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -32,15 +34,15 @@ public:
 
 } // namespace
 
-BallFields::BallFields(const Names& names, const QStringList& captionTexts, QWidget* parent)
-    : BallLine(names, captionTexts, parent), givenTexts(static_cast<size_t>(captionTexts.size()))
+BallFields::BallFields(const Names& names, const Game* drawGame) : BallLine(names, drawGame)
 {
     for (int slot = 0; slot < Count(); ++slot) {
         auto* field = new BallEdit(Disc(slot));
-        field->setObjectName(ElementName(names.number, names.indices.at(static_cast<size_t>(slot))));
+        field->setObjectName(ElementName(names.number, ElementOf(slot, drawGame)));
         Disc(slot)->Carry(field);
-        fields.push_back(field);
-        SetCaption(slot, captionTexts[slot]);
+        fields.append(field);
+        givenTexts.append(QString());
+        SetCaption(slot, Caption(slot)->text());
         ConnectGuarded(field, &BallEdit::EnterPressed, this, [this, slot] { EnterPressed(slot); });
         ConnectGuarded(field, &BallEdit::Left, this, [this, slot] { FieldLeft(slot); });
     }
@@ -56,25 +58,9 @@ double BallFields::NumberIn(int slot) const
     return NumericValue(Text(slot));
 }
 
-DrawBalls BallFields::TypedDraw() const
-{
-    DrawBalls balls{};
-    for (int slot = 0; slot < Count(); ++slot)
-        balls.at(static_cast<size_t>(slot)) = NumberIn(slot);
-    return balls;
-}
-
-EntryNumbers BallFields::TypedEntry() const
-{
-    EntryNumbers numbers{};
-    for (int slot = 0; slot < Count(); ++slot)
-        numbers.at(static_cast<size_t>(slot)) = NumberIn(slot);
-    return numbers;
-}
-
 void BallFields::SetText(int slot, const QString& text)
 {
-    givenTexts.at(static_cast<size_t>(slot)) = text;
+    givenTexts[slot] = text;
     Field(slot)->setText(text);
 }
 
@@ -87,18 +73,14 @@ void BallFields::Show(std::span<const double> numbers)
 
 void BallFields::Sort(int count)
 {
-    bool exchanged = true;
-    while (exchanged) {
-        exchanged = false;
-        for (int slot = 0; slot + 1 < count; ++slot) {
-            if (NumberIn(slot) <= NumberIn(slot + 1))
-                continue;
-            const QString text = Text(slot);
-            SetText(slot, Text(slot + 1));
-            SetText(slot + 1, text);
-            exchanged = true;
-        }
-    }
+    QStringList texts;
+    for (int slot = 0; slot < count; ++slot)
+        texts.append(Text(slot));
+    std::stable_sort(texts.begin(), texts.end(), [](const QString& left, const QString& right) {
+        return NumericValue(left) < NumericValue(right);
+    });
+    for (int slot = 0; slot < count; ++slot)
+        SetText(slot, texts[slot]);
     Recolour();
 }
 
@@ -117,8 +99,7 @@ void BallFields::FocusField(int slot)
 void BallFields::SetCaption(int slot, const QString& caption)
 {
     Caption(slot)->setText(caption);
-    const bool numbered = caption.startsWith("Ball"_L1);
-    Field(slot)->setAccessibleName(numbered || caption == "Thunderball"_L1 ? caption : caption + u" ball"_s);
+    Field(slot)->setAccessibleName(caption == MainGame.extraBallName ? u"Bonus ball"_s : caption);
 }
 
 void BallFields::SelectTextOnFocus()
@@ -137,10 +118,9 @@ void BallFields::EnterPressed(int slot)
 
 BallFieldVerdict BallFields::Check(int slot) const
 {
-    const QString text = Text(slot);
-    if (!text.isEmpty() && text == givenTexts.at(static_cast<size_t>(slot)))
+    if (!Text(slot).isEmpty() && Text(slot) == givenTexts[slot])
         return {ColoursOfBall(*rule.game, slot, NumberIn(slot)), {}};
-    return CheckBallField(rule, slot, text);
+    return CheckBallField(rule, slot, Text(slot));
 }
 
 void BallFields::FieldLeft(int slot)

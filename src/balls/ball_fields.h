@@ -2,8 +2,6 @@
 
 #include "balls/ball_line.h"
 #include "game/ball_field_rules.h"
-#include "game/draw_row.h"
-#include "game/entry_row.h"
 
 #include <span>
 
@@ -17,15 +15,22 @@ class BallFields : public BallLine
     Q_OBJECT
 
 public:
-    BallFields(const Names& names, const QStringList& captionTexts, QWidget* parent = nullptr);
+    /// Without a game the balls are those of an entry.
+    explicit BallFields(const Names& names, const Game* drawGame = nullptr);
 
     /// The rule by which a field is checked. It may be changed at any time.
     void SetRule(const BallFieldRule& fieldRule) { rule = fieldRule; }
 
     QString Text(int slot) const;
-    /// The numeric values of all fields, as the balls of a draw or the numbers of an entry.
-    DrawBalls TypedDraw() const;
-    EntryNumbers TypedEntry() const;
+    /// The numeric values of all fields, as DrawBalls or EntryNumbers.
+    template <typename Numbers>
+    Numbers Typed() const
+    {
+        Numbers numbers{};
+        for (int slot = 0; slot < Count(); ++slot)
+            numbers.at(static_cast<size_t>(slot)) = NumberIn(slot);
+        return numbers;
+    }
 
     /// Checks every field, as if it were left; tells the first one that is refused, and empties and focuses it.
     bool AreAccepted();
@@ -37,7 +42,7 @@ public:
     void Clear();
 
     void FocusField(int slot);
-    BallEdit* Field(int slot) const { return fields.at(static_cast<size_t>(slot)); }
+    BallEdit* Field(int slot) const { return fields[slot]; }
     /// Names a slot for the eye and for a screen reader.
     void SetCaption(int slot, const QString& caption);
     /// Selects the whole text of a field that gets the focus, so that typing replaces it.
@@ -58,7 +63,7 @@ private:
     void SetColours(int slot, const BallColours& colours);
 
     BallFieldRule rule = {};
-    std::vector<BallEdit*> fields;
+    QList<BallEdit*> fields;
     /// What the page has put into each field.
-    std::vector<QString> givenTexts;
+    QStringList givenTexts;
 };

@@ -2,35 +2,60 @@
 
 #include "balls/ball_disc.h"
 #include "controls/label.h"
+#include "game/game.h"
 #include "look/theme.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 
-BallLine::BallLine(const Names& names, const QStringList& captionTexts, QWidget* parent)
-    : QWidget(parent), gap(new BallDivider(this))
+namespace {
+
+/// The line that sets the extra ball apart, with its room.
+class BallDivider : public QWidget
 {
+public:
+    explicit BallDivider(QWidget* parent) : QWidget(parent) { setFixedWidth(Spacing::Between + 1); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter(this).fillRect(QRect(width() / 2, 0, 1, height()), palette().color(QPalette::Mid));
+    }
+};
+
+} // namespace
+
+BallLine::BallLine(const Names& names, const Game* drawGame) : divider(new BallDivider(this))
+{
+    const Game& game = drawGame != nullptr ? *drawGame : MainGame;
+    const int count = drawGame != nullptr ? game.BallCount() : EntryBalls;
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     // The balls bring room for their shadows and their rings.
     row->setSpacing(0);
-    for (int slot = 0; slot < captionTexts.size(); ++slot) {
-        auto* disc = new BallDisc(this);
-        disc->setObjectName(ElementName(names.disc, names.indices.at(static_cast<size_t>(slot))));
-        discs.push_back(disc);
-        captions.push_back(MakeLabel(captionTexts[slot], TextRole::Caption, {}, this));
-        captions.back()->setHidden(names.caption.isEmpty());
+    for (int slot = 0; slot < count; ++slot) {
+        discs.append(new BallDisc(this));
+        discs.last()->setObjectName(ElementName(names.disc, ElementOf(slot, drawGame)));
+        captions.append(MakeLabel(game.BallCaption(slot), TextRole::Caption, {}, this));
+        QLabel* caption = captions.last();
+        caption->setHidden(names.caption.isEmpty());
         if (!names.caption.isEmpty())
-            captions.back()->setObjectName(ElementName(names.caption, names.firstCaption + slot));
-        captions.back()->setAlignment(Qt::AlignCenter);
+            caption->setObjectName(ElementName(names.caption, drawGame != nullptr ? slot : slot + 1));
+        caption->setAlignment(Qt::AlignCenter);
         // With a large font the captions are wider than the balls, and must not run together.
-        captions.back()->setContentsMargins(Spacing::Inside / 2, 0, Spacing::Inside / 2, 0);
-        if (slot + 1 == captionTexts.size())
-            row->addWidget(gap);
+        caption->setContentsMargins(Spacing::Inside / 2, 0, Spacing::Inside / 2, 0);
+        if (slot + 1 == count)
+            row->addWidget(divider);
         auto* column = new QVBoxLayout;
         column->setSpacing(Spacing::Inside);
-        column->addWidget(disc, 0, Qt::AlignHCenter | Qt::AlignTop);
-        column->addWidget(captions.back(), 0, Qt::AlignHCenter);
+        column->addWidget(discs.last(), 0, Qt::AlignHCenter | Qt::AlignTop);
+        column->addWidget(caption, 0, Qt::AlignHCenter);
         row->addLayout(column);
     }
     row->addStretch(1);
+}
+
+int BallLine::ElementOf(int slot, const Game* drawGame)
+{
+    return drawGame != nullptr && drawGame->IsExtra(slot) ? 0 : slot + 1;
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QStringList>
+#include <QLabel>
+#include <QList>
 #include <QWidget>
 
-#include <vector>
-
 class BallDisc;
-class QLabel;
+struct Game;
 
 /// Balls side by side in slot order, with captions under them: what a row to be read and a row to be typed in share.
 class BallLine : public QWidget
@@ -14,30 +13,31 @@ class BallLine : public QWidget
     Q_OBJECT
 
 public:
-    /// The object names of the control arrays, and the index of each slot in those of the balls. Captions without a
-    /// name are hidden.
+    /// The object names of the control arrays. Captions without a name are hidden.
     struct Names
     {
         QString number;
         QString disc;
-        QString caption;
-        std::vector<int> indices;
-        /// The index of the first caption; the others follow it.
-        int firstCaption = 0;
+        QString caption = {};
     };
 
     int Count() const { return static_cast<int>(discs.size()); }
-    BallDisc* Disc(int slot) const { return discs.at(static_cast<size_t>(slot)); }
-    QLabel* Caption(int slot) const { return captions.at(static_cast<size_t>(slot)); }
-    QLabel* LastCaption() const { return captions.back(); }
+    BallDisc* Disc(int slot) const { return discs[slot]; }
+    QLabel* Caption(int slot) const { return captions[slot]; }
+    QLabel* LastCaption() const { return captions.last(); }
     /// The divider before the last ball, where the extra ball stands apart.
-    void SetLastApart(bool apart) { gap->setVisible(apart); }
+    void SetLastApart(bool apart) { divider->setVisible(apart); }
 
 protected:
-    BallLine(const Names& names, const QStringList& captionTexts, QWidget* parent);
+    /// The balls of a draw of the game, or of an entry where there is none: then they have the captions of a Main
+    /// entry.
+    BallLine(const Names& names, const Game* drawGame);
+
+    /// The index of a slot in the control arrays of the balls: 0 for the extra ball of a draw; all others count from 1.
+    static int ElementOf(int slot, const Game* drawGame);
 
 private:
-    std::vector<BallDisc*> discs;
-    std::vector<QLabel*> captions;
-    QWidget* gap;
+    QList<BallDisc*> discs;
+    QList<QLabel*> captions;
+    QWidget* divider;
 };

@@ -5,20 +5,18 @@
 #include "game/ball_colours.h"
 #include "game/game.h"
 
-BallRow::BallRow(const Names& names, const QStringList& captionTexts, QWidget* parent)
-    : BallLine(names, captionTexts, parent)
+BallRow::BallRow(const Names& names, const Game* drawGame) : BallLine(names, drawGame)
 {
     for (int slot = 0; slot < Count(); ++slot)
-        balls.push_back(PutLabelOn(Disc(slot), ElementName(names.number, names.indices.at(static_cast<size_t>(slot)))));
+        balls.append(PutLabelOn(Disc(slot), ElementName(names.number, ElementOf(slot, drawGame))));
 }
 
 void BallRow::Show(const Game& game, std::span<const double> numbers)
 {
-    for (size_t slot = 0; slot < balls.size() && slot < numbers.size(); ++slot) {
-        const BallColours colours = ColoursOfBall(game, static_cast<int>(slot), numbers[slot]);
-        const QString text = PlainNumber(numbers[slot]);
-        balls[slot].Show(text, QColor::fromRgb(colours.ball), QColor::fromRgb(colours.number));
-        balls[slot].number->setAccessibleName(game.BallCaption(static_cast<int>(slot)) + u' ' + text);
+    for (int slot = 0; slot < Count(); ++slot) {
+        const double number = numbers[static_cast<size_t>(slot)];
+        balls[slot].Show(PlainNumber(number), ColoursOfBall(game, slot, number));
+        balls[slot].number->setAccessibleName(game.BallCaption(slot) + u' ' + PlainNumber(number));
     }
 }
 

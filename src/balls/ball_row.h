@@ -5,22 +5,21 @@
 
 #include <span>
 
-struct Game;
-
 /// The balls of a draw or an entry, to be read only: labels on discs.
 class BallRow : public BallLine
 {
     Q_OBJECT
 
 public:
-    BallRow(const Names& names, const QStringList& captionTexts, QWidget* parent = nullptr);
+    /// Without a game the balls are those of an entry.
+    explicit BallRow(const Names& names, const Game* drawGame = nullptr);
 
-    /// Shows the numbers, in slot order, in the colours of the game.
+    /// Shows the numbers, one for each ball in slot order, in the colours of the game.
     void Show(const Game& game, std::span<const double> numbers);
 
     /// Makes the balls a little smaller, for two draws that stand side by side.
     void MakeCompact();
 
 private:
-    std::vector<LabelledBall> balls;
+    QList<LabelledBall> balls;
 };

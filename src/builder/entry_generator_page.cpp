@@ -15,7 +15,7 @@
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
-#include "users/user_choice.h"
+#include "users/choices.h"
 
 #include <QComboBox>
 #include <QPushButton>

@@ -100,9 +100,12 @@ bool PageFrame::focusNextPrevChild(bool next)
 {
     QWidget* focused = window()->focusWidget();
     const bool vanished = isAncestorOf(focused) && (!focused->isVisible() || !focused->isEnabled());
-    if (vanished && isVisible() && isEnabled() && FocusNextOnPage(focused))
-        return true;
-    return QFrame::focusNextPrevChild(next);
+    if (!vanished || !isVisible())
+        return QFrame::focusNextPrevChild(next);
+    // Where nothing else can take the keys, the page itself does: in the menu Enter would leave it.
+    if (!FocusNextOnPage(focused))
+        setFocus();
+    return true;
 }
 
 void PageFrame::PutFooterLastInTabOrder()

@@ -1,14 +1,13 @@
 #include "draws/add_draw_page.h"
 
 #include "balls/ball_fields.h"
-#include "balls/ball_names.h"
 #include "controls/card.h"
 #include "controls/card_row.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "controls/month_calendar.h"
+#include "draws/draw_fields.h"
 #include "draws/draw_prompt.h"
-#include "draws/machine_fields.h"
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
@@ -16,95 +15,49 @@
 #include "store/open_databases.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the page of one game is called and says where it differs from the other's.
-struct PageTexts
+DrawFields* MakeFields(const Game& game)
 {
-    int page;
-    QString title;
-    QString titleName;
-    QString calendar;
-    QString field;
-    QString disc;
-    QString caption;
-    QString firstCaption;
-    QString frame;
-    QString gameInQuestion;
-    QString stored;
-};
-
-const PageTexts MainTexts{6,
-                          u"Main Draw"_s,
-                          u"Label1"_s,
-                          u"F6Cal"_s,
-                          u"F6MBall1"_s,
-                          u"F6MBall"_s,
-                          u"F6Mlabel"_s,
-                          u"F6Mlabel_0"_s,
-                          u"F6FMain"_s,
-                          u"main"_s,
-                          u"The new main draw data has been stored."_s};
-const PageTexts ThunderballTexts{7,
-                                 u"Thunderball Draw"_s,
-                                 u"Label2"_s,
-                                 u"F7cal"_s,
-                                 u"F7TBall1"_s,
-                                 u"F7TBall"_s,
-                                 u"F7Tlabel"_s,
-                                 u"F7Tabel"_s,
-                                 u"F7FThunder"_s,
-                                 u"thunderball"_s,
-                                 u"The new Thunderball draw data has been stored."_s};
-
-const PageTexts& TextsOf(const Game& game)
-{
-    return game.IsMain() ? MainTexts : ThunderballTexts;
+    const QString prefix = game.IsMain() ? u"F6M"_s : u"F7T"_s;
+    auto* fields = new DrawFields(
+        game, AddingRule(game),
+        {{prefix + u"Ball1"_s, prefix + u"Ball"_s, prefix + u"label"_s}, prefix + u"machine"_s, prefix + u"ballset"_s});
+    if (!game.IsMain())
+        fields->Balls()->Caption(0)->setObjectName(u"F7Tabel"_s);
+    return fields;
 }
 
 } // namespace
 
 AddDrawPage::AddDrawPage(const Game& drawGame)
-    : PageFrame(TextsOf(drawGame).page, TextsOf(drawGame).title, TextsOf(drawGame).titleName),
+    : PageFrame(drawGame.IsMain() ? 6 : 7, drawGame.name + u" Draw"_s, drawGame.IsMain() ? u"Label1"_s : u"Label2"_s),
       game(drawGame),
       calendar(new MonthCalendar),
-      balls(new BallFields(DrawBallNames(game, TextsOf(game).field, TextsOf(game).disc, TextsOf(game).caption),
-                           DrawBallCaptions(game)))
+      fields(MakeFields(game))
 {
-    calendar->setObjectName(TextsOf(game).calendar);
-    balls->SetRule(AddingRule(game));
-    balls->Caption(0)->setObjectName(TextsOf(game).firstCaption);
     BuildCards();
     reset = AddFooterButton(u"Reset"_s, ControlName(u"Reset"_s));
     store = AddFooterDefault(u"Store"_s, ControlName(u"Store"_s));
-    ConnectGuarded(calendar, &MonthCalendar::DateChosen, this, [this] { balls->FocusField(0); });
-    ConnectGuarded(balls, &BallFields::Completed, this, [this] {
-        (machines != nullptr ? static_cast<QWidget*>(machines) : store)->setFocus(Qt::TabFocusReason);
-    });
-    if (machines != nullptr)
-        connect(machines, &MachineFields::Completed, store, [this] { store->setFocus(Qt::TabFocusReason); });
+    ConnectGuarded(calendar, &MonthCalendar::DateChosen, this, [this] { fields->Balls()->FocusField(0); });
+    ConnectGuarded(fields, &DrawFields::Completed, this, [this] { store->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Prepare(); });
     ConnectGuarded(store, &QPushButton::clicked, this, [this] { Store_Click(); });
 }
 
 void AddDrawPage::BuildCards()
 {
+    calendar->setObjectName(game.IsMain() ? u"F6Cal"_s : u"F7cal"_s);
     auto* dateCard = new Card;
     dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(calendar);
     auto* drawCard = new Card;
-    drawCard->setObjectName(TextsOf(game).frame);
-    drawCard->Content()->addWidget(balls);
-    if (game.hasMachine) {
-        machines = new MachineFields(ControlName(u"Mmachine"_s), ControlName(u"Mballset"_s), TextsOf(game).caption);
-        drawCard->Content()->addSpacing(Spacing::Between);
-        drawCard->Content()->addWidget(machines);
-    }
+    drawCard->setObjectName(game.IsMain() ? u"F6FMain"_s : u"F7FThunder"_s);
+    drawCard->Content()->addWidget(fields);
     drawCard->Content()->addStretch(1);
     auto* cards = new CardRow;
     cards->addWidget(dateCard);
@@ -115,57 +68,43 @@ void AddDrawPage::BuildCards()
 
 void AddDrawPage::Prepare()
 {
-    if (machines != nullptr)
-        machines->Show({}, {});
     show();
-    balls->Clear();
-    balls->FocusField(0);
+    fields->Clear();
+    fields->Balls()->FocusField(0);
 }
 
 void AddDrawPage::Store_Click()
 {
-    if (!IsPossibleDraw(game, balls->TypedDraw())) {
+    if (!IsPossibleDraw(game, fields->Read().balls)) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Store' again."_s);
         return;
     }
-    balls->Sort(game.mainBalls);
-    if (!StoreDraw(ReadControls())) {
+    fields->Sort();
+    EnteredDraw draw = fields->Read();
+    draw.date = calendar->selectedDate();
+    if (!StoreDraw(draw)) {
         ShowMessage(u"The data has NOT been stored."_s);
         return;
     }
     Prepare();
-    ShowMessage(TextsOf(game).stored);
-}
-
-EnteredDraw AddDrawPage::ReadControls() const
-{
-    EnteredDraw draw;
-    draw.date = calendar->selectedDate();
-    draw.balls = balls->TypedDraw();
-    if (machines != nullptr)
-        machines->Read(draw);
-    return draw;
+    ShowMessage(game.IsMain() ? u"The new main draw data has been stored."_s
+                              : u"The new Thunderball draw data has been stored."_s);
 }
 
 bool AddDrawPage::StoreDraw(const EnteredDraw& draw)
 {
     auto choice = DrawPromptChoice::AddNewDraw;
     if (FindDrawByDate(DrawsOf(game), draw.date)) {
-        DrawPrompt frmmsgbox1(TextsOf(game).gameInQuestion, this);
+        DrawPrompt frmmsgbox1(game.InSentence(), this);
         frmmsgbox1.exec();
         choice = frmmsgbox1.MsgBoxChoice();
     }
-    switch (choice) {
-    case DrawPromptChoice::AddNewDraw:
+    if (choice == DrawPromptChoice::AddNewDraw)
         StoreNewDraw(game, draw);
-        return true;
-    case DrawPromptChoice::OverwriteExistingDraw:
+    else if (choice == DrawPromptChoice::OverwriteExistingDraw)
         OverwriteDrawOfDate(game, draw);
-        return true;
-    case DrawPromptChoice::Cancel:
-    case DrawPromptChoice::None:
-        break;
-    }
-    return false;
+    else
+        return false;
+    return true;
 }

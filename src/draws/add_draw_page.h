@@ -1,13 +1,10 @@
 #pragma once
 
 #include "controls/page_frame.h"
-#include "store/draw_records.h"
 
-#include <optional>
-
-class BallFields;
-class MachineFields;
+class DrawFields;
 class MonthCalendar;
+struct EnteredDraw;
 struct Game;
 
 /// Pages 6 and 7: the result of a draw of the game is typed in, checked and stored.
@@ -25,15 +22,12 @@ private:
     void BuildCards();
     /// F6Store_Click, F7Store_Click.
     void Store_Click();
-    EnteredDraw ReadControls() const;
     /// Stores the draw as a new row, or over the row of the same date when the player wants that; false on Cancel.
     bool StoreDraw(const EnteredDraw& draw);
 
     const Game& game;
     MonthCalendar* calendar;
-    BallFields* balls;
-    /// In the Main game only.
-    MachineFields* machines = nullptr;
+    DrawFields* fields;
     Button* reset;
     Button* store;
 };

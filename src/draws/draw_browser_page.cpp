@@ -1,7 +1,6 @@
 #include "draws/draw_browser_page.h"
 
 #include "balls/ball_row.h"
-#include "controls/card.h"
 #include "controls/card_row.h"
 #include "controls/guard.h"
 #include "controls/keeping_room.h"
@@ -25,58 +24,44 @@ QString ControlName(const Game& game, const QString& name)
     return (game.IsMain() ? u"F9M"_s : u"F9T"_s) + name;
 }
 
-QString GameInSentence(const Game& game)
-{
-    return game.name.toLower();
-}
-
 } // namespace
 
-BrowserSection::BrowserSection(const Game& drawGame, QWidget* parent)
-    : QObject(parent),
-      game(drawGame),
+BrowserSection::BrowserSection(const Game& drawGame)
+    : game(drawGame),
       list(DrawListOf(game)),
-      card(new Card(parent)),
-      frame(new QFrame(card)),
       draw(new DrawView(game,
                         {QString(), ControlName(game, u"ballnum"_s), ControlName(game, u"ball"_s),
                          ControlName(game, u"label"_s), ControlName(game, u"machine"_s),
                          ControlName(game, u"setofballs"_s)},
-                        {u"Machine:  "_s, u"Set of balls:  "_s})),
-      noDraw(MakeLabel(u"There was no %1 draw on this date."_s.arg(GameInSentence(game)), TextRole::Body,
-                       ControlName(game, u"nodraw"_s), card)),
-      back(new Button(u"<"_s, ControlName(game, u"back"_s), card)),
-      forward(new Button(u">"_s, ControlName(game, u"forward"_s), card))
+                        u"Machine:  "_s, u"Set of balls:  "_s)),
+      noDraw(MakeLabel(u"There was no %1 draw on this date."_s.arg(game.InSentence()), TextRole::Body,
+                       ControlName(game, u"nodraw"_s))),
+      back(KeepingRoom(new Button(u"<"_s, ControlName(game, u"back"_s)))),
+      forward(KeepingRoom(new Button(u">"_s, ControlName(game, u"forward"_s))))
 {
+    draw->setObjectName(ControlName(game, u"frame"_s));
     draw->Balls()->MakeCompact();
-    AddArrows();
-    frame->setObjectName(ControlName(game, u"frame"_s));
-    auto* framed = new QVBoxLayout(frame);
-    framed->setContentsMargins(0, 0, 0, 0);
-    framed->addWidget(draw);
-    card->Content()->addWidget(frame);
-    card->Content()->addWidget(noDraw);
-    card->Content()->addStretch(1);
     noDraw->setForegroundRole(QPalette::PlaceholderText);
+    AddHeading();
+    Content()->addWidget(draw);
+    Content()->addWidget(noDraw);
+    Content()->addStretch(1);
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
     ConnectGuarded(forward, &QPushButton::clicked, this, [this] { Forward_Click(); });
 }
 
-void BrowserSection::AddArrows()
+void BrowserSection::AddHeading()
 {
+    const QString which = u"%1 %2 draw of this date"_s;
+    back->setAccessibleName(which.arg(u"Previous"_s, game.InSentence()));
+    forward->setAccessibleName(which.arg(u"Next"_s, game.InSentence()));
     auto* heading = new QHBoxLayout;
-    heading->addWidget(MakeLabel(game.IsMain() ? u"Main Draw"_s : u"Thunderball Draw"_s, TextRole::Heading,
-                                 ControlName(game, u"labelmain"_s)),
-                       1);
+    heading->addWidget(MakeLabel(game.name + u" Draw"_s, TextRole::Heading, ControlName(game, u"labelmain"_s)), 1);
     for (Button* arrow : {back, forward}) {
-        KeepingRoom(arrow);
         arrow->setMaximumHeight(arrow->fontMetrics().height() + Spacing::Between);
         heading->addWidget(arrow);
     }
-    const QString which = u"%1 %2 draw of this date"_s;
-    back->setAccessibleName(which.arg(u"Previous"_s, GameInSentence(game)));
-    forward->setAccessibleName(which.arg(u"Next"_s, GameInSentence(game)));
-    card->Content()->addLayout(heading);
+    Content()->addLayout(heading);
 }
 
 void BrowserSection::Find(QDate date)
@@ -93,7 +78,7 @@ void BrowserSection::Find(QDate date)
     back->hide();
     forward->setVisible(another);
     noDraw->setVisible(!found);
-    frame->setVisible(found);
+    draw->setVisible(found);
 }
 
 void BrowserSection::Forward_Click()
@@ -126,18 +111,18 @@ void BrowserSection::ShowDraw()
 
 DrawBrowserPage::DrawBrowserPage()
     : PageFrame(9, u"View Any Single Draw"_s),
-      F9Cal(new MonthCalendar(this)),
-      mainSection(new BrowserSection(MainGame, this)),
-      thunderballSection(new BrowserSection(ThunderballGame, this))
+      F9Cal(new MonthCalendar),
+      mainSection(new BrowserSection(MainGame)),
+      thunderballSection(new BrowserSection(ThunderballGame))
 {
     F9Cal->setObjectName(u"F9Cal"_s);
-    auto* dateCard = new Card(this);
+    auto* dateCard = new Card;
     dateCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     dateCard->Content()->addWidget(F9Cal);
     auto* draws = new QVBoxLayout;
     draws->setSpacing(Spacing::Cards);
-    for (const BrowserSection* section : {mainSection, thunderballSection})
-        draws->addWidget(section->View());
+    draws->addWidget(mainSection);
+    draws->addWidget(thunderballSection);
     draws->addStretch(1);
     auto* columns = new CardRow;
     columns->addWidget(dateCard, 0, Qt::AlignTop);

@@ -1,37 +1,34 @@
 #pragma once
 
+#include "controls/card.h"
 #include "controls/page_frame.h"
 
 #include <QDate>
 #include <QLabel>
 
-class Card;
 class DrawView;
 class MonthCalendar;
 class RecordSet;
 struct Game;
 
 /// The draws of one game on a date: the one on which the list stands, with arrows to the others of that date.
-class BrowserSection : public QObject
+class BrowserSection : public Card
 {
     Q_OBJECT
 
 public:
-    /// Makes the section's card; it belongs to `parent`.
-    BrowserSection(const Game& drawGame, QWidget* parent);
-
-    Card* View() const { return card; }
+    explicit BrowserSection(const Game& drawGame);
 
     /// FindDrawsOfDate for this game: shows the draw that stands last in the list, or that there is none.
     void Find(QDate date);
 
 private:
-    void AddArrows();
+    void AddHeading();
     /// F9Mforward_Click, F9Tforward_Click: one record towards the list's start.
     void Forward_Click();
     /// F9Mback_Click, F9Tback_Click: one record towards the list's end.
     void Back_Click();
-    /// Moves one record on; hides the arrow that led there when there is no further draw of the date behind it.
+    /// Moves one record on, and hides the arrow that led there when there is no further draw of the date.
     void Step(int direction, Button* arrow, Button* opposite);
     /// ShowBrowserMainDraw, ShowBrowserThunderDraw.
     void ShowDraw();
@@ -39,8 +36,6 @@ private:
     const Game& game;
     RecordSet& list;
     QDate shownDate;
-    Card* card;
-    QFrame* frame;
     DrawView* draw;
     QLabel* noDraw;
     Button* back;

@@ -19,5 +19,4 @@ public:
 private:
     const Game& game;
     DrawView* draw;
-    Button* back;
 };

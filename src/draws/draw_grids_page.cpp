@@ -16,52 +16,19 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// What differs between the two sections.
-struct SectionTexts
-{
-    int index;
-    QString title;
-    QString grid;
-    QString noDraws;
-    /// The game in the buttons' names and in the questions.
-    QString inNames;
-    QString inQuestions;
-    int detailPage;
-    int editPage;
-};
-
-const SectionTexts MainTexts{
-    0, u"Main Draw"_s, u"F10Grid1"_s, u"There are no main draws stored."_s, u"main"_s, u"main"_s, 14, 16};
-const SectionTexts ThunderballTexts{1,
-                                    u"Thunderball Draw"_s,
-                                    u"F10Grid2"_s,
-                                    u"There are no Thunderball draws stored."_s,
-                                    u"thunder"_s,
-                                    u"thunderball"_s,
-                                    15,
-                                    17};
-
-const SectionTexts& TextsOf(const Game& game)
-{
-    return game.IsMain() ? MainTexts : ThunderballTexts;
-}
-
-} // namespace
-
-DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, QWidget* parent)
-    : QWidget(parent),
-      game(drawGame),
+DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch)
+    : game(drawGame),
       pages(pageSwitch),
       model(new DrawGridModel(game, this)),
-      card(new Card),
-      grid(new GridView(TextsOf(game).grid, TextsOf(game).title)),
-      noDraws(MakeLabel(TextsOf(game).noDraws, TextRole::Body, ElementName(u"Label"_s, TextsOf(game).index)))
+      grid(new GridView(game.IsMain() ? u"F10Grid1"_s : u"F10Grid2"_s, game.name + u" Draw"_s)),
+      noDraws(
+          MakeLabel(game.IsMain() ? u"There are no main draws stored."_s : u"There are no Thunderball draws stored."_s,
+                    TextRole::Body, game.IsMain() ? u"Label_0"_s : u"Label_1"_s))
 {
     grid->setModel(model);
     grid->SetColumnShares(DrawGridModel::ColumnShares(game));
     noDraws->setAlignment(Qt::AlignCenter);
+    auto* card = new Card;
     card->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
     card->Content()->addWidget(grid);
     card->Content()->addWidget(noDraws);
@@ -69,40 +36,37 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, Q
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Spacing::Inside);
     layout->addWidget(
-        MakeLabel(TextsOf(game).title, TextRole::Heading, ElementName(u"labeltitle"_s, TextsOf(game).index)));
+        MakeLabel(game.name + u" Draw"_s, TextRole::Heading, game.IsMain() ? u"labeltitle_0"_s : u"labeltitle_1"_s));
     layout->addWidget(card, 1);
-    BuildButtons();
+    layout->addLayout(MakeButtons());
     ConnectGuarded(grid, &GridView::Opened, this, [this] { View_Click(); });
     ConnectGuarded(grid, &GridView::DeletePressed, this, [this] { Delete_Click(); });
 }
 
-void DrawGridSection::BuildButtons()
+QLayout* DrawGridSection::MakeButtons()
 {
-    const auto name = [this](const QString& action) { return u"F10%1%2button"_s.arg(TextsOf(game).inNames, action); };
-    view = new Button(u"View in Detail"_s, name(u"view"_s));
-    edit = new Button(u"Edit"_s, name(u"edit"_s));
-    remove = new Button(u"Delete"_s, name(u"delete"_s));
+    const QString name = game.IsMain() ? u"F10main%1button"_s : u"F10thunder%1button"_s;
+    view = new Button(u"View in Detail"_s, name.arg(u"view"_s));
+    edit = new Button(u"Edit"_s, name.arg(u"edit"_s));
+    remove = new Button(u"Delete"_s, name.arg(u"delete"_s));
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, Spacing::Inside, 0, 0);
     row->setSpacing(Spacing::Between);
     row->addStretch(1);
     for (Button* button : {view, edit, remove}) {
-        button->setAccessibleDescription(TextsOf(game).title);
+        button->setAccessibleDescription(game.name + u" Draw"_s);
         row->addWidget(button);
     }
-    static_cast<QVBoxLayout*>(layout())->addLayout(row);
     ConnectGuarded(view, &QPushButton::clicked, this, [this] { View_Click(); });
     ConnectGuarded(edit, &QPushButton::clicked, this, [this] { Edit_Click(); });
     ConnectGuarded(remove, &QPushButton::clicked, this, [this] { Delete_Click(); });
+    return row;
 }
 
 void DrawGridSection::Fill()
 {
     model->Fill(DrawListOf(game));
     const bool empty = model->rowCount() == 0;
-    // What vanishes or can no longer be pressed would hand the keys to the menu.
-    if (empty && isAncestorOf(window()->focusWidget()))
-        Q_EMIT Emptied();
     grid->setHidden(empty);
     noDraws->setVisible(empty);
     for (Button* button : {view, edit, remove})
@@ -110,41 +74,32 @@ void DrawGridSection::Fill()
     grid->SelectRow(0);
 }
 
-bool DrawGridSection::MoveToSelectedDraw() const
-{
-    const GridView::RowSpan rows = grid->SelectedRows();
-    if (rows.Count() > 1)
-        ShowMessage(u"Select only ONE draw."_s);
-    if (rows.Count() != 1)
-        return false;
-    MoveToDraw(DrawListOf(game), model->Rows()[rows.first].Mark(), "The draw could not be shown");
-    return true;
-}
-
-void DrawGridSection::TakeFocus()
-{
-    (grid->isHidden() ? parentWidget() : static_cast<QWidget*>(grid))->setFocus();
-}
-
 void DrawGridSection::View_Click()
 {
-    if (MoveToSelectedDraw())
-        pages.Page(TextsOf(game).detailPage)->Prepare();
+    OpenSelectedDraw(game.IsMain() ? 14 : 15);
 }
 
 void DrawGridSection::Edit_Click()
 {
-    if (MoveToSelectedDraw())
-        pages.Page(TextsOf(game).editPage)->Prepare();
+    OpenSelectedDraw(game.IsMain() ? 16 : 17);
+}
+
+void DrawGridSection::OpenSelectedDraw(int page)
+{
+    const GridView::RowSpan rows = grid->SelectedRows();
+    if (rows.Count() > 1) {
+        ShowMessage(u"Select only ONE draw."_s);
+        return;
+    }
+    MoveToDraw(DrawListOf(game), model->Rows()[rows.first].Mark(), "The draw could not be shown");
+    pages.Page(page)->Prepare();
 }
 
 void DrawGridSection::Delete_Click()
 {
     const GridView::RowSpan rows = grid->SelectedRows();
-    if (rows.Count() == 0)
-        return;
     const QString question = rows.Count() == 1 ? u"delete this %1 draw?"_s : u"delete these %1 draws?"_s;
-    if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(TextsOf(game).inQuestions))) {
+    if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(game.InSentence()))) {
         ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
@@ -161,8 +116,6 @@ DrawGridsPage::DrawGridsPage(PageSwitch& pages)
     setAccessibleName(u"View or Edit All Draws"_s);
     Body()->addWidget(mainSection, 1);
     Body()->addWidget(thunderballSection, 1);
-    ConnectGuarded(mainSection, &DrawGridSection::Emptied, this, [this] { thunderballSection->TakeFocus(); });
-    ConnectGuarded(thunderballSection, &DrawGridSection::Emptied, this, [this] { mainSection->TakeFocus(); });
 }
 
 void DrawGridsPage::Prepare()

@@ -4,7 +4,6 @@
 
 #include <QLabel>
 
-class Card;
 class DrawGridModel;
 class GridView;
 class PageSwitch;
@@ -16,32 +15,25 @@ class DrawGridSection : public QWidget
     Q_OBJECT
 
 public:
-    DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch, QWidget* parent = nullptr);
+    DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch);
 
     /// Fills the grid from the list and selects the newest draw.
     void Fill();
-    /// Gives the grid the keys, or the page where there is none.
-    void TakeFocus();
-
-Q_SIGNALS:
-    /// The section has the keys, and nothing in it can take them any more.
-    void Emptied();
 
 private:
-    void BuildButtons();
+    QLayout* MakeButtons();
     /// F10mainviewbutton_Click, F10thunderviewbutton_Click.
     void View_Click();
     /// F10maineditbutton_Click, F10thundereditbutton_Click.
     void Edit_Click();
     /// F10maindeletebutton_Click, F10thunderdeletebutton_Click.
     void Delete_Click();
-    /// Moves the list to the draw of the one selected row; tells the player when there are several.
-    bool MoveToSelectedDraw() const;
+    /// Opens the draw of the one selected row on a page; tells the player when there are several.
+    void OpenSelectedDraw(int page);
 
     const Game& game;
     PageSwitch& pages;
     DrawGridModel* model;
-    Card* card;
     GridView* grid;
     QLabel* noDraws;
     Button* view;

@@ -13,14 +13,17 @@ using namespace Qt::StringLiterals;
 DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent)
     : SmallWindow(u"frmmsgbox1"_s, ApplicationTitle, parent)
 {
-    QVBoxLayout* layout = Content();
-    layout->addWidget(MakeLabel(u"A %1 draw with this date already exists,\r\nwhat do you want to do?"_s.arg(gameName),
-                                TextRole::Body, u"Label1"_s));
+    Content()->addWidget(
+        MakeLabel(u"A %1 draw with this date already exists,\r\nwhat do you want to do?"_s.arg(gameName),
+                  TextRole::Body, u"Label1"_s));
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing::Between);
     const auto add = [&](const QString& caption, const QString& name, DrawPromptChoice chosen) {
         auto* button = new Button(caption, name);
-        connect(button, &QPushButton::clicked, this, [this, chosen] { Choose(chosen); });
+        connect(button, &QPushButton::clicked, this, [this, chosen] {
+            choice = chosen;
+            accept();
+        });
         row->addWidget(button);
         return button;
     };
@@ -29,11 +32,5 @@ DrawPrompt::DrawPrompt(const QString& gameName, QWidget* parent)
     Button* cancel = add(u"Cancel"_s, u"Command3"_s, DrawPromptChoice::Cancel);
     cancel->setDefault(true);
     cancel->setFocus();
-    layout->addLayout(row);
-}
-
-void DrawPrompt::Choose(DrawPromptChoice chosen)
-{
-    choice = chosen;
-    accept();
+    Content()->addLayout(row);
 }

@@ -24,7 +24,5 @@ public:
     DrawPromptChoice MsgBoxChoice() const { return choice; }
 
 private:
-    void Choose(DrawPromptChoice chosen);
-
     DrawPromptChoice choice = DrawPromptChoice::None;
 };

@@ -1,6 +1,5 @@
 #include "draws/draw_view.h"
 
-#include "balls/ball_names.h"
 #include "balls/ball_row.h"
 #include "base/dates.h"
 #include "base/texts.h"
@@ -12,11 +11,11 @@
 
 using namespace Qt::StringLiterals;
 
-DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& textPrefixes, QWidget* parent)
-    : QWidget(parent),
-      game(drawGame),
-      prefixes(textPrefixes),
-      balls(new BallRow(DrawBallNames(game, names.number, names.disc, names.caption), DrawBallCaptions(game)))
+DrawView::DrawView(const Game& drawGame, const Names& names, const QString& machineText, const QString& ballSetText)
+    : game(drawGame),
+      machinePrefix(machineText),
+      ballSetPrefix(ballSetText),
+      balls(new BallRow({names.number, names.disc, names.caption}, &drawGame))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -26,13 +25,13 @@ DrawView::DrawView(const Game& drawGame, const Names& names, const Prefixes& tex
     layout->addWidget(balls);
     if (!game.hasMachine)
         return;
+    machine = MakeStoredTextLabel(machinePrefix.trimmed(), TextRole::Body, names.machine);
+    ballSet = MakeStoredTextLabel(ballSetPrefix.trimmed(), TextRole::Body, names.ballSet);
     auto* line = new QHBoxLayout;
     line->setSpacing(Spacing::Between);
-    layout->addLayout(line);
-    machine = MakeStoredTextLabel(prefixes.machine.trimmed(), TextRole::Body, names.machine);
-    ballSet = MakeStoredTextLabel(prefixes.ballSet.trimmed(), TextRole::Body, names.ballSet);
     line->addWidget(machine, 1);
     line->addWidget(ballSet, 1);
+    layout->addLayout(line);
 }
 
 void DrawView::Show(const DrawRow& draw)
@@ -40,8 +39,8 @@ void DrawView::Show(const DrawRow& draw)
     if (date != nullptr)
         date->setText(LongStoredDate(draw.date));
     balls->Show(game, draw.balls);
-    if (machine == nullptr)
+    if (!game.hasMachine)
         return;
-    machine->setText(prefixes.machine + ShownText(draw.machine));
-    ballSet->setText(prefixes.ballSet + ShownText(draw.ballSet));
+    machine->setText(machinePrefix + ShownText(draw.machine));
+    ballSet->setText(ballSetPrefix + ShownText(draw.ballSet));
 }

@@ -2,19 +2,19 @@
 
 #include "game/draw_row.h"
 
-#include <QWidget>
+#include <QFrame>
 
 class BallRow;
 class QLabel;
 struct Game;
 
 /// One stored draw, to be read only: its date, its balls and, where the game has them, machine and set of balls.
-class DrawView : public QWidget
+class DrawView : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// The object names of the controls; a part without a name is left out.
+    /// The object names of the controls. A date or captions without a name are left out.
     struct Names
     {
         QString date;
@@ -24,23 +24,19 @@ public:
         QString machine;
         QString ballSet;
     };
-    /// What stands before machine and set of balls, with the blanks that follow it.
-    struct Prefixes
-    {
-        QString machine;
-        QString ballSet;
-    };
 
-    DrawView(const Game& drawGame, const Names& names, const Prefixes& textPrefixes, QWidget* parent = nullptr);
+    /// `machineText` and `ballSetText` stand before machine and set of balls, with the blanks that follow them.
+    DrawView(const Game& drawGame, const Names& names, const QString& machineText, const QString& ballSetText);
 
     void Show(const DrawRow& draw);
     BallRow* Balls() const { return balls; }
 
 private:
     const Game& game;
-    Prefixes prefixes;
-    QLabel* date = nullptr;
+    QString machinePrefix;
+    QString ballSetPrefix;
     BallRow* balls;
+    QLabel* date = nullptr;
     QLabel* machine = nullptr;
     QLabel* ballSet = nullptr;
 };

@@ -1,87 +1,44 @@
 #include "draws/edit_draw_page.h"
 
 #include "balls/ball_fields.h"
-#include "balls/ball_names.h"
 #include "base/dates.h"
-#include "base/texts.h"
 #include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
-#include "draws/machine_fields.h"
+#include "draws/draw_fields.h"
 #include "game/game.h"
 #include "look/button.h"
-#include "look/theme.h"
 #include "store/draw_changes.h"
 #include "store/open_databases.h"
 
-#include <QVBoxLayout>
-
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// What the page of one game is called and says where it differs from the other's.
-struct PageTexts
-{
-    int page;
-    QString title;
-    QString back;
-    QString stored;
-};
-
-const PageTexts MainTexts{16, u"Edit Main Draw"_s, u"Go Back"_s, u"The edited main draw data has been stored."_s};
-const PageTexts ThunderballTexts{17, u"Edit Thunderball Draw"_s, u"Back"_s,
-                                 u"The edited thunderball draw data has been stored."_s};
-constexpr int AllDrawsPage = 10;
-
-const PageTexts& TextsOf(const Game& game)
-{
-    return game.IsMain() ? MainTexts : ThunderballTexts;
-}
-
-} // namespace
-
 EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
-    : PageFrame(TextsOf(drawGame).page, TextsOf(drawGame).title),
+    : PageFrame(drawGame.IsMain() ? 16 : 17, u"Edit %1 Draw"_s.arg(drawGame.name)),
       game(drawGame),
       pages(pageSwitch),
       date(MakeStoredTextLabel(QString(), TextRole::Heading, ControlName(u"date"_s))),
-      balls(new BallFields(
-          DrawBallNames(game, ControlName(u"number"_s), ControlName(u"ball"_s), ControlName(u"entrylabel"_s)),
-          DrawBallCaptions(game))),
-      back(AddFooterButton(TextsOf(game).back, ControlName(u"back"_s))),
+      fields(new DrawFields(game, DrawEditingRule(game),
+                            {{ControlName(u"number"_s), ControlName(u"ball"_s), ControlName(u"entrylabel"_s)},
+                             ControlName(u"machine"_s),
+                             ControlName(u"ballset"_s)})),
+      back(AddFooterButton(game.IsMain() ? u"Go Back"_s : u"Back"_s, ControlName(u"back"_s))),
       reset(AddFooterButton(u"Reset"_s, ControlName(u"reset"_s))),
       save(AddFooterDefault(u"Save Changes"_s, ControlName(u"save"_s)))
 {
-    balls->SetRule(DrawEditingRule(game));
-    balls->SelectTextOnFocus();
-    BuildCard();
+    fields->Balls()->SelectTextOnFocus();
+    auto* card = new Card;
+    card->Content()->addWidget(date);
+    card->Content()->addWidget(fields);
+    Body()->addWidget(card);
+    MakeForm();
     SetBackButton(back);
-    ConnectGuarded(balls, &BallFields::Completed, this, [this] {
-        (machines != nullptr ? static_cast<QWidget*>(machines) : save)->setFocus(Qt::TabFocusReason);
-    });
-    if (machines != nullptr)
-        connect(machines, &MachineFields::Completed, save, [this] { save->setFocus(Qt::TabFocusReason); });
+    ConnectGuarded(fields, &DrawFields::Completed, this, [this] { save->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(save, &QPushButton::clicked, this, [this] { Save_Click(); });
     ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
     ConnectGuarded(reset, &QPushButton::clicked, this, [this] { Reset_Click(); });
-}
-
-void EditDrawPage::BuildCard()
-{
-    auto* card = new Card;
-    card->Content()->addWidget(date);
-    card->Content()->addWidget(balls);
-    if (game.hasMachine) {
-        machines =
-            new MachineFields(ControlName(u"machine"_s), ControlName(u"ballset"_s), ControlName(u"entrylabel"_s));
-        card->Content()->addSpacing(Spacing::Between);
-        card->Content()->addWidget(machines);
-    }
-    Body()->addWidget(card);
-    MakeForm();
 }
 
 void EditDrawPage::Prepare()
@@ -90,11 +47,9 @@ void EditDrawPage::Prepare()
     shown = list.Mark();
     const DrawRow draw = ReadDraw(list, game);
     date->setText(LongStoredDate(draw.date));
-    balls->Show(draw.balls);
-    if (machines != nullptr)
-        machines->Show(FromUtf8(draw.machine), FromUtf8(draw.ballSet));
+    fields->Show(draw);
     ShowInFront();
-    balls->FocusField(0);
+    fields->Balls()->FocusField(0);
 }
 
 void EditDrawPage::Reset_Click()
@@ -111,7 +66,8 @@ void EditDrawPage::Back_Click()
 
 void EditDrawPage::Save_Click()
 {
-    if (!IsPossibleDraw(game, balls->TypedDraw())) {
+    constexpr int allDraws = 10;
+    if (!IsPossibleDraw(game, fields->Read().balls)) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Save Changes' again."_s);
         return;
@@ -120,19 +76,10 @@ void EditDrawPage::Save_Click()
         ShowMessage(u"New data has NOT been stored"_s);
         return;
     }
-    balls->Sort(game.mainBalls);
-    ChangeDraw(game, shown, ReadControls());
-    ShowMessage(TextsOf(game).stored);
+    fields->Sort();
+    ChangeDraw(game, shown, fields->Read());
+    ShowMessage(u"The edited %1 draw data has been stored."_s.arg(game.InSentence()));
     hide();
-    pages.Page(AllDrawsPage)->hide();
-    pages.ShowPage(AllDrawsPage);
-}
-
-EnteredDraw EditDrawPage::ReadControls() const
-{
-    EnteredDraw draw;
-    draw.balls = balls->TypedDraw();
-    if (machines != nullptr)
-        machines->Read(draw);
-    return draw;
+    pages.Page(allDraws)->hide();
+    pages.ShowPage(allDraws);
 }

@@ -5,10 +5,8 @@
 
 #include <QLabel>
 
-class BallFields;
-class MachineFields;
+class DrawFields;
 class PageSwitch;
-struct EnteredDraw;
 struct Game;
 
 /// Pages 16 and 17: the balls of a stored draw are corrected, and its machine and set of balls where it has them. Laid
@@ -24,22 +22,18 @@ public:
     void Prepare() override;
 
 private:
-    void BuildCard();
     /// F16reset_Click, F17reset_Click.
     void Reset_Click();
     /// F16save_Click, F17save_Click.
     void Save_Click();
     /// F16back_Click, F17back_Click.
     void Back_Click();
-    EnteredDraw ReadControls() const;
 
     const Game& game;
     PageSwitch& pages;
     Bookmark shown;
     QLabel* date;
-    BallFields* balls;
-    /// In the Main game only.
-    MachineFields* machines = nullptr;
+    DrawFields* fields;
     Button* back;
     Button* reset;
     Button* save;

@@ -12,45 +12,8 @@
 #include "store/open_databases.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// What differs between the two sections.
-struct SectionTexts
-{
-    int index;
-    QString title;
-    QString box;
-    QString blank;
-    QString noDrawsName;
-    QString noDraws;
-    DrawView::Names names;
-};
-
-const SectionTexts MainTexts{0,
-                             u"Main Draw"_s,
-                             u"F8Mbox"_s,
-                             u"blankshapem"_s,
-                             u"Label4"_s,
-                             u"There are no main draws stored."_s,
-                             {u"F8Mdate"_s, u"F8Mnumber"_s, u"F8Mball"_s, {}, u"F8Mmachine"_s, u"F8Mballset"_s}};
-const SectionTexts ThunderballTexts{1,
-                                    u"Thunderball Draw"_s,
-                                    u"F8Tbox"_s,
-                                    u"blankshapet"_s,
-                                    u"Label5"_s,
-                                    u"There are no thunderball draws stored."_s,
-                                    {u"F8Tdate"_s, u"F8Tnumber"_s, u"F8Tball"_s, {}, {}, {}}};
-
-const SectionTexts& TextsOf(const Game& game)
-{
-    return game.IsMain() ? MainTexts : ThunderballTexts;
-}
-
-} // namespace
 
 LatestDrawPage::LatestDrawPage()
     : PageFrame(8, u"Latest Draw"_s, u"labeltitle"_s),
@@ -66,30 +29,36 @@ LatestDrawPage::LatestDrawPage()
 
 LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
 {
-    const SectionTexts& texts = TextsOf(game);
-    Section section{};
-    section.card = new Card(this);
-    section.card->setObjectName(texts.box);
-    section.card->Content()->addWidget(
-        MakeLabel(texts.title, TextRole::Caption, ElementName(u"F8label"_s, texts.index)));
-    section.draw = new DrawView(game, texts.names, {u"Machine: "_s, u"Set of balls: "_s}, section.card);
-    section.draw->Balls()->MakeCompact();
-    KeepingRoom(section.draw);
+    const QString prefix = game.IsMain() ? u"F8M"_s : u"F8T"_s;
+    auto* draw = KeepingRoom(new DrawView(game,
+                                          {prefix + u"date"_s,
+                                           prefix + u"number"_s,
+                                           prefix + u"ball"_s,
+                                           {},
+                                           prefix + u"machine"_s,
+                                           prefix + u"ballset"_s},
+                                          u"Machine: "_s, u"Set of balls: "_s));
+    draw->Balls()->MakeCompact();
 
-    section.blank = new QFrame(section.card);
-    section.blank->setObjectName(texts.blank);
-    section.blank->setBackgroundRole(QPalette::AlternateBase);
-    section.blank->setAutoFillBackground(true);
-    section.noDraws = MakeLabel(texts.noDraws, TextRole::Body, texts.noDrawsName, section.card);
-    section.noDraws->setAlignment(Qt::AlignCenter);
-    section.noDraws->setWordWrap(true);
+    auto* blank = new QFrame;
+    blank->setObjectName(game.IsMain() ? u"blankshapem"_s : u"blankshapet"_s);
+    blank->setBackgroundRole(QPalette::AlternateBase);
+    blank->setAutoFillBackground(true);
+    QLabel* noDraws = MakeLabel(u"There are no %1 draws stored."_s.arg(game.InSentence()), TextRole::Body,
+                                game.IsMain() ? u"Label4"_s : u"Label5"_s);
+    noDraws->setAlignment(Qt::AlignCenter);
+    noDraws->setWordWrap(true);
+    (new QVBoxLayout(blank))->addWidget(noDraws);
 
     auto* layers = new QGridLayout;
-    layers->addWidget(section.draw, 0, 0, Qt::AlignTop);
-    layers->addWidget(section.blank, 0, 0);
-    layers->addWidget(section.noDraws, 0, 0);
-    section.card->Content()->addLayout(layers, 1);
-    return section;
+    layers->addWidget(draw, 0, 0, Qt::AlignTop);
+    layers->addWidget(blank, 0, 0);
+    auto* card = new Card;
+    card->setObjectName(prefix + u"box"_s);
+    card->Content()->addWidget(
+        MakeLabel(game.name + u" Draw"_s, TextRole::Caption, ElementName(u"F8label"_s, game.IsMain() ? 0 : 1)));
+    card->Content()->addLayout(layers, 1);
+    return {card, draw, blank};
 }
 
 void LatestDrawPage::Prepare()
@@ -108,7 +77,4 @@ void LatestDrawPage::Fill(const Section& section, const Game& game)
         section.draw->Show(ReadDraw(list, game));
     section.draw->setVisible(!empty);
     section.blank->setVisible(empty);
-    section.blank->raise();
-    section.noDraws->setVisible(empty);
-    section.noDraws->raise();
 }

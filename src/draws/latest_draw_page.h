@@ -2,8 +2,6 @@
 
 #include "controls/page_frame.h"
 
-#include <QLabel>
-
 class Card;
 class DrawView;
 struct Game;
@@ -24,11 +22,11 @@ private:
     {
         Card* card;
         DrawView* draw;
+        /// The panel with the label that there are no draws, in the place of the draw.
         QFrame* blank;
-        QLabel* noDraws;
     };
 
-    Section MakeSection(const Game& game);
+    static Section MakeSection(const Game& game);
     static void Fill(const Section& section, const Game& game);
 
     Section mainSection;

@@ -26,6 +26,8 @@ struct Game
     int BallCount() const { return mainBalls + 1; }
     bool IsExtra(int slot) const { return slot == mainBalls; }
     int Highest(int slot) const { return IsExtra(slot) ? highestExtra : highestMain; }
+    /// "main" or "thunderball", as a sentence names the game.
+    QString InSentence() const { return name.toLower(); }
     /// "Ball 1" to "Ball 6" and the extra ball's name.
     QString BallCaption(int slot) const;
 };

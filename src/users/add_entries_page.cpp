@@ -2,7 +2,6 @@
 
 #include "balls/ball_edit.h"
 #include "balls/ball_fields.h"
-#include "balls/ball_names.h"
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "controls/card.h"
@@ -16,11 +15,10 @@
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
+#include "users/choices.h"
 #include "users/day_boxes.h"
-#include "users/user_choice.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QHBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -34,9 +32,9 @@ const QString GoToUserDetails = u"Go to 'User Details' to change the spend limit
 AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
     : PageFrame(18, u"Add New Entries"_s),
       pages(pageSwitch),
-      F18user(MakeUserList(u"F18user"_s, u"User Name"_s)),
-      F18type(new QComboBox),
-      F18ent(new BallFields(EntryBallNames(u"F18ent"_s, u"F18ball"_s, u"F18blab"_s), EntryBallCaptions())),
+      F18user(MakeList(u"F18user"_s, u"User Name"_s)),
+      F18type(MakeList(u"F18type"_s, u"Draw Type"_s)),
+      F18ent(new BallFields({u"F18ent"_s, u"F18ball"_s, u"F18blab"_s})),
       F18day(new DayBoxes({u"F18day"_s, u"F18selallday"_s, u"F18clearday"_s}, u" "_s)),
       F18reset(new Button(u"Clear Ball Values"_s, u"F18reset"_s)),
       F18store(AddFooterDefault(u"Store"_s, u"F18store"_s))
@@ -54,16 +52,9 @@ AddEntriesPage::AddEntriesPage(PageSwitch& pageSwitch)
 
 Card* AddEntriesPage::MakeUserCard()
 {
-    F18type->setObjectName(u"F18type"_s);
-    F18type->setAccessibleName(u"Draw Type"_s);
-    F18type->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto* form = new QGridLayout;
-    form->setHorizontalSpacing(Spacing::Cards);
-    form->setVerticalSpacing(Spacing::Inside);
-    form->addWidget(MakeLabel(u"User Name"_s, TextRole::Caption, u"F18label2"_s), 0, 0);
-    form->addWidget(F18user, 1, 0);
-    form->addWidget(MakeLabel(u"Draw Type"_s, TextRole::Caption, u"F18label3"_s), 0, 1);
-    form->addWidget(F18type, 1, 1);
+    auto* form = new CaptionedRow;
+    form->Add(u"User Name"_s, u"F18label2"_s, {F18user});
+    form->Add(u"Draw Type"_s, u"F18label3"_s, {F18type});
     const std::array<QString, 3> texts{u"This user has __ entries stored."_s, u"Your spend limit is £__"_s,
                                        u"To alter limit, goto \"User Details\""_s};
     for (int index = 0; index < 3; ++index) {
@@ -72,8 +63,6 @@ Card* AddEntriesPage::MakeUserCard()
         label->setForegroundRole(QPalette::PlaceholderText);
         form->addWidget(label, 2 + index, 0, 1, 2);
     }
-    form->setColumnStretch(0, 1);
-    form->setColumnStretch(1, 1);
     auto* card = new Card;
     card->Content()->addLayout(form);
     return card;
@@ -174,7 +163,7 @@ void AddEntriesPage::F18store_Click()
         return;
     }
     const Game& game = ChosenGame();
-    if (!IsPossibleEntry(game, F18ent->TypedEntry())) {
+    if (!IsPossibleEntry(game, F18ent->Typed<EntryNumbers>())) {
         ShowMessage(u"Error detected in the data that you entered."_s + Crlf +
                     u"Please re-check and press 'Store' again."_s);
         return;
@@ -184,7 +173,7 @@ void AddEntriesPage::F18store_Click()
         ShowMessage(u"You must specify at least ONE draw day. Please retry."_s);
         return;
     }
-    StoreEntry({0, selectedUser.number, game.drawType, F18ent->TypedEntry(), F18day->Days()});
+    StoreEntry({0, selectedUser.number, game.drawType, F18ent->Typed<EntryNumbers>(), F18day->Days()});
     ShowMessage(u"This entry has been stored."_s);
     F18user_Click();
     BeginEntry();

@@ -10,14 +10,11 @@
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
+#include "users/choices.h"
 #include "users/entry_grid_model.h"
-#include "users/user_choice.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QRadioButton>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,22 +23,14 @@ namespace {
 constexpr int ViewPage = 19;
 constexpr int EditPage = 20;
 
-QRadioButton* MakeOption(const Game& game, const QString& name)
-{
-    auto* option = new QRadioButton(game.name);
-    option->setObjectName(name);
-    option->setAccessibleName(game.name);
-    return option;
-}
-
 } // namespace
 
 EntriesPage::EntriesPage(PageSwitch& pageSwitch)
     : PageFrame(13, u"View or Edit Entries"_s),
       pages(pageSwitch),
-      F13user(MakeUserList(u"F13user"_s, u"User"_s)),
-      F13typemain(MakeOption(MainGame, u"F13typemain"_s)),
-      F13typethunder(MakeOption(ThunderballGame, u"F13typethunder"_s)),
+      F13user(MakeList(u"F13user"_s, u"User"_s)),
+      F13typemain(MakeOption(MainGame.name, u"F13typemain"_s)),
+      F13typethunder(MakeOption(ThunderballGame.name, u"F13typethunder"_s)),
       model(new EntryGridModel(this)),
       F13grid(new GridView(u"F13grid"_s, u"Entries"_s)),
       F13noentries(MakeLabel(u"There are no entries of this type, for this user."_s, TextRole::Body, u"F13noentries"_s))
@@ -66,17 +55,11 @@ EntriesPage::EntriesPage(PageSwitch& pageSwitch)
 Card* EntriesPage::MakeChoiceCard()
 {
     F13user->setMinimumContentsLength(14);
+    auto* choices = new CaptionedRow;
+    choices->Add(u"User"_s, u"F13label1"_s, {F13user});
+    choices->Add(u"Draw Type"_s, u"F13label2"_s, {F13typemain, F13typethunder}, 0);
     auto* card = new Card;
-    auto* form = new QGridLayout;
-    form->setHorizontalSpacing(Spacing::Cards);
-    form->setVerticalSpacing(Spacing::Inside);
-    form->addWidget(MakeLabel(u"User"_s, TextRole::Caption, u"F13label1"_s), 0, 0);
-    form->addWidget(F13user, 1, 0);
-    form->addWidget(MakeLabel(u"Draw Type"_s, TextRole::Caption, u"F13label2"_s), 0, 1, 1, 2);
-    form->addWidget(F13typemain, 1, 1);
-    form->addWidget(F13typethunder, 1, 2);
-    form->setColumnStretch(0, 1);
-    card->Content()->addLayout(form);
+    card->Content()->addLayout(choices);
     return card;
 }
 

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "controls/page_frame.h"
 #include "records/bookmark.h"
+#include "users/entry_page.h"
 
 class BallFields;
 class DayBoxes;
-class EntryHead;
-struct Game;
 
-/// Page 20: the numbers and days of one entry are changed. Laid over the entries list.
-class EntryEditPage : public PageFrame
+/// Page 20: the numbers and days of one entry are changed.
+class EntryEditPage : public EntryPage
 {
     Q_OBJECT
 
@@ -25,10 +23,7 @@ private:
     bool HasEqualMainBalls() const;
 
     Bookmark shown;
-    const Game* game;
-    EntryHead* head;
     BallFields* F20num;
     DayBoxes* F20day;
-    Button* F20back;
     Button* F20store;
 };

@@ -1,6 +1,5 @@
 #include "users/entry_view_page.h"
 
-#include "balls/ball_names.h"
 #include "balls/ball_row.h"
 #include "base/dates.h"
 #include "controls/guard.h"
@@ -8,37 +7,24 @@
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
-#include "store/open_databases.h"
-#include "store/user_records.h"
-#include "users/entry_head.h"
 
 #include <QEvent>
 #include <QGridLayout>
 
 using namespace Qt::StringLiterals;
 
-EntryViewPage::EntryViewPage()
-    : PageFrame(19, u"View Entry in Detail"_s),
-      head(new EntryHead(u"F19"_s)),
-      balls(new BallRow(EntryBallNames(u"F19num"_s, u"F19ball"_s), EntryBallCaptions())),
-      F19back(AddFooterButton(u"BACK"_s, u"F19back"_s))
+EntryViewPage::EntryViewPage() : EntryPage(19), balls(new BallRow(BallNames()))
 {
-    balls->LastCaption()->setObjectName(u"F19thunderlabel"_s);
-    balls->LastCaption()->setText(ThunderballGame.extraBallName);
-    auto* ballCard = new Card;
-    ballCard->Content()->addWidget(balls);
-    for (Card* card : {static_cast<Card*>(head), ballCard, MakeDayCard()})
-        Body()->addWidget(card);
-    MakeForm();
-    SetBackButton(F19back);
+    Build(balls, MakeDays());
     // F19back_Click.
-    ConnectGuarded(F19back, &QPushButton::clicked, this, [this] { hide(); });
+    ConnectGuarded(Back(), &QPushButton::clicked, this, [this] { hide(); });
 }
 
-Card* EntryViewPage::MakeDayCard()
+QWidget* EntryViewPage::MakeDays()
 {
-    auto* card = new Card;
-    auto* grid = new QGridLayout;
+    auto* dayNames = new QWidget;
+    auto* grid = new QGridLayout(dayNames);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(Spacing::Page);
     grid->setVerticalSpacing(Spacing::Between);
     constexpr int rowsInColumn = 4;
@@ -48,18 +34,13 @@ Card* EntryViewPage::MakeDayCard()
         grid->addWidget(label, day % rowsInColumn, day / rowsInColumn);
     }
     grid->setColumnStretch(2, 1);
-    card->Content()->addLayout(grid);
-    return card;
+    return dayNames;
 }
 
 void EntryViewPage::Prepare()
 {
-    const EntryRow entry = ReadEntry(entries);
-    const Game& game = GameOfDrawType(entry.drawType);
-    head->Show(ReadUser(users).name, game);
-    balls->Show(game, entry.numbers);
-    balls->SetLastApart(!game.IsMain());
-    balls->LastCaption()->setVisible(!game.IsMain());
+    const EntryRow entry = ShowHead();
+    balls->Show(ShownGame(), entry.numbers);
     days = entry.days;
     ColourDays();
     ShowInFront();
@@ -67,7 +48,7 @@ void EntryViewPage::Prepare()
 
 void EntryViewPage::changeEvent(QEvent* event)
 {
-    PageFrame::changeEvent(event);
+    EntryPage::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && F19day.back() != nullptr)
         ColourDays();
 }

@@ -1,18 +1,13 @@
 #pragma once
 
-#include "controls/page_frame.h"
-#include "game/entry_row.h"
-
-#include <QLabel>
+#include "users/entry_page.h"
 
 #include <array>
 
 class BallRow;
-class Card;
-class EntryHead;
 
-/// Page 19, "View Entry in Detail": one entry, laid over the entries list.
-class EntryViewPage : public PageFrame
+/// Page 19, "View Entry in Detail": one entry, to be read only.
+class EntryViewPage : public EntryPage
 {
     Q_OBJECT
 
@@ -26,12 +21,10 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    Card* MakeDayCard();
+    QWidget* MakeDays();
     void ColourDays();
 
     DaySet days{};
-    EntryHead* head;
     BallRow* balls;
     std::array<QLabel*, DaysOfWeek> F19day{};
-    Button* F19back;
 };

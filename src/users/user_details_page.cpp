@@ -135,12 +135,9 @@ void UserDetailsPage::Prepare()
 
 void UserDetailsPage::FillList()
 {
-    // Filling is no click of the player's.
-    const QSignalBlocker quiet(F11list);
     F11list->clear();
     for (const UserRow& user : ReadAllUsers(users))
         F11list->addItem(user.name);
-    F11list->setCurrentRow(-1);
     F11label1->setText(UserCountText(F11list->count()));
 }
 
@@ -188,7 +185,6 @@ void UserDetailsPage::F11edituser_Click()
     if (mode == Mode::Add)
         F11list_Click();
     editedUserName = F11seluser->text();
-    editedSpendLimit = F11spend->text();
     SetMode(Mode::Edit);
 }
 
@@ -215,12 +211,10 @@ void UserDetailsPage::F11storech_Click()
         ShowMessage(u"Invalid user name, please retry."_s);
         return;
     }
-    // A box need not hold all of what is stored: a name may be longer than what fits, a number finer than what is
-    // shown. What was not changed stays as it is stored.
+    // A stored name may be longer than what the box holds; one that was not changed stays as it is stored.
     const bool renamed = F11seluser->text() != editedUserName;
     const QString name = renamed ? F11seluser->text() : selectedUser.name;
-    const double limit =
-        F11spend->text() == editedSpendLimit ? selectedUser.spendLimit : NumericValue(F11spend->text());
+    const double limit = NumericValue(F11spend->text());
     if (renamed && AnotherUserHas(name, selectedUser.number)) {
         ShowMessage(u"This user name has already been used, please retry"_s);
         return;

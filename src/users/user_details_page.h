@@ -48,9 +48,8 @@ private:
 
     UserRow selectedUser;
     int entryCount = 0;
-    /// What stood in the two boxes when the player began to edit.
+    /// What stood in the box of the name when the player began to edit.
     QString editedUserName;
-    QString editedSpendLimit;
     Mode mode = Mode::View;
 
     QLabel* F11label1;
