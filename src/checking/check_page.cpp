@@ -1,7 +1,6 @@
 #include "checking/check_page.h"
 
 #include "base/dates.h"
-#include "base/texts.h"
 #include "checking/report_view.h"
 #include "controls/card.h"
 #include "controls/card_row.h"
@@ -14,7 +13,7 @@
 #include "look/theme.h"
 #include "store/draw_records.h"
 #include "store/open_databases.h"
-#include "users/user_choice.h"
+#include "users/choices.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -27,14 +26,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString AllUsers = u"All Users"_s;
-
-QRadioButton* MakeOption(const QString& caption, const QString& name)
-{
-    auto* option = new QRadioButton(caption);
-    option->setObjectName(name);
-    option->setAccessibleName(caption);
-    return option;
-}
 
 Card* MakeGroup(const QString& caption, const QString& captionName, const QString& shapeName)
 {
@@ -69,7 +60,7 @@ void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRad
 CheckPage::CheckPage(PageSwitch& pageSwitch)
     : PageFrame(12, u"Check Entries"_s),
       pages(pageSwitch),
-      F12user(MakeUserList(u"F12user"_s, u"User"_s)),
+      F12user(MakeList(u"F12user"_s, u"User"_s)),
       F12typem(MakeOption(u"Main"_s, u"F12typem"_s)),
       F12typet(MakeOption(u"Thunderball"_s, u"F12typet"_s)),
       F12typeb(MakeOption(u"Both"_s, u"F12typeb"_s)),
@@ -167,9 +158,7 @@ void CheckPage::F12dateselect_Click()
 void CheckPage::F12check_Click()
 {
     ShowClearAndPrint(true);
-    const std::vector<EntryRow> allEntries = ReadAllEntries(entries);
-    const std::vector<CheckedGame> games = allEntries.empty() ? std::vector<CheckedGame>() : GamesToCheck();
-    F12text->Show(WriteCheckReport(UsersToCheck(), games, allEntries));
+    F12text->Show(WriteCheckReport(UsersToCheck(), GamesToCheck(), ReadAllEntries(entries)));
 }
 
 void CheckPage::F12clear_Click()
@@ -186,14 +175,11 @@ void CheckPage::ShowClearAndPrint(bool shown)
 
 std::vector<CheckedUser> CheckPage::UsersToCheck() const
 {
+    const QString chosen = F12user->currentText();
     std::vector<CheckedUser> checked;
-    for (const UserRow& user : ReadAllUsers(users)) {
-        if (F12user->currentText() != AllUsers && user.name != F12user->currentText())
-            continue;
-        checked.push_back({user.number, user.name});
-        if (F12user->currentText() != AllUsers)
-            break;
-    }
+    for (const UserRow& user : ReadAllUsers(users))
+        if (chosen == AllUsers || (user.name == chosen && checked.empty()))
+            checked.push_back({user.number, user.name});
     return checked;
 }
 
@@ -217,6 +203,6 @@ CheckedGame CheckPage::FindCheckDrawDate(const Game& game) const
     if (F12dateselect->isChecked() && !FindDrawByDate(list, F12cal->date()))
         return checked;
     const DrawRow draw = ReadDraw(list, game);
-    checked.draw = CheckedDraw{DateFromIso(draw.date), draw.balls, FromUtf8(draw.date)};
+    checked.draw = CheckedDraw{DateFromIso(draw.date), draw.balls, ShortStoredDate(draw.date)};
     return checked;
 }

@@ -16,7 +16,7 @@ struct CheckedDraw
     /// Invalid where the file holds something that is no date; no entry is played on its day then.
     QDate date;
     DrawBalls balls{};
-    QString storedDate = {};
+    QString shownDate = {};
 };
 
 /// The user of one block of the report.
@@ -33,17 +33,11 @@ struct CheckedGame
     std::optional<CheckedDraw> draw;
 };
 
-struct CheckReport
+/// A stretch of the report. Its lines end with carriage return and line feed.
+struct ReportPart
 {
-    /// Lines end with carriage return and line feed.
     QString text;
-    struct Span
-    {
-        qsizetype start;
-        qsizetype length;
-    };
-    /// The emphasised stretches, in order.
-    std::vector<Span> emphasised;
+    bool emphasised;
 };
 
 /// How an entry fared against a draw.
@@ -52,8 +46,6 @@ struct EntryResult
     int mainMatches = 0;
     /// Whether the bonus ball is among the entry's numbers, or the thunderballs are the same.
     bool extraMatched = false;
-
-    bool operator==(const EntryResult&) const = default;
 };
 
 EntryResult CompareEntry(const Game& game, const EntryRow& entry, const CheckedDraw& draw);
@@ -63,5 +55,5 @@ bool IsWin(const Game& game, const EntryResult& result);
 
 /// The report on the given users, in their order, each with its sections in the order of `games`. Entries may come in
 /// any mix of users and games; within a section they keep their order.
-CheckReport WriteCheckReport(std::span<const CheckedUser> users, std::span<const CheckedGame> games,
-                             std::span<const EntryRow> entries);
+std::vector<ReportPart> WriteCheckReport(std::span<const CheckedUser> users, std::span<const CheckedGame> games,
+                                         std::span<const EntryRow> entries);

@@ -20,31 +20,17 @@ ReportView::ReportView(QWidget* parent) : QTextEdit(parent)
     setFont(font);
 }
 
-void ReportView::Show(const CheckReport& report)
+void ReportView::Show(const std::vector<ReportPart>& report)
 {
+    clear();
     QTextCharFormat emphasised;
     emphasised.setFontWeight(QFont::Bold);
-    // A new text takes on the format at the cursor, which may stand in an emphasised line of the old one.
-    setTextCursor(QTextCursor(document()));
-    setCurrentCharFormat(QTextCharFormat());
-    // The text goes in at once and is laid out once; line by line it would take several times as long.
-    setPlainText(report.text);
     QTextCursor caret(document());
     caret.beginEditBlock();
-    qsizetype counted = 0;
-    qsizetype lineBreaks = 0;
-    // A line break is two characters of the report, but one place in the document.
-    const auto placeOf = [&](qsizetype position) {
-        lineBreaks += QStringView(report.text).mid(counted, position - counted).count(u'\r');
-        counted = position;
-        return static_cast<int>(position - lineBreaks);
-    };
-    for (const CheckReport::Span& span : report.emphasised) {
-        caret.setPosition(placeOf(span.start));
-        caret.setPosition(placeOf(span.start + span.length), QTextCursor::KeepAnchor);
-        caret.setCharFormat(emphasised);
-    }
+    for (const ReportPart& part : report)
+        caret.insertText(part.text, part.emphasised ? emphasised : QTextCharFormat());
     caret.endEditBlock();
+    moveCursor(QTextCursor::Start);
 }
 
 void ReportView::keyPressEvent(QKeyEvent* event)

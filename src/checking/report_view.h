@@ -12,8 +12,8 @@ class ReportView : public QTextEdit
 public:
     explicit ReportView(QWidget* parent = nullptr);
 
-    /// Shows a report in the place of the one before; its emphasised stretches are bold.
-    void Show(const CheckReport& report);
+    /// Shows a report in the place of the one before; what is emphasised is bold.
+    void Show(const std::vector<ReportPart>& report);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

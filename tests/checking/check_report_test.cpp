@@ -2,20 +2,20 @@
 
 #include "checking/check_report.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 const DaySet EveryDay{true, true, true, true, true, true, true};
 
 /// A Saturday; the thunderball is the sixth ball, the bonus the seventh.
-const CheckedDraw Draw{QDate(2026, 11, 21), {1, 2, 3, 4, 5, 6, 7}};
+const CheckedDraw Draw{QDate(2026, 11, 21), {1, 2, 3, 4, 5, 6, 7}, "today"};
 
-/// The report, with the short form of the date, which is the desktop's own, left out.
 QString Report(const std::vector<CheckedUser>& players, const std::vector<CheckedGame>& games,
                const std::vector<EntryRow>& playedLines)
 {
-    return WriteCheckReport(players, games, playedLines).text.remove(QRegularExpression("\\([^)]*2026\\)"));
+    QString text;
+    for (const ReportPart& part : WriteCheckReport(players, games, playedLines))
+        text += part.text;
+    return text;
 }
 
 } // namespace
@@ -66,12 +66,12 @@ private Q_SLOTS:
             ten += QString("    %1>  0 main balls. \r\n").arg(i);
         QCOMPARE(Report(players, {{&MainGame, Draw}, {&ThunderballGame, Draw}, {&ThunderballGame, {}}}, playedLines),
                  "Tavenor v3.0\r\n\r\n"
-                 "User: <b>Bob</b>\r\n  Draw type: Main \r\n    No main entries on this date.\r\n"
-                 "  Draw type: Thunderball \r\n    1>    0 main balls. \r\n"
+                 "User: <b>Bob</b>\r\n  Draw type: Main (today)\r\n    No main entries on this date.\r\n"
+                 "  Draw type: Thunderball (today)\r\n    1>    0 main balls. \r\n"
                  "  No thunderball draw on this date.\r\n\r\n"
-                 "User: Ann\r\n  Draw type: Main \r\n" +
+                 "User: Ann\r\n  Draw type: Main (today)\r\n" +
                      ten +
-                     "  Draw type: Thunderball \r\n    No thunderball entries on this date.\r\n"
+                     "  Draw type: Thunderball (today)\r\n    No thunderball entries on this date.\r\n"
                      "  No thunderball draw on this date.\r\n\r\n");
         QCOMPARE(Report(players, {{&MainGame, {}}}, {}),
                  QString("Tavenor v3.0\r\n\r\nThere are no user entries stored."));
