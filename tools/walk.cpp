@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QListWidget>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -20,22 +21,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A page of the menu (group 0 is the start page), and the buttons that are pressed on it.
-struct Stop
-{
-    const char* picture;
-    int group;
-    int suboption;
-    const char* press = nullptr;
-    const char* thenPress = nullptr;
-};
-
-constexpr Stop Stops[] = {
+constexpr Stop AllStops[] = {
+    {"start", 0, 0},
     {"group_1", 1, 0},
     {"group_2", 2, 0},
     {"group_3", 3, 0},
     {"group_4", 4, 0},
     {"group_5", 5, 0},
+    {"add_main_empty", 1, 1},
     {"add_thunderball", 1, 2},
     {"latest_draw", 2, 1},
     {"draw_browser", 2, 2},
@@ -44,11 +37,17 @@ constexpr Stop Stops[] = {
     {"thunderball_draw", 2, 3, "F10thunderviewbutton"},
     {"edit_main_draw", 2, 3, "F10maineditbutton"},
     {"edit_thunderball_draw", 2, 3, "F10thundereditbutton"},
+    {"user_details", 3, 1},
+    {"", 3, 1, "F11adduser"},
+    {"edit_user", 3, 1, "F11edituser"},
+    {"", 3, 2},
     {"entries", 3, 3},
     {"view_entry", 3, 3, "F13view"},
     {"edit_entry", 3, 3, "F13edit"},
     {"view_thunderball_entry", 3, 3, "F13typethunder", "F13view"},
     {"edit_thunderball_entry", 3, 3, "F13typethunder", "F13edit"},
+    {"", 3, 4},
+    {"", 4, 1},
     {"analysis_main", 5, 1},
     {"analysis_thunderball", 5, 2},
     {"ball_data_main", 5, 1, "F21screen_7"},
@@ -72,10 +71,29 @@ void PressIn(const QWidget& shown, const QString& name)
 
 } // namespace
 
+std::span<const Stop> Stops()
+{
+    return AllStops;
+}
+
+void GoTo(MainWindow& window, const Stop& stop)
+{
+    window.activateWindow();
+    if (stop.group == 0)
+        window.ShowStartPage();
+    else
+        window.ChooseMenu(stop.group, stop.suboption);
+    QApplication::processEvents();
+    if (auto* list = window.findChild<QListWidget*>(u"F11list"_s); list != nullptr && list->isVisible())
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    for (const char* name : {stop.press, stop.thenPress})
+        if (name != nullptr)
+            PressIn(window, QLatin1String(name));
+    QApplication::processEvents();
+}
+
 void Walk::MainJob() const
 {
-    window.ShowStartPage();
-    Show(u"start"_s);
     AddDraw();
     AddUserAndEntries();
     GenerateEntries();
@@ -90,7 +108,6 @@ void Walk::MainJob() const
 void Walk::AddDraw() const
 {
     window.ChooseMenu(1, 1);
-    Show(u"add_main_empty"_s);
     const QStringList balls{"3", "15", "22", "38", "41", "44"};
     for (int ball = 0; ball < balls.size(); ++ball)
         Type(ElementName(u"F6MBall1"_s, ball + 1), balls[ball]);
@@ -109,9 +126,6 @@ void Walk::AddUserAndEntries() const
     Type(u"F11spend"_s, u"60"_s);
     Show(u"new_user"_s);
     Press(u"F11storenu"_s);
-    Find(u"F11list"_s)->setFocus();
-    QTest::keyClick(Find(u"F11list"_s), Qt::Key_Down);
-    Show(u"user_details"_s);
     const QList<QStringList> lines{{"3", "15", "22", "30", "36", "49"}, {"5", "9", "17", "23", "34", "14"}};
     for (int game = 0; game < lines.size(); ++game) {
         window.ChooseMenu(3, 2);
@@ -133,8 +147,8 @@ void Walk::GenerateEntries() const
     Choose(u"F26combo_1"_s, 2);
     Choose(u"F26combo_2"_s, 1);
     Foresee(u"number_window"_s, u"store"_s, [](QDialog& dialog) {
-        PressIn(dialog, u"random"_s);
-        FindIn(dialog, u"n_25"_s)->setFocus();
+        for (const int number : {3, 7, 12, 18, 22, 25, 31, 36, 40, 44})
+            PressIn(dialog, ElementName(u"n"_s, number));
     });
     Press(u"F26choose"_s);
     Foresee(u"generator_description"_s);
@@ -149,16 +163,9 @@ void Walk::GenerateEntries() const
 
 void Walk::EverythingElse() const
 {
-    for (const Stop& stop : Stops) {
-        if (stop.group == 0)
-            window.ShowStartPage();
-        else
-            window.ChooseMenu(stop.group, stop.suboption);
-        QApplication::processEvents();
-        for (const char* name : {stop.press, stop.thenPress})
-            if (name != nullptr)
-                Press(QLatin1String(name));
-        Show(QLatin1String(stop.picture));
+    for (const Stop& stop : Stops()) {
+        GoTo(window, stop);
+        Show(QLatin1String(stop.name));
     }
     window.ChooseMenu(2, 2);
     QTest::keyClick(Find(u"F9Cal"_s)->findChild<QAbstractItemView*>(), Qt::Key_Left);

@@ -224,20 +224,6 @@ private Q_SLOTS:
         QVERIFY2(keys + messages <= 60, qPrintable(QString::number(keys + messages)));
     }
 
-    void AboutWindowTellsTheVersion()
-    {
-        TestWindow window;
-        QStringList texts;
-        window.modals.WillDo([&](QDialog& dialog) {
-            texts.append(dialog.windowTitle());
-            for (const QLabel* label : dialog.findChildren<QLabel*>())
-                texts.append(label->text());
-            PressIn(dialog, "back");
-        });
-        window.Click("about");
-        QCOMPARE(texts, (QStringList{"Tavenor 3 --- About...", "Tavenor", "v3.01"}));
-    }
-
     void ExitAsksFirst()
     {
         TestWindow window;

@@ -51,15 +51,6 @@ bool IsOneOf(const QWidget* widget)
     return ((qobject_cast<const Kinds*>(widget) != nullptr) || ...);
 }
 
-/// Whether a widget is a part of one of the toolkit's own compound controls.
-bool IsPart(const QWidget& widget)
-{
-    for (const QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget())
-        if (IsOneOf<QAbstractScrollArea, QComboBox, QAbstractSpinBox>(outer) && !IsOneOf<QScrollArea>(outer))
-            return true;
-    return false;
-}
-
 /// The widgets of the window that the player sees, without the parts of compound controls.
 QList<QWidget*> SeenWidgets(QWidget& window)
 {
@@ -69,11 +60,6 @@ QList<QWidget*> SeenWidgets(QWidget& window)
             !IsPart(*widget))
             seen.append(widget);
     return seen;
-}
-
-bool TakesTab(const QWidget& widget)
-{
-    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr;
 }
 
 bool HasRoleAndName(QWidget& widget)
@@ -274,6 +260,19 @@ void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& f
 }
 
 } // namespace
+
+bool TakesTab(const QWidget& widget)
+{
+    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr;
+}
+
+bool IsPart(const QWidget& widget)
+{
+    for (const QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget())
+        if (IsOneOf<QAbstractScrollArea, QComboBox, QAbstractSpinBox>(outer) && !IsOneOf<QScrollArea>(outer))
+            return true;
+    return false;
+}
 
 QStringList ScreenReaderFaults(QWidget& window)
 {

@@ -5,6 +5,12 @@
 
 class QDialog;
 
+/// Whether a widget is a part of one of the toolkit's own compound controls.
+bool IsPart(const QWidget& widget);
+
+/// Whether the Tab key reaches a widget that is seen.
+bool TakesTab(const QWidget& widget);
+
 /// What keeps a window from being seen, read aloud and worked by keyboard; each fault begins with the word of its kind
 /// and names the control. Only what can be seen at the moment is looked at.
 
