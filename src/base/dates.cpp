@@ -54,7 +54,7 @@ QString LongStoredDate(std::string_view iso)
 QString StoredDateInWords(std::string_view iso)
 {
     const QDate date = DateFromIso(iso);
-    return date.isValid() ? English().toString(date, u"d MMMM yyyy"_s) : FromUtf8(iso);
+    return date.isValid() ? English().toString(date, u"d MMMM yyyy"_s) : ShownText(iso);
 }
 
 QString ShortDateFormat()

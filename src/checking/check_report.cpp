@@ -75,7 +75,9 @@ std::vector<ReportPart> WriteCheckReport(std::span<const CheckedUser> users, std
     for (const EntryRow& entry : entries)
         entriesOf[entry.userId].push_back(&entry);
     for (const CheckedUser& user : users) {
-        report.push_back({u"User: "_s + user.name + LineBreak, true});
+        // As much of it as can be typed; a file may hold a name of any length, and to lay that out takes a minute.
+        constexpr qsizetype longestTyped = 32767;
+        report.push_back({u"User: "_s + user.name.left(longestTyped) + LineBreak, true});
         QString sections;
         for (const CheckedGame& checked : games)
             sections += SectionText(checked, entriesOf[user.number]);

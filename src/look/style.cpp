@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// More than fits a list's line; shaping a text of megabytes takes seconds.
+// More than fits a line of a list; shaping a text of megabytes takes seconds.
 constexpr qsizetype MostDrawnCharacters = 1000;
 
 constexpr int ControlHeight = 36;
@@ -61,6 +61,14 @@ void TakeTabWhileChosen(QRadioButton& choice)
     const auto follow = [&choice](bool chosen) { choice.setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus); };
     QObject::connect(&choice, &QRadioButton::toggled, &choice, follow);
     follow(choice.isChecked());
+}
+
+/// The same with no more of its text than is drawn.
+QStyleOptionViewItem Shortened(const QStyleOptionViewItem& item)
+{
+    QStyleOptionViewItem beginning(item);
+    beginning.text.truncate(MostDrawnCharacters);
+    return beginning;
 }
 
 bool IsBareView(const QWidget* widget)
@@ -172,6 +180,12 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         QProxyStyle::drawControl(element, &beginning, painter, widget);
         return;
     }
+    if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+        item != nullptr && element == CE_ItemViewItem) {
+        const QStyleOptionViewItem beginning = Shortened(*item);
+        QProxyStyle::drawControl(element, &beginning, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
@@ -244,6 +258,11 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                               const QWidget* widget) const
 {
+    if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+        item != nullptr && item->text.size() > MostDrawnCharacters) {
+        const QStyleOptionViewItem beginning = Shortened(*item);
+        return sizeFromContents(type, &beginning, contents, widget);
+    }
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     switch (type) {
     case CT_PushButton:
