@@ -100,17 +100,17 @@ private Q_SLOTS:
         const QSize opened = window.size();
         QStringList faults;
         const Walk walk(window, [&](const QString& name, QWidget& shown) {
-            // A window without controls, such as the splash window, never becomes the active one.
-            if (!shown.findChildren<QAbstractButton*>().isEmpty() && !QTest::qWaitForWindowActive(&shown))
-                faults.append(name + ": the window does not become active");
-            QTest::qWait(50);
-            // A scaled size is rounded.
+            // The window manager places a window and gives it the focus in its own time. A window without controls,
+            // such as the splash window, never gets it. A scaled size is rounded.
             const QRect room = window.screen()->availableGeometry().adjusted(-1, -1, 1, 1);
-            if (!room.contains(shown.frameGeometry()))
-                faults.append(QString("%1: %2 x %3 stands over the edge of the screen")
-                                  .arg(name)
-                                  .arg(shown.frameGeometry().width())
-                                  .arg(shown.frameGeometry().height()));
+            const bool takesKeys = !shown.findChildren<QAbstractButton*>().isEmpty();
+            QTest::qWait(50);
+            shown.activateWindow();
+            if (!QTest::qWaitFor([&] { return shown.isActiveWindow() || !takesKeys; }))
+                faults.append(name + ": the window does not become active");
+            if (!QTest::qWaitFor([&] { return room.contains(shown.frameGeometry()); }))
+                faults.append(name +
+                              ": stands over the edge of the screen: " + QDebug::toString(shown.frameGeometry()));
             if (window.size() != opened)
                 faults.append(name + ": the window has changed its size");
             if (qobject_cast<QFileDialog*>(&shown) == nullptr)

@@ -121,15 +121,19 @@ QStringList ShownLines(QWidget& shown)
             reached.append(next);
     for (QWidget* widget : reached)
         lines.append(LineOf(*widget));
+    QStringList texts;
     QStringList withoutText;
     for (auto* widget : shown.findChildren<QWidget*>()) {
         if (!widget->isVisible() || IsPart(*widget) || reached.contains(widget))
             continue;
         if (!widget->property("text").toString().isEmpty())
-            lines.append(LineOf(*widget));
+            texts.append(LineOf(*widget));
         else if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
             withoutText.append(widget->objectName());
     }
+    texts.sort();
+    withoutText.sort();
+    lines += texts;
     if (!withoutText.isEmpty())
         lines.append("Also: " + withoutText.join(' '));
     return lines;

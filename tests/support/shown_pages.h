@@ -6,9 +6,9 @@
 class QWidget;
 
 /// What pages and windows tell those who see them, hear them and work them by keyboard, a line a control. The controls
-/// that the Tab key reaches come first, in its order, each marked with ">"; after them the other texts. A line tells
-/// the control's name and role, its name for a screen reader, its text where that is another, what it lists, its key,
-/// its state, and its colours where they are not those of the theme. The last line names what has no text.
+/// that the Tab key reaches come first, in its order, each marked with ">"; after them the other texts, by name. A line
+/// tells the control's name and role, its name for a screen reader, its text where that is another, what it lists, its
+/// key, its state, and its colours where they are not those of the theme. The last line names what has no text.
 class ShownPages
 {
 public:
