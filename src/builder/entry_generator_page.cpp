@@ -6,6 +6,7 @@
 #include "builder/random_source.h"
 #include "builder/step_card.h"
 #include "controls/card_row.h"
+#include "controls/grid_view.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
@@ -45,7 +46,7 @@ EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
       F26grid(new GridView(u"F26grid"_s, u"Built entries"_s))
 {
     F26grid->setModel(&lines);
-    F26grid->SetColumnShares(EntryGridModel::ColumnShares());
+    F26grid->SetColumnShares(lines.ColumnShares());
     gridCard->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
     gridCard->Content()->addWidget(F26grid);
     auto* cards = new CardRow;
@@ -72,8 +73,8 @@ void EntryGeneratorPage::ConnectHandlers()
 void EntryGeneratorPage::ShowBuilt(std::vector<EntryRow> rows)
 {
     built = std::move(rows);
-    lines.Fill(MainGame, static_cast<int>(built.size()),
-               [this](int row) { return built.at(static_cast<size_t>(row)); });
+    lines.Show(static_cast<int>(built.size()),
+               [this](int row, int column) { return EntryCell(built.at(static_cast<size_t>(row)), row, column); });
 }
 
 void EntryGeneratorPage::Prepare()

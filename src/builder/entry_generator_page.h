@@ -4,11 +4,12 @@
 #include "builder/builder_steps.h"
 #include "builder/entry_builders.h"
 #include "controls/page_frame.h"
-#include "users/entry_grid_model.h"
+#include "users/entry_grid.h"
 
 #include <array>
 
 class Card;
+class GridView;
 class PageSwitch;
 class QComboBox;
 class StepCard;
@@ -44,7 +45,7 @@ private:
     BuilderState state;
     BuilderSteps steps;
     std::vector<EntryRow> built;
-    EntryGridModel lines;
+    GridModel lines{EntryColumns()};
 
     StepCard* card;
     std::array<QComboBox*, 3>& F26combo;

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QFont>
 
+#include <utility>
+
 namespace {
 
 const QColor EntryColour(0x5B, 0x74, 0xD7);
@@ -17,6 +19,22 @@ QFont StrongOnly()
 
 } // namespace
 
+void GridModel::Show(int rowCount, CellText textOfCell)
+{
+    beginResetModel();
+    rows = rowCount;
+    cellText = std::move(textOfCell);
+    endResetModel();
+}
+
+std::vector<double> GridModel::ColumnShares() const
+{
+    std::vector<double> shares;
+    for (const Column& column : columns)
+        shares.push_back(column.share);
+    return shares;
+}
+
 int GridModel::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(columns.size());
@@ -29,7 +47,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     const Column& column = columns.at(static_cast<size_t>(index.column()));
     switch (role) {
     case Qt::DisplayRole:
-        return CellText(index.row(), index.column());
+        return cellText(index.row(), index.column());
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(column.alignment);
     case Qt::BackgroundRole:

@@ -1,11 +1,12 @@
 #include "draws/draw_grids_page.h"
 
 #include "controls/card.h"
+#include "controls/grid_view.h"
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
 #include "controls/page_switch.h"
-#include "draws/draw_grid_model.h"
+#include "draws/draw_grid.h"
 #include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
@@ -19,14 +20,14 @@ using namespace Qt::StringLiterals;
 DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch)
     : game(drawGame),
       pages(pageSwitch),
-      model(new DrawGridModel(game, this)),
+      model(new GridModel(DrawColumns(game), this)),
       grid(new GridView(game.IsMain() ? u"F10Grid1"_s : u"F10Grid2"_s, game.name + u" Draw"_s)),
       noDraws(
           MakeLabel(game.IsMain() ? u"There are no main draws stored."_s : u"There are no Thunderball draws stored."_s,
                     TextRole::Body, game.IsMain() ? u"Label_0"_s : u"Label_1"_s))
 {
     grid->setModel(model);
-    grid->SetColumnShares(DrawGridModel::ColumnShares(game));
+    grid->SetColumnShares(model->ColumnShares());
     noDraws->setAlignment(Qt::AlignCenter);
     auto* card = new Card;
     card->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
@@ -65,7 +66,8 @@ QLayout* DrawGridSection::MakeButtons()
 
 void DrawGridSection::Fill()
 {
-    model->Fill(DrawListOf(game));
+    shown = DrawListOf(game).List();
+    model->Show(shown.Count(), [this](int row, int column) { return DrawCell(shown[row], column); });
     const bool empty = model->rowCount() == 0;
     grid->setHidden(empty);
     noDraws->setVisible(empty);
@@ -91,7 +93,7 @@ void DrawGridSection::OpenSelectedDraw(int page)
         ShowMessage(u"Select only ONE draw."_s);
         return;
     }
-    MoveToDraw(DrawListOf(game), model->Rows()[rows.first].Mark(), "The draw could not be shown");
+    MoveToDraw(DrawListOf(game), shown[rows.first].Mark(), "The draw could not be shown");
     pages.Page(page)->Prepare();
 }
 
@@ -103,7 +105,7 @@ void DrawGridSection::Delete_Click()
         ShowMessage(u"Data delete has been aborted."_s);
         return;
     }
-    DeleteDraws(game, model->Rows().Marks(rows.first, rows.last));
+    DeleteDraws(game, shown.Marks(rows.first, rows.last));
     Fill();
     ShowMessage(u"Deleted"_s);
 }

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "controls/page_frame.h"
+#include "records/record_row.h"
 
 #include <QLabel>
 
-class DrawGridModel;
+class GridModel;
 class GridView;
 class PageSwitch;
 struct Game;
@@ -33,7 +34,9 @@ private:
 
     const Game& game;
     PageSwitch& pages;
-    DrawGridModel* model;
+    /// The draws in the grid.
+    RecordList shown;
+    GridModel* model;
     GridView* grid;
     QLabel* noDraws;
     Button* view;

@@ -1,6 +1,7 @@
 #include "users/entries_page.h"
 
 #include "controls/card.h"
+#include "controls/grid_view.h"
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"
@@ -11,7 +12,7 @@
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
 #include "users/choices.h"
-#include "users/entry_grid_model.h"
+#include "users/entry_grid.h"
 
 #include <QComboBox>
 #include <QRadioButton>
@@ -31,7 +32,7 @@ EntriesPage::EntriesPage(PageSwitch& pageSwitch)
       F13user(MakeList(u"F13user"_s, u"User"_s)),
       F13typemain(MakeOption(MainGame.name, u"F13typemain"_s)),
       F13typethunder(MakeOption(ThunderballGame.name, u"F13typethunder"_s)),
-      model(new EntryGridModel(this)),
+      model(new GridModel(EntryColumns(), this)),
       F13grid(new GridView(u"F13grid"_s, u"Entries"_s)),
       F13noentries(MakeLabel(u"There are no entries of this type, for this user."_s, TextRole::Body, u"F13noentries"_s))
 {
@@ -66,7 +67,7 @@ Card* EntriesPage::MakeChoiceCard()
 Card* EntriesPage::MakeGridCard()
 {
     F13grid->setModel(model);
-    F13grid->SetColumnShares(EntryGridModel::ColumnShares());
+    F13grid->SetColumnShares(model->ColumnShares());
     F13noentries->setAlignment(Qt::AlignCenter);
     auto* card = new Card;
     card->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
@@ -101,7 +102,8 @@ const Game& EntriesPage::ChosenGame() const
 void EntriesPage::FillEntriesGrid()
 {
     shown = selectedUserNumber ? ListEntriesOf(entries, *selectedUserNumber, ChosenGame().drawType) : RecordList();
-    model->Fill(ChosenGame(), shown.Count(), [this](int row) { return ReadEntry(shown[row]); });
+    model->Show(shown.Count(), [this](int row, int column) { return EntryCell(ReadEntry(shown[row]), row, column); });
+    NameLastNumber(*model, ChosenGame());
     const bool empty = model->rowCount() == 0;
     F13grid->setHidden(empty);
     F13noentries->setVisible(empty);

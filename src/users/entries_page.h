@@ -9,7 +9,7 @@
 #include <optional>
 
 class Card;
-class EntryGridModel;
+class GridModel;
 class GridView;
 class PageSwitch;
 class QComboBox;
@@ -48,7 +48,7 @@ private:
     QComboBox* F13user;
     QRadioButton* F13typemain;
     QRadioButton* F13typethunder;
-    EntryGridModel* model;
+    GridModel* model;
     GridView* F13grid;
     QLabel* F13noentries;
     Button* F13delete;
