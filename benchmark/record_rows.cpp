@@ -8,6 +8,7 @@
 #include "plain_engine.h"
 #include "records/engine.h"
 #include "store/draw_records.h"
+#include "store/draw_tables.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
 #include "store/user_records.h"
@@ -89,6 +90,7 @@ Row RequeryRow(const std::filesystem::path& work)
                 ukmain.MoveFirst();
                 Transaction transaction(DrawDb, "The draw could not be stored");
                 ukmain.Edit();
+                ukmain.SetField(DrawField::FirstBall, ukmain.Number(DrawField::FirstBall));
                 ukmain.Update();
                 transaction.Commit();
                 return Milliseconds([] { ukmainlist.Requery(); });

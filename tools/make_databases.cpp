@@ -10,11 +10,9 @@
 #include "base/numbers.h"
 #include "game/game.h"
 #include "records/database.h"
-#include "records/database_creation.h"
 #include "records/record_set.h"
 #include "store/draw_records.h"
 #include "store/draw_tables.h"
-#include "store/link_table.h"
 #include "store/open_databases.h"
 #include "store/user_tables.h"
 

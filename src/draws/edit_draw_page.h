@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/page_frame.h"
-#include "records/bookmark.h"
+#include "records/record_row.h"
 
 #include <QLabel>
 

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 class Table;
 struct TableLayout;
@@ -15,16 +16,12 @@ struct TableLayout;
 class Database
 {
 public:
-    Database() = default;
-    ~Database();
-    Database(const Database&) = delete;
-    Database& operator=(const Database&) = delete;
-
     /// Opens a file. `connect` is empty for a file without a password, else ";pwd=" followed by the password. The key
     /// is proved by reading. Throws Failure: a missing, locked or damaged file, a wrong password.
     void Open(const std::filesystem::path& file, const std::string& connect = {});
 
-    /// Closes the record sets and the file. Other copies of the program may go on using it.
+    /// Closes the file, which no record set can read or change from then on. Other copies of the program may go on
+    /// using it.
     void Close();
 
     bool IsOpen() const { return engine != nullptr; }
@@ -33,14 +30,13 @@ private:
     friend class RecordSet;
     friend class Transaction;
 
-    /// The table of a layout, or the one that it lists. It is there as long as the file is open.
+    /// The table of a layout, or the one that it lists, after proving both. Throws Failure.
     std::shared_ptr<Table> TableOf(const TableLayout& layout);
-    void RollBack();
 
+    // What stands below closes first: closing the lock's descriptor would drop the engine's own locks.
     FileLock lock;
     Engine engine;
     std::map<std::string, std::shared_ptr<Table>> tables;
-    bool inTransaction = false;
 };
 
 /// Several changes of one database that are stored together: all of them, or none. It takes the right to write at once,
@@ -61,5 +57,11 @@ public:
 private:
     Database& database;
     std::string doing;
-    bool open = false;
+    bool open = true;
 };
+
+/// Makes a new database file with empty tables and the stored queries over them, each after its table. `connect` is as
+/// for opening; with a password the file is protected by it, with the engine's own default settings. The file must not
+/// exist yet. Throws Failure.
+void CreateDatabase(const std::filesystem::path& file, const std::string& connect,
+                    const std::vector<TableLayout>& layouts);

@@ -122,7 +122,7 @@ void ApplyKey(sqlite3* engine, const std::string& password, std::string_view fir
     const std::string& key = DerivedKeyText(password, firstBytes.substr(0, SaltBytes));
     const int code = sqlite3_key(engine, key.data(), static_cast<int>(key.size()));
     if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, code, doing);
+        throw EngineFailure(engine, code, doing);
 }
 
 /// A change that would make the file too large to be opened again is refused.
@@ -148,7 +148,7 @@ Engine OpenEngine(const std::filesystem::path& file, int flags, const std::strin
     const int code = sqlite3_open_v2(file.c_str(), &opened, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     Engine engine(opened);
     if (code != SQLITE_OK)
-        ThrowEngineFailure(opened, code, doing);
+        throw EngineFailure(opened, code, doing);
     sqlite3_extended_result_codes(opened, 1);
     return engine;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/files.h"
 #include "records/engine.h"
 #include "records/file_lock.h"
 
@@ -27,10 +28,15 @@ public:
     void ReplaceBy(TemporaryFile next);
 
     /// Compacts the file through its two temporary files, .tp1 and .tp2 in the same folder, which are gone afterwards,
-    /// as is what earlier runs left. Only while it is held alone. Throws Failure; the file is then as it was.
+    /// as is what earlier runs left: the same tables, rows in the same order, stored queries and marks, without the
+    /// room that deleted rows left, under the same password. Only while it is held alone. Throws Failure; the file is
+    /// then as it was.
     void Compact();
 
 private:
+    void ClearTemporaries() const;
+    void Export(const TemporaryFile& source, const TemporaryFile& destination) const;
+
     std::filesystem::path file;
     std::string connect;
     std::string doing;

@@ -1,10 +1,22 @@
 #pragma once
 
-#include "records/bookmark.h"
+#include "base/numbers.h"
 #include "records/stored_rows.h"
 
+#include <cmath>
 #include <memory>
 #include <vector>
+
+/// Names one stored row, also where a file of unknown origin holds its number twice or not at all. It names no other
+/// row after another copy of the program has deleted it.
+struct Bookmark
+{
+    /// The engine's own number of the row, which it may give again, and the number that the row was given.
+    std::int64_t rowId = 0;
+    double number = 0;
+
+    bool operator==(const Bookmark&) const = default;
+};
 
 /// One row, read where it stands in memory. Its fields are addressed by their positions, counted from 0; texts live
 /// until the rows change.
@@ -13,27 +25,22 @@ class RecordRow
 public:
     RecordRow(const StoredRows& storedRows, int rowPlace) : rows(storedRows), place(rowPlace) {}
 
-    Value Field(int position) const { return rows.Read(place, position); }
-    /// Puts the field into `number` where it holds a whole number; otherwise false.
-    bool WholeNumber(int position, std::int64_t& number) const { return rows.WholeNumber(place, position, number); }
     /// The field as a number: a text by its leading number, nothing as 0.
-    double Number(int position) const
-    {
-        std::int64_t whole = 0;
-        return WholeNumber(position, whole) ? static_cast<double>(whole) : NumberOfOther(position);
-    }
+    double Number(int position) const { return rows.Number(place, position); }
     /// The whole part of that number, or 0 where it is too large for one.
-    std::int64_t WholePart(int position) const;
-    /// The field as a text: in a column of texts a number of a foreign file has become one. Empty otherwise.
-    std::string_view Text(int position) const;
+    std::int64_t WholePart(int position) const
+    {
+        const double number = Number(position);
+        return std::fabs(number) < LargestExactWhole ? static_cast<std::int64_t>(number) : 0;
+    }
+    /// The field of a column of texts; empty in a column of numbers.
+    std::string_view Text(int position) const { return rows.Text(place, position); }
     /// Whether the field holds a flag that is set.
     bool Flag(int position) const { return Number(position) != 0; }
 
     Bookmark Mark() const { return {rows.RowId(place), Number(0)}; }
 
 private:
-    double NumberOfOther(int position) const;
-
     const StoredRows& rows;
     int place;
 };
@@ -49,8 +56,14 @@ public:
     }
 
     int Count() const { return places ? static_cast<int>(places->size()) : 0; }
-    std::vector<Bookmark> Marks(int first, int last) const;
     RecordRow operator[](int row) const { return {*rows, places->at(static_cast<std::size_t>(row))}; }
+    std::vector<Bookmark> Marks(int first, int last) const
+    {
+        std::vector<Bookmark> marks;
+        for (int row = first; row <= last; ++row)
+            marks.push_back((*this)[row].Mark());
+        return marks;
+    }
 
 private:
     std::shared_ptr<const StoredRows> rows;

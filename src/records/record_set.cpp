@@ -1,75 +1,94 @@
 #include "records/record_set.h"
 
-#include "base/failure.h"
 #include "records/database.h"
-#include "records/row_order.h"
-#include "records/row_reading.h"
 #include "records/table.h"
 
 #include <algorithm>
 #include <unordered_map>
-#include <utility>
+
+namespace {
+
+const char* const DeletedMeanwhile = "another copy of the program has deleted the row meanwhile";
+
+} // namespace
 
 void RecordSet::Open(Database& owner, const TableLayout& tableLayout)
 {
-    Close();
+    *this = RecordSet();
     layout = tableLayout;
-    ProveLayout(owner.engine.get(), layout, Doing("opened"));
     table = owner.TableOf(layout);
 }
 
-void RecordSet::Close()
+Failure RecordSet::Trouble(const char* failed, const char* reason) const
 {
-    table.reset();
-    rows.reset();
-    order.reset();
-    editing = Editing::No;
-    current = -1;
+    return {"The table " + layout.name + " could not be " + failed, reason, "record set"};
 }
 
-std::string RecordSet::Doing(const char* failed) const
+Table& RecordSet::OpenTable() const
 {
-    return "The table " + layout.name + " could not be " + failed;
+    if (const auto opened = table.lock())
+        return *opened;
+    throw Trouble("read", "the file is not open");
 }
 
-void RecordSet::ThrowNoRecord(const char* failed) const
+RecordRow RecordSet::Row() const
 {
-    throw Failure(Doing(failed), "there is no current record", "record set at its start or end");
-}
-
-void RecordSet::Load()
-{
-    if (!rows)
-        MoveFirst();
+    if (!OnRecord())
+        throw Trouble("read", "there is no current record");
+    return {*rows, Place()};
 }
 
 void RecordSet::Refresh()
 {
-    if (!table)
-        throw Failure(Doing("read"), "the file is not open", "record set closed");
-    if (rows == table->NewestRows())
+    const std::shared_ptr<const StoredRows> newest = OpenTable().NewestRows();
+    if (rows == newest)
         return;
-    rows = table->Rows();
+    rows = newest;
+    order.reset();
+    orderedPlaces = 0;
     if (layout.IsList())
-        order = std::make_shared<std::vector<int>>(OrderRows(*rows, layout.orderedBy));
-    orderedChanges = rows->Changed().size();
+        PutInOrder();
+}
+
+void RecordSet::PutInOrder()
+{
+    // Where all fields are equal, the row that was added first comes first.
+    const auto before = [this](int place, int other) {
+        for (const int column : layout.orderedBy)
+            if (const auto difference = rows->Compare(place, other, column); difference != 0)
+                return difference > 0;
+        return place < other;
+    };
+    std::vector<int> places;
+    places.reserve(static_cast<std::size_t>(rows->Count()));
+    for (int place = rows->Places() - 1; place >= orderedPlaces; --place)
+        places.push_back(place);
+    // Most rows are added as time goes on, so that there is often nothing to sort.
+    if (!std::is_sorted(places.begin(), places.end(), before))
+        std::sort(places.begin(), places.end(), before);
+    const auto added = std::ssize(places);
+    if (order)
+        places.insert(places.end(), order->begin(), order->end());
+    std::inplace_merge(places.begin(), places.begin() + added, places.end(), before);
+    std::erase_if(places, [this](int place) { return rows->IsDeleted(place); });
+    order = std::make_shared<std::vector<int>>(std::move(places));
+    orderedPlaces = rows->Places();
 }
 
 bool RecordSet::Bof()
 {
-    Load();
-    return current < 0 || Count() == 0;
+    return Count() == 0 || current < 0;
 }
 
 bool RecordSet::Eof()
 {
-    Load();
-    return current >= Size() || Count() == 0;
+    return Count() == 0 || current >= Size();
 }
 
 int RecordSet::Count()
 {
-    Load();
+    if (!rows)
+        MoveFirst();
     return order ? Size() : rows->Count();
 }
 
@@ -89,101 +108,72 @@ void RecordSet::MoveLast()
 
 void RecordSet::Step(int direction)
 {
+    if (!rows)
+        MoveFirst();
     do
         current += direction;
     while (IsWithin() && !OnRecord());
     current = std::clamp(current, -1, Size());
 }
 
-void RecordSet::MoveNext()
-{
-    Load();
-    Step(1);
-}
-
-void RecordSet::MovePrevious()
-{
-    Load();
-    Step(-1);
-}
-
 void RecordSet::Move(int count)
 {
-    Load();
-    const int direction = count < 0 ? -1 : 1;
-    for (int moved = 0; moved != count && current >= -1 && current <= Size(); moved += direction)
-        Step(direction);
+    for (int moved = 0; moved < std::abs(count); ++moved)
+        Step(count < 0 ? -1 : 1);
 }
 
 bool RecordSet::MoveTo(const Bookmark& mark)
 {
     for (MoveFirst(); IsWithin(); Step(1))
-        if (rows->RowId(Place()) == mark.rowId && Mark() == mark)
+        if (Mark() == mark)
             return true;
     return false;
 }
 
 void RecordSet::AddNew()
 {
-    Load();
-    editing = Editing::NewRow;
-    edited.assign(layout.columns.size(), Value());
-    editedTexts.assign(layout.columns.size(), {});
+    edited.clear();
+    addsRow = true;
 }
 
 void RecordSet::Edit()
 {
-    AddNew();
-    editing = Editing::CurrentRow;
-    for (int position = 0; position < layout.ColumnCount(); ++position)
-        SetField(position, Field(position));
-}
-
-void RecordSet::SetField(int position, const Value& value)
-{
-    const auto place = static_cast<std::size_t>(position);
-    edited.at(place) = value;
-    if (const auto* text = std::get_if<std::string_view>(&value)) {
-        editedTexts.at(place) = *text;
-        edited[place] = std::string_view(editedTexts[place]);
-    }
+    edited.clear();
+    addsRow = false;
 }
 
 void RecordSet::Update()
 {
-    const Editing what = std::exchange(editing, Editing::No);
-    if (what == Editing::CurrentRow) {
-        table->Update(PlaceToChange(), edited);
-    } else if (what == Editing::NewRow) {
-        const bool first = Count() == 0;
-        table->Insert(edited);
-        if (first)
-            MoveLast();
+    if (!addsRow) {
+        if (!IsStillThere())
+            throw Trouble("changed", DeletedMeanwhile);
+        OpenTable().Update(Place(), edited);
+        return;
     }
+    const bool first = Count() == 0;
+    OpenTable().Insert(edited);
+    if (first)
+        MoveLast();
 }
 
 void RecordSet::Delete()
 {
-    table->Delete(PlaceToChange());
+    if (IsStillThere())
+        OpenTable().Delete(Place());
 }
 
-int RecordSet::PlaceToChange()
+/// Whether the current record is still stored; the set stands on it among the newest rows then.
+bool RecordSet::IsStillThere()
 {
-    if (!OnRecord())
-        ThrowNoRecord("changed");
-    if (rows != table->Rows() && !MoveTo(Mark()))
-        throw Failure(Doing("changed"), "another copy of the program has deleted the row meanwhile", "the row is gone");
-    return Place();
+    const Bookmark mark = Mark();
+    return rows == OpenTable().NewestRows() || MoveTo(mark);
 }
 
 void RecordSet::Requery()
 {
     Refresh();
-    if (const auto& changed = rows->Changed(); order && orderedChanges < changed.size()) {
-        order = std::make_shared<std::vector<int>>(
-            OrderAgain(*order, std::span(changed).subspan(orderedChanges), *rows, layout.orderedBy));
-        orderedChanges = changed.size();
-    }
+    if (order)
+        PutInOrder();
     MoveFirst();
 }
 
@@ -191,37 +181,20 @@ std::int64_t RecordSet::NextNumber()
 {
     MoveLast();
     // Beyond this bound a foreign file's number could not be raised by one.
-    constexpr double largest = 9007199254740990.0;
+    constexpr double largest = LargestExactWhole - 2;
     return IsEmpty() ? 1 : static_cast<std::int64_t>(std::clamp(Number(0), -largest, largest)) + 1;
 }
 
 RecordList RecordSet::List()
 {
-    if (!order)
-        return ListOf([](const RecordRow&) { return true; });
     MoveFirst();
     return {rows, order};
 }
 
-RecordList RecordSet::ListOf(const std::function<bool(const RecordRow&)>& chosen)
-{
-    std::vector<int> places;
-    for (MoveFirst(); IsWithin(); Step(1))
-        if (chosen(Row()))
-            places.push_back(Place());
-    return {rows, std::make_shared<std::vector<int>>(std::move(places))};
-}
-
-int RecordSet::CountOf(int position, std::int64_t number)
+int RecordSet::CountOf(int position, double number)
 {
     Refresh();
-    int count = 0;
-    rows->Column(position).ForEachThatMayBe(number, [&](std::size_t row) {
-        const int place = static_cast<int>(row);
-        if (!rows->IsDeleted(place) && RecordRow(*rows, place).WholePart(position) == number)
-            ++count;
-    });
-    return count;
+    return rows->CountOf(position, number);
 }
 
 void DeleteRecords(RecordSet& table, const std::vector<Bookmark>& marks)

@@ -1,6 +1,8 @@
 #include "records/statement.h"
 
-#include "base/failure.h"
+#include "base/numbers.h"
+
+#include <cmath>
 
 namespace {
 
@@ -36,20 +38,18 @@ const char* PlainReason(int code)
 
 } // namespace
 
-void ThrowEngineFailure(sqlite3* engine, int code, const std::string& doing)
+Failure EngineFailure(sqlite3* engine, int code, const std::string& doing)
 {
     // The handle's own text belongs to its last call only; another code is described in general.
     const bool own = engine != nullptr && (sqlite3_errcode(engine) & 0xff) == (code & 0xff);
-    throw Failure(doing, PlainReason(code), own ? sqlite3_errmsg(engine) : sqlite3_errstr(code));
+    return {doing, PlainReason(code), own ? sqlite3_errmsg(engine) : sqlite3_errstr(code)};
 }
 
 Statement::Statement(sqlite3* owner, std::string_view sql, std::string doingClause)
     : engine(owner), doing(std::move(doingClause))
 {
-    const int code = sqlite3_prepare_v3(engine, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
-                                        &statement, nullptr);
-    if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, code, doing);
+    Check(sqlite3_prepare_v3(engine, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &statement,
+                             nullptr));
 }
 
 Statement::~Statement()
@@ -57,56 +57,46 @@ Statement::~Statement()
     sqlite3_finalize(statement);
 }
 
-void Statement::Bind(int parameter, const Value& value)
+void Statement::Check(int code) const
 {
-    int code = SQLITE_OK;
-    if (const auto* whole = std::get_if<std::int64_t>(&value))
-        code = sqlite3_bind_int64(statement, parameter, *whole);
-    else if (const auto* real = std::get_if<double>(&value))
-        code = sqlite3_bind_double(statement, parameter, *real);
-    else if (const auto* text = std::get_if<std::string_view>(&value))
-        code = sqlite3_bind_text64(statement, parameter, text->empty() ? "" : text->data(), text->size(), SQLITE_STATIC,
-                                   SQLITE_UTF8);
-    else
-        code = sqlite3_bind_null(statement, parameter);
     if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, code, doing);
+        throw EngineFailure(engine, code, doing);
 }
 
-void Statement::BindAll(const std::vector<Value>& values)
+void Statement::Bind(int parameter, std::int64_t number)
 {
-    for (std::size_t value = 0; value < values.size(); ++value)
-        Bind(static_cast<int>(value) + 1, values[value]);
+    Check(sqlite3_bind_int64(statement, parameter, number));
+}
+
+void Statement::Bind(int parameter, std::string_view text)
+{
+    Check(sqlite3_bind_text64(statement, parameter, text.empty() ? "" : text.data(), text.size(), SQLITE_STATIC,
+                              SQLITE_UTF8));
+}
+
+void Statement::Bind(int parameter, double number)
+{
+    if (std::fabs(number) < LargestExactWhole && number == std::trunc(number))
+        Bind(parameter, static_cast<std::int64_t>(number));
+    else
+        Check(sqlite3_bind_double(statement, parameter, number));
 }
 
 bool Statement::Step()
 {
     const int code = sqlite3_step(statement);
-    if (code == SQLITE_ROW)
-        return true;
-    if (code == SQLITE_DONE)
-        return false;
-    // The reset would clear the handle's own text of the failure, so it comes after the text is taken.
-    try {
-        ThrowEngineFailure(engine, sqlite3_extended_errcode(engine), doing);
-    } catch (const Failure&) {
-        sqlite3_reset(statement);
-        throw;
-    }
+    if (code == SQLITE_ROW || code == SQLITE_DONE)
+        return code == SQLITE_ROW;
+    // The reset clears the handle's own text of the failure, so it comes after the text is taken.
+    const Failure failure = EngineFailure(engine, sqlite3_extended_errcode(engine), doing);
+    sqlite3_reset(statement);
+    throw failure;
 }
 
-Value Statement::Column(int column) const
+bool Statement::IsNumber(int column) const
 {
-    switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_INTEGER:
-        return sqlite3_column_int64(statement, column);
-    case SQLITE_FLOAT:
-        return sqlite3_column_double(statement, column);
-    case SQLITE_NULL:
-        return std::monostate();
-    default:
-        return Text(column);
-    }
+    const int type = sqlite3_column_type(statement, column);
+    return type == SQLITE_INTEGER || type == SQLITE_FLOAT;
 }
 
 std::string_view Statement::Text(int column) const
@@ -126,7 +116,7 @@ void Execute(sqlite3* engine, const std::string& sql, const std::string& doing)
 {
     const int code = sqlite3_exec(engine, sql.c_str(), nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)
-        ThrowEngineFailure(engine, sqlite3_extended_errcode(engine), doing);
+        throw EngineFailure(engine, sqlite3_extended_errcode(engine), doing);
 }
 
 std::string Quoted(std::string_view identifier)

@@ -1,80 +1,118 @@
 #pragma once
 
-#include "records/stored_column.h"
+#include "records/table_layout.h"
 
+#include <compare>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
 #include <vector>
+
+/// The numbers of a column, in as few bytes each as all of them need.
+class NumberColumn
+{
+public:
+    double operator[](std::size_t place) const
+    {
+        return std::visit([place](const auto& held) { return static_cast<double>(held[place]); }, numbers);
+    }
+    /// Puts the number into a place, or after the last one.
+    void Put(std::size_t place, double number);
+    /// Calls `action` with each place and its number, in order.
+    template <typename Action>
+    void ForEach(Action action) const
+    {
+        std::visit(
+            [&action](const auto& held) {
+                for (std::size_t place = 0; place < held.size(); ++place)
+                    action(place, static_cast<double>(held[place]));
+            },
+            numbers);
+    }
+    /// Gives back the memory that is kept for more numbers.
+    void Shrink();
+
+private:
+    using Numbers = std::variant<std::vector<std::int8_t>, std::vector<std::int32_t>, std::vector<double>>;
+
+    Numbers numbers;
+};
+
+/// A field that is to be stored: its position in the row, and a number or a text in UTF-8.
+struct FieldValue
+{
+    int position;
+    std::variant<double, std::string> value;
+};
 
 /// The rows of a table in memory, column by column. A row is named by its place, which it keeps: a new row comes after
 /// all others, and a deleted one can still be read.
 class StoredRows
 {
 public:
-    explicit StoredRows(int columnCount) : columns(static_cast<std::size_t>(columnCount)) {}
+    explicit StoredRows(const TableLayout& table);
 
     /// The number of places, those of deleted rows included, and of rows that are left.
-    int Places() const { return static_cast<int>(deleted.size()); }
+    int Places() const { return static_cast<int>(rowIds.size()); }
     int Count() const { return Places() - deletedCount; }
     bool IsDeleted(int place) const { return deleted[Index(place)]; }
     /// The number by which the engine knows the row.
     std::int64_t RowId(int place) const { return rowIds[Index(place)]; }
 
-    /// A field; a text lives until the rows change.
-    Value Read(int place, int column) const { return columns[Index(column)].Read(Index(place)); }
-    /// Puts the field into `number` where it is a whole number; otherwise false.
-    bool WholeNumber(int place, int column, std::int64_t& number) const
-    {
-        return columns[Index(column)].WholeNumber(Index(place), number);
-    }
-    /// Below, above or equal to 0 as the engine orders the fields of a column.
-    int Compare(int place, int other, int column) const
-    {
-        return columns[Index(column)].Compare(Index(place), Index(other));
-    }
-    const StoredColumn& Column(int column) const { return columns[Index(column)]; }
+    /// The field as a number: a text by its leading number, nothing as 0.
+    double Number(int place, int column) const;
+    /// The field of a column of texts, which lives until the rows change; empty in a column of numbers.
+    std::string_view Text(int place, int column) const;
+    /// How the fields of two rows stand to each other.
+    std::partial_ordering Compare(int place, int other, int column) const;
+    /// In how many rows that are left a column of numbers holds this one.
+    int CountOf(int column, double number) const;
 
-    /// Makes the cells of a row that is to be put in. Throws std::length_error where there is no more room for texts.
-    std::vector<Cell> Keep(const std::vector<Value>& values);
-    Cell Keep(int column, const Value& value) { return columns[Index(column)].Keep(value, textRoom); }
-    Cell Keep(int column, StoredColumn::Kind kind, std::string_view content)
-    {
-        return columns[Index(column)].Keep(kind, content, textRoom);
-    }
-
-    /// Puts in a row that has been read.
-    void Append(std::int64_t rowId, const std::vector<Cell>& cells);
+    /// Puts a row without content after the last one, and returns its place.
+    int Append(std::int64_t rowId);
+    /// Puts a field into a row. Throws Failure where there is no more room for texts.
+    void Put(int place, int column, double number);
+    void Put(int place, int column, std::string_view text);
     /// Gives back the memory that is kept for more rows.
     void Shrink();
 
-    void Add(std::int64_t rowId, const std::vector<Cell>& cells);
-    void Replace(int place, const std::vector<Cell>& cells);
-    void Delete(int place);
-    /// The places that were changed since the rows were read, one after another.
-    const std::vector<int>& Changed() const { return changed; }
-    /// The changes up to now stay, or those since the last ones that stay are taken back.
-    void KeepChanges() { changes.clear(); }
+    /// The changes from here on can be taken back.
+    void BeginChanges() { changes.clear(); }
     void TakeBackChanges();
+    void Add(std::int64_t rowId, const std::vector<FieldValue>& fields);
+    void Replace(int place, const std::vector<FieldValue>& fields);
+    void Delete(int place);
 
 private:
     /// The program's own tables hold some kilobytes; a file that claims much more must not take the computer's memory.
     static constexpr std::size_t MostTextBytes = std::size_t{32} * 1024 * 1024;
+
+    /// Numbers, or the places of the fields' texts, of which the first is the empty one. A text that comes again soon
+    /// stands there once.
+    struct Column
+    {
+        NumberColumn cells;
+        std::vector<std::string> texts;
+    };
 
     /// What a row was before it was changed; without cells where only its deletion is concerned.
     struct Change
     {
         int place;
         bool wasDeleted;
-        std::vector<Cell> cells;
+        std::vector<double> cells;
     };
 
     static std::size_t Index(int number) { return static_cast<std::size_t>(number); }
-    void Put(int place, const std::vector<Cell>& cells);
+    double PlaceOfText(std::vector<std::string>& texts, std::string_view text);
+    void PutAll(int place, const std::vector<FieldValue>& fields);
     void SetDeleted(int place, bool isDeleted);
 
-    std::vector<StoredColumn> columns;
-    WholeNumbers rowIds;
+    std::vector<Column> columns;
+    std::vector<std::int64_t> rowIds;
     std::vector<bool> deleted;
     int deletedCount = 0;
     std::size_t textRoom = MostTextBytes;
-    std::vector<int> changed;
     std::vector<Change> changes;
 };

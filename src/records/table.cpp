@@ -1,127 +1,153 @@
 #include "records/table.h"
 
 #include "base/failure.h"
-#include "records/row_reading.h"
 
-#include <stdexcept>
+namespace {
 
-Table::Table(sqlite3* owner, TableLayout tableLayout) : engine(owner), layout(std::move(tableLayout)) {}
-
-void Table::Close()
+void BindField(Statement& statement, int parameter, const FieldValue& field)
 {
-    for (auto* statement : {&versionQuery, &insertRow, &updateRow, &deleteRow})
-        statement->reset();
-    rows.reset();
-    engine = nullptr;
+    std::visit([&](const auto& value) { statement.Bind(parameter, value); }, field.value);
 }
 
-std::string Table::Doing(const char* failed) const
+} // namespace
+
+std::string ColumnNames(const TableLayout& layout)
 {
-    return "The table " + layout.name + " could not be " + failed;
+    std::string names;
+    for (const ColumnLayout& column : layout.columns)
+        names += (names.empty() ? "" : ", ") + Quoted(column.name);
+    return names;
 }
 
-std::int64_t Table::Version()
+void ProveLayout(sqlite3* engine, const TableLayout& layout, const std::string& doing)
 {
-    if (engine == nullptr)
-        throw Failure(Doing("read"), "the file is not open", "record set closed");
-    if (!versionQuery)
-        versionQuery = std::make_unique<Statement>(engine, "PRAGMA data_version", Doing("read"));
-    versionQuery->Step();
-    const std::int64_t version = versionQuery->WholeNumber(0);
-    versionQuery->Reset();
-    return version;
+    const char* const wanted = layout.IsList() ? "view" : "table";
+    // A virtual table says that it is a table, but has no page of its own.
+    Statement kind(engine,
+                   "SELECT 1 FROM sqlite_master WHERE name = ?1 AND type = ?2 AND (rootpage > 0) = (type = 'table')",
+                   doing);
+    kind.Bind(1, layout.name);
+    kind.Bind(2, wanted);
+    if (!kind.Step())
+        throw Failure(doing, "it is missing in the file", std::string("no such ") + wanted);
+    Statement columns(engine, "PRAGMA table_xinfo(" + Quoted(layout.name) + ")", doing);
+    constexpr int nameColumn = 1;
+    constexpr int hiddenColumn = 6;
+    std::size_t found = 0;
+    bool same = true;
+    for (; columns.Step(); ++found)
+        same = same && found < layout.columns.size() && columns.Text(nameColumn) == layout.columns[found].name &&
+               columns.WholeNumber(hiddenColumn) == 0;
+    if (!same || found != layout.columns.size())
+        throw Failure(doing, "its columns are not as this program made them", std::to_string(found) + " columns");
 }
 
-const std::shared_ptr<StoredRows>& Table::Rows()
+Table::Table(sqlite3* owner, TableLayout tableLayout)
+    : engine(owner), layout(std::move(tableLayout)), currentVersion(engine, "PRAGMA data_version", Doing("read"))
 {
-    return rows ? rows : NewestRows();
+    // The file's own word for what is a table is not enough: the engine must be ready to read it as one.
+    const Statement readable(engine, Selection(), Doing("opened"));
+}
+
+std::string Table::Selection() const
+{
+    return "SELECT rowid, " + ColumnNames(layout) + " FROM " + Quoted(layout.name) + " ORDER BY rowid";
 }
 
 const std::shared_ptr<StoredRows>& Table::NewestRows()
 {
     // The version is taken first: a change that comes between the two is then seen once more, not missed.
-    if (const std::int64_t version = Version(); !rows || version != readVersion) {
-        rows = std::make_shared<StoredRows>(ReadRows(engine, layout, Doing("read")));
+    currentVersion.Step();
+    const std::int64_t version = currentVersion.WholeNumber(0);
+    currentVersion.Reset();
+    if (!rows || version != readVersion) {
+        rows = ReadRows();
         readVersion = version;
     }
     return rows;
 }
 
-std::vector<Cell> Table::Cells(const std::vector<Value>& values)
+std::shared_ptr<StoredRows> Table::ReadRows()
 {
-    try {
-        return Rows()->Keep(values);
-    } catch (const std::length_error& failure) {
-        throw Failure(Doing("changed"), "its texts are too long", failure.what());
+    auto read = std::make_shared<StoredRows>(layout);
+    const int columns = static_cast<int>(layout.columns.size());
+    Statement query(engine, Selection(), Doing("read"));
+    while (query.Step()) {
+        const std::int64_t rowId = query.WholeNumber(0);
+        // Where a damaged page leads to others twice, a small file seems to have rows without end.
+        if (read->Places() > 0 && rowId <= read->RowId(read->Places() - 1))
+            throw Failure(Doing("read"), "the file is damaged or is not one of this program's files",
+                          "rows out of order");
+        const int place = read->Append(rowId);
+        for (int column = 0; column < columns; ++column) {
+            if (query.IsNumber(column + 1))
+                read->Put(place, column, query.Number(column + 1));
+            else
+                read->Put(place, column, query.Text(column + 1));
+        }
     }
+    read->Shrink();
+    // What the engine keeps of the file is not asked for again.
+    sqlite3_db_release_memory(engine);
+    return read;
 }
 
-void Table::Insert(const std::vector<Value>& values)
+void Table::Insert(const std::vector<FieldValue>& fields)
 {
     if (!insertRow) {
-        std::string parameters = "?1";
-        for (int column = 2; column <= layout.ColumnCount(); ++column)
-            parameters += ", ?" + std::to_string(column);
-        insertRow = std::make_unique<Statement>(
+        std::string parameters;
+        for (std::size_t column = 1; column <= layout.columns.size(); ++column)
+            parameters += (column == 1 ? "?" : ", ?") + std::to_string(column);
+        insertRow.emplace(
             engine, "INSERT INTO " + Quoted(layout.name) + " (" + ColumnNames(layout) + ") VALUES (" + parameters + ")",
             Doing("changed"));
     }
-    const std::vector<Cell> cells = Cells(values);
-    insertRow->BindAll(values);
+    for (const FieldValue& field : fields)
+        BindField(*insertRow, field.position + 1, field);
     insertRow->Step();
     insertRow->Reset();
-    rows->Add(sqlite3_last_insert_rowid(engine), cells);
+    rows->Add(sqlite3_last_insert_rowid(engine), fields);
 }
 
-void Table::Update(int place, const std::vector<Value>& values)
+void Table::Update(int place, const std::vector<FieldValue>& fields)
 {
-    const int columns = layout.ColumnCount();
-    if (!updateRow) {
-        std::string assignments;
-        for (int column = 1; column <= columns; ++column)
-            assignments += (column == 1 ? "" : ", ") +
-                           Quoted(layout.columns[static_cast<std::size_t>(column) - 1].name) + " = ?" +
-                           std::to_string(column);
-        // Another copy may have deleted the row and given its place to a new one; the number tells them apart.
-        updateRow = std::make_unique<Statement>(
-            engine,
-            "UPDATE " + Quoted(layout.name) + " SET " + assignments + " WHERE rowid = ?" + std::to_string(columns + 1) +
-                " AND " + Quoted(layout.columns[0].name) + " IS ?" + std::to_string(columns + 2),
-            Doing("changed"));
-    }
-    const std::vector<Cell> cells = Cells(values);
-    updateRow->BindAll(values);
-    updateRow->Bind(columns + 1, rows->RowId(place));
-    updateRow->Bind(columns + 2, rows->Read(place, 0));
-    updateRow->Step();
-    updateRow->Reset();
-    if (sqlite3_changes(engine) == 0)
-        throw Failure(Doing("changed"), "another copy of the program has deleted the row meanwhile", "no row changed");
-    rows->Replace(place, cells);
+    if (fields.empty())
+        return;
+    std::string assignments;
+    for (const FieldValue& field : fields)
+        assignments += (assignments.empty() ? "" : ", ") +
+                       Quoted(layout.columns.at(static_cast<std::size_t>(field.position)).name) + " = ?";
+    Statement update(engine, "UPDATE " + Quoted(layout.name) + " SET " + assignments + " WHERE rowid = ?",
+                     Doing("changed"));
+    int parameter = 0;
+    for (const FieldValue& field : fields)
+        BindField(update, ++parameter, field);
+    update.Bind(++parameter, rows->RowId(place));
+    update.Step();
+    rows->Replace(place, fields);
 }
 
 void Table::Delete(int place)
 {
     if (!deleteRow)
-        deleteRow = std::make_unique<Statement>(engine,
-                                                "DELETE FROM " + Quoted(layout.name) + " WHERE rowid = ?1 AND " +
-                                                    Quoted(layout.columns[0].name) + " IS ?2",
-                                                Doing("changed"));
-    deleteRow->Bind(1, Rows()->RowId(place));
-    deleteRow->Bind(2, rows->Read(place, 0));
+        deleteRow.emplace(engine, "DELETE FROM " + Quoted(layout.name) + " WHERE rowid = ?", Doing("changed"));
+    deleteRow->Bind(1, rows->RowId(place));
     deleteRow->Step();
     deleteRow->Reset();
     rows->Delete(place);
 }
 
-void Table::KeepChanges()
+void Table::BeginChanges()
 {
     if (rows)
-        rows->KeepChanges();
+        rows->BeginChanges();
 }
 
 void Table::TakeBackChanges()
 {
-    if (rows)
-        rows->TakeBackChanges();
+    if (!rows)
+        return;
+    rows->TakeBackChanges();
+    // A list that was put into order meanwhile must not keep that order.
+    rows = std::make_shared<StoredRows>(*rows);
 }

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-/// One column of a table: its name and the type it is declared with.
+/// One column of a table: its name and the type it is declared with, which is TEXT for a column of texts.
 struct ColumnLayout
 {
     std::string name;
@@ -17,11 +17,11 @@ struct TableLayout
     std::string name;
     std::vector<ColumnLayout> columns;
     /// For a stored query the table that it lists, and the positions of the columns by which it is ordered, each with
-    /// the highest first; empty for a table, whose rows keep the order in which they were added.
+    /// the highest first: what stands there is not changed after a row has been added. Empty for a table, whose rows
+    /// keep the order in which they were added.
     std::string listedTable = {};
     std::vector<int> orderedBy = {};
 
     bool IsList() const { return !listedTable.empty(); }
     TableLayout Listed() const { return {listedTable, columns}; }
-    int ColumnCount() const { return static_cast<int>(columns.size()); }
 };

@@ -8,19 +8,13 @@
 
 namespace {
 
-void SetText(RecordSet& table, int position, const QString& text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    table.SetField(position, std::string_view(utf8.constData(), static_cast<size_t>(utf8.size())));
-}
-
 void SetDrawnBalls(RecordSet& table, const Game& game, const EnteredDraw& draw)
 {
     for (int slot = 0; slot < game.BallCount(); ++slot)
-        table.SetField(DrawField::FirstBall + slot, NumberField(draw.balls.at(static_cast<size_t>(slot))));
+        table.SetField(DrawField::FirstBall + slot, draw.balls.at(static_cast<size_t>(slot)));
     if (game.hasMachine) {
-        SetText(table, DrawField::Machine, draw.machine);
-        SetText(table, DrawField::BallSet, draw.ballSet);
+        table.SetField(DrawField::Machine, draw.machine.toStdString());
+        table.SetField(DrawField::BallSet, draw.ballSet.toStdString());
     }
 }
 
@@ -69,13 +63,10 @@ void MoveToDraw(RecordSet& set, const Bookmark& mark, const std::string& doing)
 
 void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw)
 {
-    const std::int64_t number = table.NextNumber();
-    const std::string day = ShortDayName(draw.date).toStdString();
-    const std::string date = IsoDate(draw.date);
     table.AddNew();
-    table.SetField(DrawField::DrawId, number);
-    table.SetField(DrawField::Day, std::string_view(day));
-    table.SetField(DrawField::Date, std::string_view(date));
+    table.SetField(DrawField::DrawId, table.NextNumber());
+    table.SetField(DrawField::Day, ShortDayName(draw.date).toStdString());
+    table.SetField(DrawField::Date, IsoDate(draw.date));
     SetDrawnBalls(table, game, draw);
     table.Update();
 }

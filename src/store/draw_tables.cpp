@@ -1,7 +1,6 @@
 #include "store/draw_tables.h"
 
 #include "game/game.h"
-#include "store/link_table.h"
 
 namespace {
 
@@ -38,6 +37,17 @@ const TableLayout& DrawList(const Game& game)
     static const TableLayout mainList = ListOf(DrawTable(MainGame));
     static const TableLayout thunderballList = ListOf(DrawTable(ThunderballGame));
     return game.IsMain() ? mainList : thunderballList;
+}
+
+const TableLayout& LinksTable()
+{
+    static const TableLayout links{"links",
+                                   {{"SiteName", "TEXT"},
+                                    {"WebAddress", "TEXT"},
+                                    {"MailAddress", "TEXT"},
+                                    {"Description1", "TEXT"},
+                                    {"Description2", "TEXT"}}};
+    return links;
 }
 
 std::vector<TableLayout> DrawDatabaseLayouts()

@@ -8,6 +8,9 @@ struct Game;
 const TableLayout& DrawTable(const Game& game);
 const TableLayout& DrawList(const Game& game);
 
+/// The table of web links.
+const TableLayout& LinksTable();
+
 /// Everything that the draw database holds.
 std::vector<TableLayout> DrawDatabaseLayouts();
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "game/entry_row.h"
-#include "records/bookmark.h"
+#include "records/record_row.h"
 
 #include <QString>
 

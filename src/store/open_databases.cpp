@@ -5,7 +5,6 @@
 #include "records/held_file.h"
 #include "records/key_store.h"
 #include "store/draw_tables.h"
-#include "store/link_table.h"
 #include "store/user_tables.h"
 
 #include <QStringList>

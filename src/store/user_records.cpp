@@ -9,18 +9,17 @@ namespace {
 
 void SetUser(RecordSet& users, const QString& name, double spendLimit)
 {
-    const std::string utf8 = name.toStdString();
-    users.SetField(UserField::UserName, std::string_view(utf8));
-    users.SetField(UserField::SpendLimit, NumberField(spendLimit));
+    users.SetField(UserField::UserName, name.toStdString());
+    users.SetField(UserField::SpendLimit, spendLimit);
     users.Update();
 }
 
 void SetNumbersAndDays(RecordSet& entries, const EntryNumbers& numbers, const DaySet& days)
 {
     for (int i = 0; i < EntryBalls; ++i)
-        entries.SetField(EntryField::FirstBall + i, NumberField(numbers.at(static_cast<size_t>(i))));
+        entries.SetField(EntryField::FirstBall + i, numbers.at(static_cast<size_t>(i)));
     for (int day = 0; day < DaysOfWeek; ++day)
-        entries.SetField(EntryField::Monday + day, FlagField(days.at(static_cast<size_t>(day))));
+        entries.SetField(EntryField::Monday + day, days.at(static_cast<size_t>(day)) ? -1 : 0);
     entries.Update();
 }
 
@@ -88,7 +87,7 @@ bool FindUserByNumber(RecordSet& users, std::int64_t userId)
 
 int CountEntries(RecordSet& entries, std::int64_t userId)
 {
-    return entries.CountOf(EntryField::UserId, userId);
+    return entries.CountOf(EntryField::UserId, static_cast<double>(userId));
 }
 
 bool IsUpToLimit(int count, double spendLimit)
@@ -103,9 +102,8 @@ bool MayStoreEntries(int count, int more, double spendLimit)
 
 void AddUser(RecordSet& users, const QString& name, double spendLimit)
 {
-    const std::int64_t number = users.NextNumber();
     users.AddNew();
-    users.SetField(UserField::UserId, number);
+    users.SetField(UserField::UserId, users.NextNumber());
     SetUser(users, name, spendLimit);
 }
 
@@ -120,7 +118,7 @@ void AddEntry(RecordSet& entries, const EntryRow& entry)
     entries.AddNew();
     entries.SetField(EntryField::EntryId, entry.number);
     entries.SetField(EntryField::UserId, entry.userId);
-    entries.SetField(EntryField::DrawType, std::int64_t{entry.drawType});
+    entries.SetField(EntryField::DrawType, entry.drawType);
     SetNumbersAndDays(entries, entry.numbers, entry.days);
 }
 

@@ -54,5 +54,5 @@ void AddEntry(RecordSet& entries, const EntryRow& entry);
 /// Writes numbers and days over the current entry; its number, owner and game stay. Throws Failure.
 void ChangeEntry(RecordSet& entries, const EntryNumbers& numbers, const DaySet& days);
 
-/// Deletes every entry of the user, of both games. Throws Failure; to be asked for inside a transaction.
+/// Deletes every entry of the user, of both games. Throws Failure; to be called inside a transaction.
 void DeleteUserEntries(RecordSet& entries, std::int64_t userId);

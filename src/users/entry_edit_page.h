@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/bookmark.h"
+#include "records/record_row.h"
 #include "users/entry_page.h"
 
 class BallFields;

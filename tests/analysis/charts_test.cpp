@@ -77,9 +77,10 @@ private Q_SLOTS:
         StoreDraws(MainGame, {"2000-01-05,0,77,-4,3.5,8,49.5,50,MERLIN ,8b", "2000-01-08,1,2,3,4,5,6,7,, 3"});
         ukmain.MoveLast();
         ukmain.Edit();
-        const Value odd[] = {Value(), std::string_view("abc"), std::string_view("9x"), 1e300};
-        for (int slot = 0; slot < 4; ++slot)
-            ukmain.SetField(DrawField::FirstBall + slot, odd[slot]);
+        int field = DrawField::FirstBall;
+        for (const char* odd : {"", "abc", "9x"})
+            ukmain.SetField(field++, odd);
+        ukmain.SetField(field, 1e300);
         ukmain.Update();
         ukmainlist.Requery();
         constexpr auto allBalls = BallType::AllBalls;

@@ -1,4 +1,5 @@
 #include "support/grid_driver.h"
+#include "support/raw_file.h"
 
 #include "base/dates.h"
 
@@ -174,7 +175,7 @@ private Q_SLOTS:
     {
         FiveDraws window;
         // Another tool has given three draws one number, and taken those of the others away.
-        InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), DoubleNumbers);
+        RunSql(DrawDataPath, DrawConnect, "UPDATE ukmain SET DrawId = CASE WHEN Ball1 > 3 THEN NULL ELSE 7 END");
         window.OpenPage(2, 3);
         GridDriver grid = window.MainGrid();
         for (const int row : {0, 1, 3}) {

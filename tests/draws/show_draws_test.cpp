@@ -112,10 +112,10 @@ private Q_SLOTS:
         InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), [](RecordSet& table) {
             const std::string wide(200, 'w');
             table.AddNew();
-            table.SetField(DrawField::Date, Value(std::string_view("soon")));
-            table.SetField(DrawField::FirstBall, Value(std::int64_t{77}));
-            table.SetField(DrawField::FirstBall + 1, Value(std::string_view("seven")));
-            table.SetField(DrawField::Machine, Value(std::string_view(wide)));
+            table.SetField(DrawField::Date, "soon");
+            table.SetField(DrawField::FirstBall, 77);
+            table.SetField(DrawField::FirstBall + 1, "seven");
+            table.SetField(DrawField::Machine, wide);
             table.Update();
         });
         window.Window().ChooseMenu(2, 1);

@@ -3,10 +3,8 @@
 #include "support/test_window.h"
 
 #include "analysis/chart_count.h"
-#include "records/compaction.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 
 namespace {
 
@@ -38,6 +36,8 @@ public:
     TestFolder folder{TestFolder::Content::Empty};
 };
 
+const std::string DrawFields =
+    "(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, Ball4, Ball5, Ball6, Bonus, Machine, BallSet)";
 const char* const WithKeys = "DROP TABLE entries; CREATE UNIQUE INDEX number ON users(UserId);"
                              "CREATE TABLE entries(EntryId INTEGER, UserId INTEGER REFERENCES users(UserId) ON DELETE "
                              "CASCADE, DrawType, Ball1, Ball2, Ball3, Ball4, Ball5, Ball6, Monday, Tuesday, Wednesday, "
@@ -45,11 +45,6 @@ const char* const WithKeys = "DROP TABLE entries; CREATE UNIQUE INDEX number ON 
 const char* const WithChecks =
     "CREATE TABLE c(a INTEGER PRIMARY KEY AUTOINCREMENT, b TEXT DEFAULT (upper('x')) COLLATE "
     "NOCASE CHECK (length(b) < 9)); INSERT INTO c(b) VALUES ('y')";
-const char* const EndlessList =
-    "DROP VIEW ukmainlist; CREATE VIEW ukmainlist(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
-    "Ball4, Ball5, Ball6, Bonus, Machine, BallSet) AS WITH RECURSIVE more(n) AS (SELECT 1 "
-    "UNION ALL SELECT n + 1 FROM more) SELECT n, n, n, n, n, n, n, n, n, n, n, n FROM more;"
-    "INSERT INTO ukmain(DrawId, \"Date\") VALUES (1, '2020-01-04'), (2, '2020-01-11')";
 
 } // namespace
 
@@ -74,13 +69,9 @@ private Q_SLOTS:
             ChangeUser(users, "Anna", 2);
             users.Delete();
             QCOMPARE(files.folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+            QCOMPARE(sql + CloseAndCompactFiles(), QString(sql));
             QCOMPARE(TestFolder::StoredRows("users"), QStringList{"2,Bob,1"});
             QCOMPARE(TestFolder::StoredRows("entries").size(), 1);
-            CloseDatabaseFiles();
-            const auto compacted = files.folder.Path("compacted").toStdString();
-            const TemporaryFile kept(compacted);
-            QCOMPARE(sql + DetailOf([&] { CompactDatabase(UserDataPath, compacted, {}); }), QString(sql));
-            InAnotherCopy(compacted, {}, EntriesTable(), [](RecordSet& copied) { QCOMPARE(copied.Count(), 1); });
         }
     }
 
@@ -100,89 +91,43 @@ private Q_SLOTS:
         }
     }
 
-    void ListIsReadFromItsTable()
+    /// A stored query is never run, whatever it says: its table's rows are put into order by the program.
+    void ListIsAnOrderOfItsTable()
     {
-        const ForeignFiles files({}, EndlessList);
-        QElapsedTimer clock;
-        clock.start();
-        OpenDatabaseFiles();
-        ukmainlist.MoveFirst();
-        QCOMPARE(ukmainlist.Text(1), std::string_view("2020-01-11"));
-        QCOMPARE(ukmainlist.Count(), 2);
-        QCOMPARE(CloseAndCompactFiles(), QString());
-        QVERIFY(clock.elapsed() < 2000);
-    }
-
-    void ListHasTheEnginesOrder()
-    {
-        const QStringList odd{"NULL",
-                              "7",
-                              "-1",
-                              "2.5",
-                              "9e999",
-                              "'2020-01-11'",
-                              "'2020-01-04'",
-                              "'10'",
-                              "''",
-                              "x'31'",
-                              "'\u00e9'",
-                              "9223372036854775807",
-                              "9223372036854775806"};
-        std::string draws = "DROP TABLE ukmain; CREATE TABLE ukmain(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
-                            "Ball4, Ball5, Ball6, Bonus, Machine, BallSet);";
-        int row = 0;
-        for (const QString& date : odd)
-            for (const QString& number : odd)
-                draws += QString("INSERT INTO ukmain(DrawId, \"Date\", Ball1) VALUES (%1, %2, %3);")
-                             .arg(number, date)
-                             .arg(++row)
-                             .toStdString();
-        const ForeignFiles files({}, draws);
+        const ForeignFiles files(
+            {}, "DROP VIEW ukmainlist; CREATE VIEW ukmainlist" + DrawFields +
+                    " AS WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM more) SELECT n, n, n, n, n, "
+                    "n, n, n, n, n, n, n FROM more; INSERT INTO ukmain(DrawId, \"Date\") VALUES (1, '2020-01-11'), "
+                    "(2, '2020-01-04'), (3, '2020-01-11'), (3, '2020-01-11'), (4, ''), (-5, '10'), (6, '\u00e9')");
         OpenDatabaseFiles();
         const auto listed = [] {
-            std::string balls;
+            QString numbers;
             for (ukmainlist.MoveFirst(); !ukmainlist.Eof(); ukmainlist.MoveNext())
-                balls += std::to_string(ukmainlist.Row().WholePart(DrawField::FirstBall)) + ' ';
-            return balls;
+                numbers += QString::number(ukmainlist.Number(0)) + ' ';
+            return numbers;
         };
-        const auto inFile = [] {
-            QFile file(DrawDataPath);
-            (void)file.open(QIODevice::ReadOnly);
-            const QByteArray salt = file.read(SaltBytes);
-            file.close();
-            const Engine engine =
-                OpenGuarded(DrawDataPath, DrawConnect, {salt.data(), static_cast<size_t>(salt.size())}, "asking");
-            Statement query(engine.get(), "SELECT Ball1 FROM ukmain ORDER BY \"Date\" DESC, DrawId DESC, rowid",
-                            "asking");
-            std::string balls;
-            while (query.Step())
-                balls += std::to_string(query.WholeNumber(0)) + ' ';
-            return balls;
-        };
-        QCOMPARE(listed(), inFile());
-        // A draw is added between the others, one gets another date, and one goes.
-        AddDraw(ukmain, MainGame, {QDate(2020, 1, 5), {200, 2, 3, 4, 5, 6, 7}, "", ""});
-        ukmain.Move(-9);
-        ukmain.Edit();
-        ukmain.SetField(DrawField::Date, std::string_view("2020-01-06"));
-        ukmain.Update();
-        ukmain.MovePrevious();
+        QCOMPARE(listed(), QString("6 3 3 1 2 -5 4 "));
+        AddDraw(ukmain, MainGame, {QDate(2020, 1, 5), {}, "", ""});
+        AddDraw(ukmain, MainGame, {QDate(2020, 1, 12), {}, "", ""});
+        ukmain.MoveFirst();
         ukmain.Delete();
         ukmainlist.Requery();
-        QCOMPARE(listed(), inFile());
+        QCOMPARE(listed(), QString("6 8 3 3 7 2 -5 4 "));
+        QCOMPARE(CloseAndCompactFiles(), QString());
     }
 
     void NumbersInThePlaceOfTextsAreTexts()
     {
         const ForeignFiles files("DROP TABLE users; CREATE TABLE users(UserId, UserName, SpendLimit);"
-                                 "INSERT INTO users VALUES (1, 42, 5)",
-                                 "DROP TABLE ukmain; CREATE TABLE ukmain(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, "
-                                 "Ball4, Ball5, Ball6, Bonus, Machine, BallSet); INSERT INTO ukmain VALUES "
-                                 "(1, '2020-01-04', 'Sat', 1, 2, 3, 4, 5, 6, 7, 'MERLIN', 4.0), "
-                                 "(2, '2020-01-11', 'Sat', 1, 2, 3, 4, 5, 6, 7, 12, 4)");
+                                 "INSERT INTO users VALUES (1, 42, '5')",
+                                 "DROP TABLE ukmain; CREATE TABLE ukmain" + DrawFields +
+                                     "; INSERT INTO ukmain VALUES "
+                                     "(1, '2020-01-04', 'Sat', 1, 2, 3, 4, 5, 6, 7, 'MERLIN', 4.0), "
+                                     "(2, '2020-01-11', 'Sat', 1, 2, 3, 4, 5, 6, 7, 12, 4)");
         OpenDatabaseFiles();
         users.MoveFirst();
         QCOMPARE(ReadUser(users).name, QString("42"));
+        QCOMPARE(ReadUser(users).spendLimit, 5.0);
         ukmainlist.MoveFirst();
         QCOMPARE(ukmainlist.Text(10), std::string_view("12"));
         QCOMPARE(CountBars(FindChart(6), BallType::AllBalls)[3].value, 2);
@@ -216,11 +161,8 @@ private Q_SLOTS:
         const ForeignFiles files("CREATE TABLE n(a); WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM "
                                  "more LIMIT 3000) INSERT INTO n SELECT n FROM more");
         const Engine engine = OpenUsers();
-        QElapsedTimer clock;
-        clock.start();
         QCOMPARE(DetailOf([&] { Execute(engine.get(), "SELECT count(*) FROM n, n AS o, n AS p", "counting"); }),
                  QString("interrupted"));
-        QVERIFY(clock.elapsed() < 10000);
     }
 
     void AsManyRowsAsAFileCanHoldAreRead()
@@ -250,7 +192,6 @@ private Q_SLOTS:
                 AddUser(users, QString(100'000, u'a'), 1);
         };
         QVERIFY(!FailureOf(storeMany).reason.isEmpty());
-        CloseDatabaseFiles();
         OpenDatabaseFiles();
         QVERIFY(stored > 0);
         QCOMPARE(users.Count(), 74 + stored);
@@ -260,25 +201,22 @@ private Q_SLOTS:
     {
         TestWindow window;
         CloseDatabaseFiles();
-        const std::string odd = "NULL, 'text', -1, 0, 3.7, 9e999, 9223372036854775807, -9223372036854775808, x'00ff', "
-                                "'', '2020-02-31'";
-        const QStringList values = QString::fromStdString(odd).split(", ");
-        std::string draws;
+        const QStringList odd = {
+            "NULL",    "'text'", "-1",          "0", "3.7", "9e999", "9223372036854775807", "-9223372036854775808",
+            "x'00ff'", "''",     "'2020-02-31'"};
+        QString draws = "INSERT INTO links VALUES (1, 2, 3, 4, zeroblob(1000000));";
         // The page for new entries greets a first user who has none left with a message.
-        std::string people = "INSERT INTO users VALUES (1, 'Ann', 1000);";
-        for (int shift = 0; shift < values.size(); ++shift) {
-            const auto fields = [&](int count) {
-                QStringList chosen;
-                for (int field = 0; field < count; ++field)
-                    chosen.append(values[(field + shift) % values.size()]);
-                return chosen.join(u',').toStdString();
+        QString people = "INSERT INTO users VALUES (1, 'Ann', 1000), (1, hex(zeroblob(500000)), 4);";
+        for (int shift = 0; shift < odd.size(); ++shift) {
+            const QStringList shifted = odd.mid(shift) + odd.mid(0, shift) + odd;
+            const auto insert = [&](const char* table, int fields) {
+                return QString("INSERT INTO %1 VALUES (%2);").arg(table, shifted.mid(0, fields).join(u','));
             };
-            draws += "INSERT INTO ukmain VALUES (" + fields(12) + "); INSERT INTO ukthunder VALUES (" + fields(9) +
-                     "); INSERT INTO links VALUES (" + fields(5) + ");";
-            people += "INSERT INTO users VALUES (" + fields(3) + "); INSERT INTO entries VALUES (" + fields(16) + ");";
+            draws += insert("ukmain", 12) + insert("ukthunder", 9) + insert("links", 5);
+            people += insert("users", 3) + insert("entries", 16);
         }
-        RunSql(DrawDataPath, DrawConnect, draws + "INSERT INTO links VALUES (1, 2, 3, 4, zeroblob(1000000))");
-        RunSql(UserDataPath, {}, people + "INSERT INTO users VALUES (1, hex(zeroblob(500000)), 4)");
+        RunSql(DrawDataPath, DrawConnect, draws.toStdString());
+        RunSql(UserDataPath, {}, people.toStdString());
         OpenDatabaseFiles();
         QElapsedTimer clock;
         clock.start();
@@ -289,11 +227,11 @@ private Q_SLOTS:
         window.Click("F12typeb");
         window.Window().ShowStartPage();
         window.Click("F0links");
-        for (int link = 0; link <= values.size(); ++link)
+        for (int link = 0; link <= odd.size(); ++link)
             window.Click("F25next");
         QVERIFY2(clock.elapsed() < 8000, qPrintable(QString::number(clock.elapsed())));
         QVERIFY(window.modals.AllCame());
-        QCOMPARE(TestFolder::StoredRows("users").size(), values.size() + 2);
+        QCOMPARE(TestFolder::StoredRows("users").size(), odd.size() + 2);
         QVERIFY(window.Window().width() <= 1024);
     }
 };

@@ -37,14 +37,3 @@ void InAnotherCopy(const std::filesystem::path& file, const std::string& connect
     set.MoveFirst();
     action(set);
 }
-
-/// What another tool may leave behind: the rows of a table whose first ball is above 3 have no number any more, and all
-/// others the same one. For InAnotherCopy.
-inline void DoubleNumbers(RecordSet& table)
-{
-    for (; !table.Eof(); table.MoveNext()) {
-        table.Edit();
-        table.SetField(0, table.Number(3) > 3 ? Value() : Value(std::int64_t{7}));
-        table.Update();
-    }
-}

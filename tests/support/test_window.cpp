@@ -1,7 +1,6 @@
 #include "support/test_window.h"
 
-#include "records/database_creation.h"
-#include "store/link_table.h"
+#include "base/texts.h"
 #include "utilities/shut_down.h"
 
 #include <QDir>
@@ -126,16 +125,9 @@ QStringList TestFolder::StoredRows(const QString& table)
     QStringList rows;
     for (set.MoveFirst(); !set.Eof(); set.MoveNext()) {
         QStringList fields;
-        for (int position = 0; position < layout.ColumnCount(); ++position) {
-            const Value value = set.Field(position);
-            if (const auto* whole = std::get_if<std::int64_t>(&value))
-                fields.append(QString::number(*whole));
-            else if (const auto* real = std::get_if<double>(&value))
-                fields.append(QString::number(*real, 'g', 17));
-            else if (const auto* text = std::get_if<std::string_view>(&value))
-                fields.append(QString::fromUtf8(text->data(), static_cast<qsizetype>(text->size())));
-            else
-                fields.append(u"(nothing)"_s);
+        for (int position = 0; position < static_cast<int>(layout.columns.size()); ++position) {
+            const bool ofTexts = layout.columns[static_cast<size_t>(position)].type == "TEXT";
+            fields.append(ofTexts ? FromUtf8(set.Text(position)) : QString::number(set.Number(position), 'g', 17));
         }
         rows.append(fields.join(u','));
     }
