@@ -53,8 +53,8 @@ public:
     /// where it is, and fields that are not set stay as they are.
     void AddNew();
     void Edit();
-    void SetField(int position, double number) { edited.push_back({position, number}); }
-    void SetField(int position, std::string_view text) { edited.push_back({position, std::string(text)}); }
+    void SetField(int position, double number) { edited.push_back({position, false, number, {}}); }
+    void SetField(int position, std::string_view text) { edited.push_back({position, true, 0, std::string(text)}); }
     void Update();
 
     /// Deletes the current record; the next move goes to its neighbour. A row that another copy of the program has

@@ -149,8 +149,12 @@ void StoredRows::TakeBackChanges()
 
 void StoredRows::PutAll(int place, const std::vector<FieldValue>& fields)
 {
-    for (const auto& [position, value] : fields)
-        std::visit([this, place, column = position](const auto& content) { Put(place, column, content); }, value);
+    for (const FieldValue& field : fields) {
+        if (field.isText)
+            Put(place, field.position, field.text);
+        else
+            Put(place, field.position, field.number);
+    }
 }
 
 void StoredRows::SetDeleted(int place, bool isDeleted)

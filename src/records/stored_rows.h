@@ -39,11 +39,13 @@ private:
     Numbers numbers;
 };
 
-/// A field that is to be stored: its position in the row, and a number or a text in UTF-8.
+/// A field that is to be stored: its position in the row, and a text in UTF-8 or a number.
 struct FieldValue
 {
     int position;
-    std::variant<double, std::string> value;
+    bool isText;
+    double number;
+    std::string text;
 };
 
 /// The rows of a table in memory, column by column. A row is named by its place, which it keeps: a new row comes after

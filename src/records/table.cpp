@@ -6,7 +6,10 @@ namespace {
 
 void BindField(Statement& statement, int parameter, const FieldValue& field)
 {
-    std::visit([&](const auto& value) { statement.Bind(parameter, value); }, field.value);
+    if (field.isText)
+        statement.Bind(parameter, field.text);
+    else
+        statement.Bind(parameter, field.number);
 }
 
 } // namespace
