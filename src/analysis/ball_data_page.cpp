@@ -32,10 +32,10 @@ BallDataPage::BallDataPage(const Game& drawGame)
     : PageFrame(PageOf(drawGame), u"Individual Ball Data"_s),
       game(drawGame),
       enter(new QLineEdit),
-      mainBall(MakeLabelledBall(ControlName(u"ball"_s), ControlName(u"number"_s), nullptr))
+      mainBall(PutLabelOn(new BallDisc(ControlName(u"ball"_s)), ControlName(u"number"_s)))
 {
     if (!game.extraFromSameMachine)
-        extraBall = MakeLabelledBall(ControlName(u"ball2"_s), ControlName(u"number2"_s), nullptr);
+        extraBall = PutLabelOn(new BallDisc(ControlName(u"ball2"_s)), ControlName(u"number2"_s));
     BuildCards();
     Button* backButton = AddFooterButton(u"BACK"_s, ControlName(u"back"_s));
     SetBackButton(backButton);

@@ -35,8 +35,9 @@ void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour)
     painter.drawEllipse(ball);
 }
 
-BallDisc::BallDisc(QWidget* parent) : QWidget(parent)
+BallDisc::BallDisc(const QString& name, QWidget* parent) : QWidget(parent)
 {
+    setObjectName(name);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -135,13 +136,6 @@ void LabelledBall::Show(const QString& text, const BallColours& colours) const
     palette.setColor(QPalette::WindowText, QColor::fromRgb(colours.number));
     number->setPalette(palette);
     number->setText(text);
-}
-
-LabelledBall MakeLabelledBall(const QString& discName, const QString& numberName, QWidget* parent)
-{
-    auto* disc = new BallDisc(parent);
-    disc->setObjectName(discName);
-    return PutLabelOn(disc, numberName);
 }
 
 LabelledBall PutLabelOn(BallDisc* disc, const QString& numberName)

@@ -17,7 +17,7 @@ class BallDisc : public QWidget
     Q_OBJECT
 
 public:
-    explicit BallDisc(QWidget* parent = nullptr);
+    explicit BallDisc(const QString& name, QWidget* parent = nullptr);
 
     /// Takes the control on the ball that shows the number; the ball draws a ring while it has the focus.
     void Carry(QWidget* number);
@@ -52,6 +52,5 @@ struct LabelledBall
     void Show(const QString& text, const BallColours& colours) const;
 };
 
-/// Puts a label of that object name on a ball that has no number yet, or on a new one.
+/// Puts a label of that object name on a ball that has no number yet.
 LabelledBall PutLabelOn(BallDisc* disc, const QString& numberName);
-LabelledBall MakeLabelledBall(const QString& discName, const QString& numberName, QWidget* parent);

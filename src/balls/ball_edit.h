@@ -12,7 +12,7 @@ public:
     explicit BallEdit(QWidget* parent = nullptr);
 
     void SetColours(const QColor& ball, const QColor& digits);
-    /// Selects the whole text whenever the field gets the focus.
+    /// Selects the whole text whenever the field gets the focus, so that typing replaces it.
     void SelectTextOnFocus() { selectsOnFocus = true; }
 
 protected:

@@ -43,7 +43,8 @@ BallFields::BallFields(const Names& names, const Game* drawGame) : BallLine(name
         fields.append(field);
         givenTexts.append(QString());
         SetCaption(slot, Caption(slot)->text());
-        ConnectGuarded(field, &BallEdit::EnterPressed, this, [this, slot] { EnterPressed(slot); });
+        ConnectGuarded(field, &BallEdit::EnterPressed, this,
+                       [this, slot] { slot + 1 < Count() ? FocusField(slot + 1) : Completed(); });
         ConnectGuarded(field, &BallEdit::Left, this, [this, slot] { FieldLeft(slot); });
     }
 }
@@ -64,11 +65,20 @@ void BallFields::SetText(int slot, const QString& text)
     Field(slot)->setText(text);
 }
 
+void BallFields::SetTexts(const QStringList& texts)
+{
+    for (int slot = 0; slot < texts.size(); ++slot)
+        SetText(slot, texts[slot]);
+    for (int slot = 0; slot < Count(); ++slot)
+        SetColours(slot, Check(slot).colours);
+}
+
 void BallFields::Show(std::span<const double> numbers)
 {
-    for (int slot = 0; slot < Count(); ++slot)
-        SetText(slot, PlainNumber(numbers[static_cast<size_t>(slot)]));
-    Recolour();
+    QStringList texts;
+    for (const double number : numbers.first(static_cast<size_t>(Count())))
+        texts.append(PlainNumber(number));
+    SetTexts(texts);
 }
 
 void BallFields::Sort(int count)
@@ -79,16 +89,12 @@ void BallFields::Sort(int count)
     std::stable_sort(texts.begin(), texts.end(), [](const QString& left, const QString& right) {
         return NumericValue(left) < NumericValue(right);
     });
-    for (int slot = 0; slot < count; ++slot)
-        SetText(slot, texts[slot]);
-    Recolour();
+    SetTexts(texts);
 }
 
 void BallFields::Clear()
 {
-    for (int slot = 0; slot < Count(); ++slot)
-        SetText(slot, {});
-    Recolour();
+    SetTexts(QStringList(Count()));
 }
 
 void BallFields::FocusField(int slot)
@@ -100,20 +106,6 @@ void BallFields::SetCaption(int slot, const QString& caption)
 {
     Caption(slot)->setText(caption);
     Field(slot)->setAccessibleName(caption == MainGame.extraBallName ? u"Bonus ball"_s : caption);
-}
-
-void BallFields::SelectTextOnFocus()
-{
-    for (BallEdit* field : fields)
-        field->SelectTextOnFocus();
-}
-
-void BallFields::EnterPressed(int slot)
-{
-    if (slot + 1 < Count())
-        FocusField(slot + 1);
-    else
-        Q_EMIT Completed();
 }
 
 BallFieldVerdict BallFields::Check(int slot) const
@@ -141,7 +133,7 @@ void BallFields::FieldLeft(int slot)
 
 void BallFields::TellRefusal(int slot, const BallFieldVerdict& verdict)
 {
-    if (rule.greyBeforeMessage)
+    if (rule.greying == Greying::BeforeMessage)
         SetColours(slot, verdict.colours);
     ShowMessage(verdict.message);
     SetText(slot, {});
@@ -159,12 +151,6 @@ bool BallFields::AreAccepted()
         return false;
     }
     return true;
-}
-
-void BallFields::Recolour()
-{
-    for (int slot = 0; slot < Count(); ++slot)
-        SetColours(slot, Check(slot).colours);
 }
 
 void BallFields::SetColours(int slot, const BallColours& colours)

@@ -45,21 +45,19 @@ public:
     BallEdit* Field(int slot) const { return fields[slot]; }
     /// Names a slot for the eye and for a screen reader.
     void SetCaption(int slot, const QString& caption);
-    /// Selects the whole text of a field that gets the focus, so that typing replaces it.
-    void SelectTextOnFocus();
 
 Q_SIGNALS:
     /// Enter was pressed in the last field.
     void Completed();
 
 private:
-    void EnterPressed(int slot);
     void FieldLeft(int slot);
     BallFieldVerdict Check(int slot) const;
     void TellRefusal(int slot, const BallFieldVerdict& verdict);
     double NumberIn(int slot) const;
     void SetText(int slot, const QString& text);
-    void Recolour();
+    /// Puts the texts into the first fields, and colours all.
+    void SetTexts(const QStringList& texts);
     void SetColours(int slot, const BallColours& colours);
 
     BallFieldRule rule = {};

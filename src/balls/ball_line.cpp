@@ -34,8 +34,7 @@ BallLine::BallLine(const Names& names, const Game* drawGame) : divider(new BallD
     // The balls bring room for their shadows and their rings.
     row->setSpacing(0);
     for (int slot = 0; slot < count; ++slot) {
-        discs.append(new BallDisc(this));
-        discs.last()->setObjectName(ElementName(names.disc, ElementOf(slot, drawGame)));
+        discs.append(new BallDisc(ElementName(names.disc, ElementOf(slot, drawGame)), this));
         captions.append(MakeLabel(game.BallCaption(slot), TextRole::Caption, {}, this));
         QLabel* caption = captions.last();
         caption->setHidden(names.caption.isEmpty());

@@ -87,7 +87,10 @@ CheckPage::CheckPage(PageSwitch& pageSwitch)
     auto* reportCard = new Card;
     reportCard->Content()->addWidget(F12text);
     Body()->addWidget(reportCard, 1);
-    ConnectHandlers();
+    ConnectGuarded(F12datelatest, &QRadioButton::clicked, this, [this] { F12datelatest_Click(); });
+    ConnectGuarded(F12dateselect, &QRadioButton::clicked, this, [this] { F12dateselect_Click(); });
+    ConnectGuarded(F12check, &QPushButton::clicked, this, [this] { F12check_Click(); });
+    ConnectGuarded(F12clear, &QPushButton::clicked, this, [this] { F12clear_Click(); });
 }
 
 Card* CheckPage::MakeUserCard()
@@ -119,14 +122,6 @@ Card* CheckPage::MakeDateCard()
     card->Content()->addWidget(KeepingRoom(F12cal));
     card->Content()->addStretch(1);
     return card;
-}
-
-void CheckPage::ConnectHandlers()
-{
-    ConnectGuarded(F12datelatest, &QRadioButton::clicked, this, [this] { F12datelatest_Click(); });
-    ConnectGuarded(F12dateselect, &QRadioButton::clicked, this, [this] { F12dateselect_Click(); });
-    ConnectGuarded(F12check, &QPushButton::clicked, this, [this] { F12check_Click(); });
-    ConnectGuarded(F12clear, &QPushButton::clicked, this, [this] { F12clear_Click(); });
 }
 
 void CheckPage::Prepare()

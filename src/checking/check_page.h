@@ -25,7 +25,6 @@ private:
     Card* MakeUserCard();
     Card* MakeTypeCard();
     Card* MakeDateCard();
-    void ConnectHandlers();
     void F12datelatest_Click();
     void F12dateselect_Click();
     void F12check_Click();

@@ -46,8 +46,10 @@ BrowserSection::BrowserSection(const Game& drawGame)
     Content()->addWidget(draw);
     Content()->addWidget(noDraw);
     Content()->addStretch(1);
-    ConnectGuarded(back, &QPushButton::clicked, this, [this] { Back_Click(); });
-    ConnectGuarded(forward, &QPushButton::clicked, this, [this] { Forward_Click(); });
+    // F9Mback_Click, F9Tback_Click.
+    ConnectGuarded(back, &QPushButton::clicked, this, [this] { Step(1, back, forward); });
+    // F9Mforward_Click, F9Tforward_Click.
+    ConnectGuarded(forward, &QPushButton::clicked, this, [this] { Step(-1, forward, back); });
 }
 
 void BrowserSection::AddHeading()
@@ -79,16 +81,6 @@ void BrowserSection::Find(QDate date)
     forward->setVisible(another);
     noDraw->setVisible(!found);
     draw->setVisible(found);
-}
-
-void BrowserSection::Forward_Click()
-{
-    Step(-1, forward, back);
-}
-
-void BrowserSection::Back_Click()
-{
-    Step(1, back, forward);
 }
 
 void BrowserSection::Step(int direction, Button* arrow, Button* opposite)

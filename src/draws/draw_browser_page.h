@@ -24,11 +24,8 @@ public:
 
 private:
     void AddHeading();
-    /// F9Mforward_Click, F9Tforward_Click: one record towards the list's start.
-    void Forward_Click();
-    /// F9Mback_Click, F9Tback_Click: one record towards the list's end.
-    void Back_Click();
-    /// Moves one record on, and hides the arrow that led there when there is no further draw of the date.
+    /// Moves one record towards the list's end (1) or start (-1), and hides the arrow that led there when there is no
+    /// further draw of the date.
     void Step(int direction, Button* arrow, Button* opposite);
     /// ShowBrowserMainDraw, ShowBrowserThunderDraw.
     void ShowDraw();

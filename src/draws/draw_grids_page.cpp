@@ -40,7 +40,7 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch)
         MakeLabel(game.name + u" Draw"_s, TextRole::Heading, game.IsMain() ? u"labeltitle_0"_s : u"labeltitle_1"_s));
     layout->addWidget(card, 1);
     layout->addLayout(MakeButtons());
-    ConnectGuarded(grid, &GridView::Opened, this, [this] { View_Click(); });
+    ConnectGuarded(grid, &GridView::Opened, this, [this] { view->click(); });
     ConnectGuarded(grid, &GridView::DeletePressed, this, [this] { Delete_Click(); });
 }
 
@@ -58,8 +58,10 @@ QLayout* DrawGridSection::MakeButtons()
         button->setAccessibleDescription(game.name + u" Draw"_s);
         row->addWidget(button);
     }
-    ConnectGuarded(view, &QPushButton::clicked, this, [this] { View_Click(); });
-    ConnectGuarded(edit, &QPushButton::clicked, this, [this] { Edit_Click(); });
+    // F10mainviewbutton_Click, F10thunderviewbutton_Click.
+    ConnectGuarded(view, &QPushButton::clicked, this, [this] { OpenSelectedDraw(game.IsMain() ? 14 : 15); });
+    // F10maineditbutton_Click, F10thundereditbutton_Click.
+    ConnectGuarded(edit, &QPushButton::clicked, this, [this] { OpenSelectedDraw(game.IsMain() ? 16 : 17); });
     ConnectGuarded(remove, &QPushButton::clicked, this, [this] { Delete_Click(); });
     return row;
 }
@@ -74,16 +76,6 @@ void DrawGridSection::Fill()
     for (Button* button : {view, edit, remove})
         button->setEnabled(!empty);
     grid->SelectRow(0);
-}
-
-void DrawGridSection::View_Click()
-{
-    OpenSelectedDraw(game.IsMain() ? 14 : 15);
-}
-
-void DrawGridSection::Edit_Click()
-{
-    OpenSelectedDraw(game.IsMain() ? 16 : 17);
 }
 
 void DrawGridSection::OpenSelectedDraw(int page)

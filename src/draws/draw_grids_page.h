@@ -23,10 +23,6 @@ public:
 
 private:
     QLayout* MakeButtons();
-    /// F10mainviewbutton_Click, F10thunderviewbutton_Click.
-    void View_Click();
-    /// F10maineditbutton_Click, F10thundereditbutton_Click.
-    void Edit_Click();
     /// F10maindeletebutton_Click, F10thunderdeletebutton_Click.
     void Delete_Click();
     /// Opens the draw of the one selected row on a page; tells the player when there are several.

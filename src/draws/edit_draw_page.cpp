@@ -1,5 +1,6 @@
 #include "draws/edit_draw_page.h"
 
+#include "balls/ball_edit.h"
 #include "balls/ball_fields.h"
 #include "base/dates.h"
 #include "controls/card.h"
@@ -28,7 +29,8 @@ EditDrawPage::EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch)
       reset(AddFooterButton(u"Reset"_s, ControlName(u"reset"_s))),
       save(AddFooterDefault(u"Save Changes"_s, ControlName(u"save"_s)))
 {
-    fields->Balls()->SelectTextOnFocus();
+    for (int slot = 0; slot < game.BallCount(); ++slot)
+        fields->Balls()->Field(slot)->SelectTextOnFocus();
     auto* card = new Card;
     card->Content()->addWidget(date);
     card->Content()->addWidget(fields);

@@ -16,14 +16,12 @@
 using namespace Qt::StringLiterals;
 
 LatestDrawPage::LatestDrawPage()
-    : PageFrame(8, u"Latest Draw"_s, u"labeltitle"_s),
-      mainSection(MakeSection(MainGame)),
-      thunderballSection(MakeSection(ThunderballGame))
+    : PageFrame(8, u"Latest Draw"_s, u"labeltitle"_s), sections{MakeSection(MainGame), MakeSection(ThunderballGame)}
 {
-    auto* sections = new CardRow;
-    sections->addWidget(mainSection.card, MainGame.BallCount());
-    sections->addWidget(thunderballSection.card, ThunderballGame.BallCount());
-    Body()->addLayout(sections);
+    auto* cards = new CardRow;
+    for (const Section& section : sections)
+        cards->addWidget(section.card, section.game->BallCount());
+    Body()->addLayout(cards);
     MakeForm();
 }
 
@@ -58,23 +56,19 @@ LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
     card->Content()->addWidget(
         MakeLabel(game.name + u" Draw"_s, TextRole::Caption, ElementName(u"F8label"_s, game.IsMain() ? 0 : 1)));
     card->Content()->addLayout(layers, 1);
-    return {card, draw, blank};
+    return {&game, card, draw, blank};
 }
 
 void LatestDrawPage::Prepare()
 {
-    Fill(mainSection, MainGame);
-    Fill(thunderballSection, ThunderballGame);
+    for (const Section& section : sections) {
+        RecordSet& list = DrawListOf(*section.game);
+        list.MoveFirst();
+        const bool empty = list.IsEmpty();
+        if (!empty)
+            section.draw->Show(ReadDraw(list, *section.game));
+        section.draw->setVisible(!empty);
+        section.blank->setVisible(empty);
+    }
     show();
-}
-
-void LatestDrawPage::Fill(const Section& section, const Game& game)
-{
-    RecordSet& list = DrawListOf(game);
-    list.MoveFirst();
-    const bool empty = list.IsEmpty();
-    if (!empty)
-        section.draw->Show(ReadDraw(list, game));
-    section.draw->setVisible(!empty);
-    section.blank->setVisible(empty);
 }

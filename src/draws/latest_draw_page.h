@@ -2,6 +2,8 @@
 
 #include "controls/page_frame.h"
 
+#include <array>
+
 class Card;
 class DrawView;
 struct Game;
@@ -20,6 +22,7 @@ public:
 private:
     struct Section
     {
+        const Game* game;
         Card* card;
         DrawView* draw;
         /// The panel with the label that there are no draws, in the place of the draw.
@@ -27,8 +30,6 @@ private:
     };
 
     static Section MakeSection(const Game& game);
-    static void Fill(const Section& section, const Game& game);
 
-    Section mainSection;
-    Section thunderballSection;
+    std::array<Section, 2> sections;
 };

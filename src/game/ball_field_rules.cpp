@@ -10,24 +10,16 @@ namespace {
 const QString MainRange = u"Ball values must be between 1 and 49"_s;
 const QString ThunderballMainRange = u"Main ball values must be between 1 and 34"_s;
 
-const BallFieldRule MainDraw{&MainGame, MainRange, MainRange, Fractions::Inside, true};
+const BallFieldRule MainDraw{&MainGame, MainRange, MainRange, Fractions::Inside, Greying::BeforeMessage};
 const BallFieldRule NewThunderballDraw{&ThunderballGame, ThunderballMainRange,
                                        u"Thunderball value must be between 1 and 14"_s, Fractions::InsideAndAtTheEdges,
-                                       false};
-const BallFieldRule StoredThunderballDraw{&ThunderballGame,
-                                          u"Balls must be between 1 and 34"_s,
-                                          u"Thunderball must be between 1 and 14"_s,
-                                          Fractions::Inside,
-                                          false,
-                                          true};
-const BallFieldRule StoredMainEntry{&MainGame, MainRange, MainRange, Fractions::None, false};
+                                       Greying::AfterMessage};
+const BallFieldRule StoredThunderballDraw{&ThunderballGame, u"Balls must be between 1 and 34"_s,
+                                          u"Thunderball must be between 1 and 14"_s, Fractions::Inside, Greying::Never};
+const BallFieldRule StoredMainEntry{&MainGame, MainRange, MainRange, Fractions::None, Greying::AfterMessage};
 const BallFieldRule StoredThunderballEntry{&ThunderballGame, ThunderballMainRange,
-                                           u"Main ball values must be between 1 and 14"_s, Fractions::None, false};
-
-BallColours ColoursOfEmptyField(const BallFieldRule& rule, int slot)
-{
-    return rule.coloursAreFixed ? ColoursOfBall(*rule.game, slot, 0) : EmptyBallColours;
-}
+                                           u"Main ball values must be between 1 and 14"_s, Fractions::None,
+                                           Greying::AfterMessage};
 
 bool IsInRange(const BallFieldRule& rule, int slot, double value)
 {
@@ -62,10 +54,11 @@ const BallFieldRule& EntryEditingRule(const Game& game)
 
 BallFieldVerdict CheckBallField(const BallFieldRule& rule, int slot, const QString& text)
 {
+    const BallColours empty = rule.greying == Greying::Never ? ColoursOfBall(*rule.game, slot, 0) : EmptyBallColours;
     if (text.isEmpty())
-        return {ColoursOfEmptyField(rule, slot), {}};
+        return {empty, {}};
     const double value = NumericValue(text);
     if (!IsInRange(rule, slot, value))
-        return {ColoursOfEmptyField(rule, slot), rule.game->IsExtra(slot) ? rule.extraMessage : rule.mainMessage};
+        return {empty, rule.game->IsExtra(slot) ? rule.extraMessage : rule.mainMessage};
     return {ColoursOfBall(*rule.game, slot, value), {}};
 }

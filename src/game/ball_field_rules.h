@@ -15,6 +15,14 @@ enum class Fractions
     None
 };
 
+/// When a refused field turns grey. Where it never does, an empty one is not grey either.
+enum class Greying
+{
+    BeforeMessage,
+    AfterMessage,
+    Never
+};
+
 /// How the fields of a page check one typed ball when it loses the focus.
 struct BallFieldRule
 {
@@ -22,10 +30,7 @@ struct BallFieldRule
     QString mainMessage;
     QString extraMessage;
     Fractions fractions;
-    /// Whether a refused field turns grey before its message is shown, or after it.
-    bool greyBeforeMessage;
-    /// Whether every field keeps its slot's colours, an empty or refused one too.
-    bool coloursAreFixed = false;
+    Greying greying;
 };
 
 /// The rule of the pages on which new draws and entries of the game are typed in.

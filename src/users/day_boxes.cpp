@@ -52,11 +52,6 @@ void DayBoxes::SetDays(const DaySet& days)
         boxes.at(day)->setChecked(days.at(day));
 }
 
-bool DayBoxes::AnyTicked() const
-{
-    return std::any_of(boxes.begin(), boxes.end(), [](const QCheckBox* box) { return box->isChecked(); });
-}
-
 void DayBoxes::SetAll(bool ticked)
 {
     for (QCheckBox* box : boxes)

@@ -26,7 +26,7 @@ public:
 
     DaySet Days() const;
     void SetDays(const DaySet& days);
-    bool AnyTicked() const;
+    bool AnyTicked() const { return Days() != DaySet{}; }
     void SetAll(bool ticked);
 
 Q_SIGNALS:

@@ -45,10 +45,12 @@ EntriesPage::EntriesPage(PageSwitch& pageSwitch)
     // F13typemain_Click, F13typethunder_Click.
     for (const QRadioButton* option : {F13typemain, F13typethunder})
         ConnectGuarded(option, &QRadioButton::clicked, this, [this] { FillEntriesGrid(); });
-    ConnectGuarded(F13grid, &GridView::Opened, this, [this] { F13view_Click(); });
+    ConnectGuarded(F13grid, &GridView::Opened, this, [this] { F13view->click(); });
     ConnectGuarded(F13grid, &GridView::DeletePressed, this, [this] { F13delete_Click(); });
-    ConnectGuarded(F13view, &QPushButton::clicked, this, [this] { F13view_Click(); });
-    ConnectGuarded(F13edit, &QPushButton::clicked, this, [this] { F13edit_Click(); });
+    // F13view_Click.
+    ConnectGuarded(F13view, &QPushButton::clicked, this, [this] { OpenSelectedEntry(ViewPage, u"view"_s); });
+    // F13edit_Click.
+    ConnectGuarded(F13edit, &QPushButton::clicked, this, [this] { OpenSelectedEntry(EditPage, u"edit"_s); });
     ConnectGuarded(F13delete, &QPushButton::clicked, this, [this] { F13delete_Click(); });
     ConnectGuarded(pages.Page(EditPage), &PageFrame::Stored, this, [this] { FillEntriesGrid(); });
 }
@@ -110,28 +112,18 @@ void EntriesPage::FillEntriesGrid()
     F13grid->SelectRow(0);
 }
 
-void EntriesPage::OpenSelectedEntry(PageFrame* page, const QString& verb)
+void EntriesPage::OpenSelectedEntry(int page, const QString& verb)
 {
     const GridView::RowSpan rows = F13grid->SelectedRows();
     if (rows.Count() != 1) {
         ShowMessage(rows.Count() == 0 ? u"There are no entries to "_s + verb : u"Select only ONE draw."_s);
         return;
     }
-    page->ShowInFront();
+    pages.Page(page)->ShowInFront();
     if (entries.MoveTo(shown[rows.first].Mark()))
-        page->Prepare();
+        pages.Page(page)->Prepare();
     else
         ShowMessage(u"An unexpected error has occured,"_s + Crlf + u"please try again."_s);
-}
-
-void EntriesPage::F13view_Click()
-{
-    OpenSelectedEntry(pages.Page(ViewPage), u"view"_s);
-}
-
-void EntriesPage::F13edit_Click()
-{
-    OpenSelectedEntry(pages.Page(EditPage), u"edit"_s);
 }
 
 void EntriesPage::F13delete_Click()

@@ -32,13 +32,11 @@ private:
     Card* MakeGridCard();
     void F13user_Click();
     void FillEntriesGrid();
-    void F13view_Click();
-    void F13edit_Click();
     void F13delete_Click();
     const Game& ChosenGame() const;
     /// Opens the one selected entry on a page; tells the player when there are no entries, with the verb given, when
     /// several are selected, or when the entry is gone.
-    void OpenSelectedEntry(PageFrame* page, const QString& verb);
+    void OpenSelectedEntry(int page, const QString& verb);
 
     PageSwitch& pages;
     std::optional<std::int64_t> selectedUserNumber;

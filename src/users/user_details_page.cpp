@@ -17,8 +17,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -38,13 +36,6 @@ QString UserCountText(int count)
     if (count == 1)
         return u"There is currently 1 user."_s;
     return u"There are currently "_s + SpacedNumber(count) + u" users."_s;
-}
-
-bool AnotherUserHas(const QString& name, std::int64_t userId)
-{
-    const std::vector<UserRow> all = ReadAllUsers(users);
-    return std::any_of(all.begin(), all.end(),
-                       [&](const UserRow& user) { return user.number != userId && user.name == name; });
 }
 
 } // namespace
@@ -115,7 +106,8 @@ void UserDetailsPage::ConnectHandlers()
 {
     ConnectGuarded(F11list, &QListWidget::itemClicked, this, [this] { F11list_Click(); });
     ConnectGuarded(F11list, &QListWidget::itemSelectionChanged, this, [this] { F11list_Click(); });
-    ConnectGuarded(F11adduser, &QPushButton::clicked, this, [this] { F11adduser_Click(); });
+    // F11adduser_Click.
+    ConnectGuarded(F11adduser, &QPushButton::clicked, this, [this] { SetMode(Mode::Add); });
     ConnectGuarded(F11edituser, &QPushButton::clicked, this, [this] { F11edituser_Click(); });
     ConnectGuarded(F11seluser, &QLineEdit::returnPressed, this, [this] { F11spend->setFocus(Qt::TabFocusReason); });
     ConnectGuarded(F11spend, &QLineEdit::returnPressed, this, [this] { F11spend_KeyPress(); });
@@ -128,17 +120,12 @@ void UserDetailsPage::Prepare()
 {
     show();
     SetMode(Mode::View);
-    FillList();
-    if (F11list->count() == 0)
-        F11adduser_Click();
-}
-
-void UserDetailsPage::FillList()
-{
     F11list->clear();
     for (const UserRow& user : ReadAllUsers(users))
         F11list->addItem(user.name);
     F11label1->setText(UserCountText(F11list->count()));
+    if (F11list->count() == 0)
+        SetMode(Mode::Add);
 }
 
 void UserDetailsPage::F11list_Click()
@@ -166,11 +153,6 @@ void UserDetailsPage::DropVanishedUser()
     Prepare();
     throw Failure("The user could not be shown",
                   "another copy of the program has deleted it or given it another name meanwhile", name);
-}
-
-void UserDetailsPage::F11adduser_Click()
-{
-    SetMode(Mode::Add);
 }
 
 void UserDetailsPage::F11edituser_Click()
@@ -215,7 +197,7 @@ void UserDetailsPage::F11storech_Click()
     const bool renamed = F11seluser->text() != editedUserName;
     const QString name = renamed ? F11seluser->text() : selectedUser.name;
     const double limit = NumericValue(F11spend->text());
-    if (renamed && AnotherUserHas(name, selectedUser.number)) {
+    if (renamed && FindUserByName(users, name) && ReadUser(users).number != selectedUser.number) {
         ShowMessage(u"This user name has already been used, please retry"_s);
         return;
     }

@@ -32,11 +32,9 @@ private:
     Card* MakeListCard();
     Card* MakeUserCard();
     void ConnectHandlers();
-    void FillList();
     void F11list_Click();
     /// Fills the list anew, for its selected line names a user who is gone. Throws the Failure that tells it.
     void DropVanishedUser();
-    void F11adduser_Click();
     void F11edituser_Click();
     void F11spend_KeyPress();
     void F11storenu_Click();
