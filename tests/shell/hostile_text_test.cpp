@@ -4,9 +4,7 @@
 #include "walk.h"
 
 #include <QClipboard>
-#include <QDropEvent>
 #include <QLabel>
-#include <QMimeData>
 #include <QTextEdit>
 
 #include <cfloat>
@@ -79,14 +77,6 @@ public:
 
 } // namespace
 
-/// Every page with ball fields, the last of them, and the button that stores.
-const std::tuple<Stop, QString, QString> BallPages[] = {{{"", 1, 1}, "F6MBall1_0", "F6Store"},
-                                                        {{"", 1, 2}, "F7TBall1_0", "F7Store"},
-                                                        {{"", 2, 3, "F10maineditbutton"}, "F16number_0", "F16save"},
-                                                        {{"", 2, 3, "F10thundereditbutton"}, "F17number_0", "F17save"},
-                                                        {{"", 3, 2}, "F18ent_6", "F18store"},
-                                                        {{"", 3, 3, "F13edit"}, "F20num_6", "F20store"}};
-
 class HostileTextTest : public QObject
 {
     Q_OBJECT
@@ -124,48 +114,6 @@ private Q_SLOTS:
         for (const QString& row : TestFolder::StoredRows("entries").first(2))
             QVERIFY(row.section(u',', 3, 8) == "1,2,3,4,5,6");
         QCOMPARE(TestFolder::StoredRows("ukthunder").size(), 1);
-    }
-
-    /// A refused ball is told, emptied and focused, and nothing else happens, whatever is done instead of leaving it.
-    void RefusedBallIsStoppedInEveryWay()
-    {
-        Pages pages;
-        const auto rows = [] {
-            return TestFolder::StoredRows("ukmain") + TestFolder::StoredRows("ukthunder") +
-                   TestFolder::StoredRows("entries");
-        };
-        const QStringList before = rows();
-        for (const auto& [stop, field, store] : BallPages)
-            for (const QString way : {"letter", "menu", "ahead", "drop"}) {
-                pages.Open(stop);
-                pages.modals.TakeTexts();
-                auto* box = pages.Find<QLineEdit>(field);
-                if (way == "drop"_L1) {
-                    pages.Type(field, {});
-                    pages.Press(field, Qt::Key_Backtab, Qt::ShiftModifier);
-                    QMimeData text;
-                    text.setText("99");
-                    QDragEnterEvent enter({}, Qt::CopyAction, &text, Qt::LeftButton, {});
-                    QApplication::sendEvent(box, &enter);
-                    QDropEvent drop({}, Qt::CopyAction, &text, Qt::LeftButton, {});
-                    QApplication::sendEvent(box, &drop);
-                    pages.Click(store);
-                } else {
-                    pages.Type(field, "99");
-                }
-                if (way == "menu"_L1)
-                    pages.Press(field, Qt::Key_G, Qt::AltModifier);
-                if (way == "letter"_L1)
-                    pages.Press(field, static_cast<Qt::Key>(pages.Find<QPushButton>(store)->shortcut()[0].key()),
-                                Qt::AltModifier);
-                for (int press = 0; way == "ahead"_L1 && press < 2; ++press)
-                    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-                QTRY_VERIFY2(box->text().isEmpty(), qPrintable(field + way));
-                QCOMPARE(pages.Window().focusWidget()->objectName(), field);
-                const QStringList told = pages.modals.TakeTexts();
-                QVERIFY2(told.size() == 1 && told[0].contains("must be between 1 and"), qPrintable(told.join(u'|')));
-            }
-        QCOMPARE(rows(), before);
     }
 
     void NameIsShownAsTypedAndNumberReadByTheOneRule()

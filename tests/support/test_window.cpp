@@ -14,9 +14,11 @@ ModalWindows::ModalWindows()
     timer.start(2);
 }
 
-void ModalWindows::WillPress(QMessageBox::StandardButton button)
+void ModalWindows::WillPress(QMessageBox::StandardButton button, std::function<void()> look)
 {
-    expected.emplace_back([button](QDialog& dialog) {
+    expected.emplace_back([button, look = std::move(look)](QDialog& dialog) {
+        if (look)
+            look();
         auto* box = qobject_cast<QMessageBox*>(&dialog);
         if (box == nullptr || box->button(button) == nullptr)
             return false;

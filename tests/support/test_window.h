@@ -46,8 +46,8 @@ class ModalWindows : public QObject
 public:
     ModalWindows();
 
-    /// The next modal window is a message box, and this button of it is pressed.
-    void WillPress(QMessageBox::StandardButton button);
+    /// The next modal window is a message box, and this button of it is pressed, after a look at what it covers.
+    void WillPress(QMessageBox::StandardButton button, std::function<void()> look = {});
     /// The next modal window is a dialog of the program's own; the action works in it and closes it.
     void WillDo(std::function<void(QDialog&)> action);
 

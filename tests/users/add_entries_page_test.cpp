@@ -6,7 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Refused = u"Error detected in the data that you entered.\r\nPlease re-check and press 'Store' again."_s;
 const QString UpToLimit = u"This user is up to the spend limit.\r\nGo to 'User Details' to change the spend "
                           u"limit, or choose another user."_s;
 const QString NotStored =
@@ -71,34 +70,6 @@ private Q_SLOTS:
             QVERIFY(!window.Find<QCheckBox>("F18day_6")->isChecked());
             QCOMPARE(window.Find<QComboBox>("F18type")->currentIndex(), type);
             QCOMPARE(window.TextOf("F18userdata_0"), QString("This user has 1 entries stored."));
-        }
-    }
-
-    /// A box that is refused says so when it is left, all others when they are stored.
-    void RefusedNumbersAreTold()
-    {
-        using Row = std::tuple<int, const char*, const char*>;
-        for (const auto& [type, typed, boxMessage] :
-             {Row{0, "1 2 3 4 5 5", ""}, Row{0, "1 2 3 4 5 ", ""},
-              Row{0, "1 2 3 4 5 50", "Ball values must be between 1 and 49"}, Row{1, "1 2 3 4 4 5", ""},
-              Row{1, "1 2 3 4 5 0.5", ""}, Row{1, "1 2 3 4 35", "Main ball values must be between 1 and 34"},
-              Row{1, "1 2 3 4 5 15", "Thunderball value must be between 1 and 14"}}) {
-            const QStringList numbers = QString(typed).split(u' ');
-            const bool passes = *boxMessage == '\0';
-            TestWindow window;
-            Open(window, {{"Ann", 10}});
-            window.Choose("F18type", type);
-            if (!passes)
-                window.modals.WillPress(QMessageBox::Ok);
-            window.TypeInTurn("F18ent_1", numbers);
-            QCOMPARE(window.modals.TakeTexts().join(u'|'), QString(boxMessage));
-            const QString last = QString("F18ent_%1").arg(numbers.size());
-            QCOMPARE(window.FocusedName(), passes ? "F18store" : last);
-            QCOMPARE(window.TextOf(last), passes ? numbers.last() : QString());
-            window.Click("F18selallday");
-            QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), QStringList{Refused});
-            QCOMPARE(window.TextOf("F18ent_1"), QString("1"));
-            QCOMPARE(TestFolder::StoredRows("entries"), QStringList());
         }
     }
 
