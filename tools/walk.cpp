@@ -209,9 +209,9 @@ void Walk::Charts() const
 void Walk::StartPageWindows() const
 {
     window.ShowStartPage();
-    Foresee(u"about"_s, u"back"_s);
+    Foresee(u"about"_s);
     Press(u"about"_s);
-    Foresee(u"advanced"_s, u"back"_s, [this](QDialog& advanced) {
+    Foresee(u"advanced"_s, {}, [this](QDialog& advanced) {
         Foresee(u"file_dialog"_s);
         PressIn(advanced, u"exportdraw"_s);
     });

@@ -7,16 +7,15 @@
 #include "shell/menu_column.h"
 #include "shell/page_area.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QMessageBox>
 #include <QMetaEnum>
+#include <QPushButton>
+#include <QTableView>
 
 namespace {
 
@@ -25,47 +24,30 @@ QString Quoted(QString text)
     return '"' + text.replace("\r\n", "\\r\\n").replace('\n', "\\n").replace('\t', "\\t") + '"';
 }
 
-QString Cells(const QAbstractItemView& view, const std::function<QString(int)>& textOf)
+/// Of a list all lines; of a table, which may have hidden columns, its headings and its first row.
+QString Listed(const QAbstractItemModel& model, const QTableView* table)
 {
+    QStringList headings;
     QStringList cells;
-    for (int column = 0; column < view.model()->columnCount(); ++column)
-        if (!view.visualRect(view.model()->index(0, column)).isEmpty())
-            cells.append(textOf(column));
-    return '[' + cells.join('|') + ']';
-}
-
-/// Of a list all lines, of a table its headings and its first row.
-QString Listed(const QAbstractItemView& view)
-{
-    const QAbstractItemModel& model = *view.model();
-    QStringList lines;
-    if (model.columnCount() > 1)
-        lines.append(Cells(view, [&](int column) { return model.headerData(column, Qt::Horizontal).toString(); }));
-    for (int row = 0; row < (model.columnCount() > 1 ? qMin(1, model.rowCount()) : model.rowCount()); ++row)
-        lines.append(Cells(view, [&](int column) {
-            const QVariant ground = model.index(row, column).data(Qt::BackgroundRole);
-            const QString colour = ground.isValid() ? " on " + ground.value<QColor>().name() : QString();
-            return model.index(row, column).data().toString() + colour;
-        }));
-    return lines.join(' ');
-}
-
-QString Listed(const QComboBox& box)
-{
-    QStringList items;
-    for (int item = 0; item < box.count(); ++item)
-        items.append(box.itemText(item));
-    return '[' + items.join('|') + ']';
+    for (int line = 0; line < (table == nullptr ? model.rowCount() : model.columnCount()); ++line) {
+        if (table != nullptr && table->isColumnHidden(line))
+            continue;
+        const QModelIndex cell = table == nullptr ? model.index(line, 0) : model.index(0, line);
+        const QVariant ground = cell.data(Qt::BackgroundRole);
+        cells.append(cell.data().toString() + (ground.isValid() ? " on " + ground.value<QColor>().name() : QString()));
+        headings.append(model.headerData(line, Qt::Horizontal).toString());
+    }
+    return (table == nullptr ? QString() : '[' + headings.join('|') + "] ") + '[' + cells.join('|') + ']';
 }
 
 /// The colours of a control that has its own.
 QString OwnColours(const QWidget& widget)
 {
-    const auto own = [&widget](QPalette::ColorRole role) { return widget.palette().color(role); };
-    const auto isOwn = [&](QPalette::ColorRole role) { return own(role) != QApplication::palette().color(role); };
     const bool isField = widget.inherits("QLineEdit");
     const auto text = isField ? QPalette::Text : widget.foregroundRole();
     const auto ground = isField ? QPalette::Base : widget.backgroundRole();
+    const auto own = [&widget](QPalette::ColorRole role) { return widget.palette().color(role); };
+    const auto isOwn = [&](QPalette::ColorRole role) { return own(role) != QApplication::palette().color(role); };
     return isOwn(text) || isOwn(ground) ? own(text).name() + " on " + own(ground).name() : QString();
 }
 
@@ -74,63 +56,52 @@ QString LineOf(QWidget& widget)
     QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(&widget);
     QStringList words{TakesTab(widget) ? ">" : "", widget.objectName(),
                       QMetaEnum::fromType<QAccessible::Role>().valueToKey(told.role())};
-    QStringList texts;
+    const auto* box = qobject_cast<const QComboBox*>(&widget);
     // A list tells its choice as its name.
-    const QString name =
-        qobject_cast<QComboBox*>(&widget) != nullptr ? widget.accessibleName() : told.text(QAccessible::Name);
-    for (const QString& text :
-         {name, widget.property("text").toString(), told.text(QAccessible::Value), told.text(QAccessible::Description)})
-        if (!text.isEmpty() && !texts.contains(text))
-            texts.append(text);
+    QStringList texts{box != nullptr ? widget.accessibleName() : told.text(QAccessible::Name),
+                      widget.property("text").toString(), told.text(QAccessible::Value),
+                      told.text(QAccessible::Description)};
+    texts.removeAll(QString());
+    texts.removeDuplicates();
     for (const QString& text : texts)
         words.append(Quoted(text));
-    if (const auto* box = qobject_cast<const QComboBox*>(&widget))
-        words.append(Listed(*box));
     const auto* view = qobject_cast<const QAbstractItemView*>(&widget);
-    if (view != nullptr && qobject_cast<const QCalendarWidget*>(view->parentWidget()) == nullptr)
-        words.append(Listed(*view));
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-        words.append(button->shortcut().toString());
-        words.append(button->isChecked() ? "checked" : "");
-        words.append(button->property(AccentProperty).toBool() ? "accent" : "");
-    }
-    words.append(widget.isEnabled() ? "" : "disabled");
-    words.append(OwnColours(widget));
-    words.removeAll(QString());
-    return words.join(' ');
-}
-
-QString HeadOf(const QWidget& shown)
-{
-    QStringList words{shown.objectName(), Quoted(shown.isWindow() ? shown.windowTitle() : shown.accessibleName())};
-    if (const auto* box = qobject_cast<const QMessageBox*>(&shown))
-        words.append(QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon()));
+    if (box != nullptr)
+        words.append(Listed(*box->model(), nullptr));
+    else if (view != nullptr && qobject_cast<const QCalendarWidget*>(view->parentWidget()) == nullptr)
+        words.append(Listed(*view->model(), qobject_cast<const QTableView*>(view)));
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        words << button->shortcut().toString() << (button->isChecked() ? "checked" : "")
+              << (button->property(AccentProperty).toBool() ? "accent" : "")
+              << (button->property("default").toBool() ? "default" : "");
+    words << (widget.isEnabled() ? "" : "disabled") << OwnColours(widget);
+    // The places in the menu are given in twips, of which ten make a pixel.
+    if (qobject_cast<MenuColumn*>(widget.parentWidget()) != nullptr)
+        words.append(QString("at %1").arg(widget.y() * 10));
     words.removeAll(QString());
     return words.join(' ');
 }
 
 QStringList ShownLines(QWidget& shown)
 {
-    QStringList lines{HeadOf(shown)};
+    QStringList head{shown.objectName(), Quoted(shown.isWindow() ? shown.windowTitle() : shown.accessibleName())};
+    if (const auto* box = qobject_cast<const QMessageBox*>(&shown))
+        head[0] = QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon());
+    QStringList lines{head.join(' ')};
     // What the toolkit's own window holds are the folders of the computer.
     if (const auto* dialog = qobject_cast<const QFileDialog*>(&shown))
         return lines << dialog->nameFilters() << dialog->selectedFiles().constLast().section('/', -1);
-    QList<QWidget*> reached;
+    QList<QWidget*> others = ShownWidgets(shown);
     for (QWidget* next = shown.nextInFocusChain(); next != &shown; next = next->nextInFocusChain())
-        if (shown.isAncestorOf(next) && next->isVisible() && !IsPart(*next) && TakesTab(*next))
-            reached.append(next);
-    for (QWidget* widget : reached)
-        lines.append(LineOf(*widget));
+        if (TakesTab(*next) && others.removeOne(next))
+            lines.append(LineOf(*next));
     QStringList texts;
     QStringList withoutText;
-    for (auto* widget : shown.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || IsPart(*widget) || reached.contains(widget))
-            continue;
+    for (QWidget* widget : others)
         if (!widget->property("text").toString().isEmpty())
             texts.append(LineOf(*widget));
         else if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
             withoutText.append(widget->objectName());
-    }
     texts.sort();
     withoutText.sort();
     lines += texts;
@@ -151,16 +122,20 @@ QString ControlOf(const QString& line)
 
 void ShownPages::TakeDown(const QString& state, QWidget& window)
 {
-    if (const auto* area = window.findChild<PageArea*>()) {
-        QWidget& page = *area->FrontPage();
-        const bool withMenu = qobject_cast<IntroductionPage*>(&page) != nullptr;
-        Add(page.objectName(), state,
-            ShownLines(page) + (withMenu ? ShownLines(*window.findChild<MenuColumn*>()) : QStringList()));
-    } else if (qobject_cast<QMessageBox*>(&window) != nullptr) {
-        files["messages"] += QStringList("== " + state) + ShownLines(window);
-    } else {
-        Add(window.objectName(), state, ShownLines(window));
+    const auto* area = window.findChild<PageArea*>();
+    if (area == nullptr) {
+        const bool isBox = qobject_cast<QMessageBox*>(&window) != nullptr;
+        Add(isBox ? "message_box_" + state : window.objectName(), state, ShownLines(window));
+        return;
     }
+    QWidget& page = *area->FrontPage();
+    auto& menu = *window.findChild<MenuColumn*>();
+    QStringList lines = ShownLines(page);
+    if (qobject_cast<IntroductionPage*>(&page) != nullptr)
+        lines += ShownLines(menu);
+    else if (auto* mark = menu.findChild<QWidget*>("Optionmark"); mark->isVisible())
+        lines.append(QString("Optionmark at %1").arg(mark->y() * 10));
+    Add(page.objectName(), state, lines);
 }
 
 void ShownPages::Add(const QString& file, const QString& state, const QStringList& lines)

@@ -32,7 +32,6 @@ struct SeenBox
     QString title;
     QString text;
     QMessageBox::Icon icon;
-    QMessageBox::StandardButtons buttons;
     QMessageBox::StandardButton defaultButton;
     Qt::TextFormat format;
 };
