@@ -1,7 +1,8 @@
 #include "checking/check_report.h"
 
 #include "base/dates.h"
-#include "base/numbers.h"
+
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <unordered_map>
@@ -20,9 +21,9 @@ bool IsPlayed(const EntryRow& entry, const Game& game, const CheckedDraw& draw)
 
 QString ResultText(const Game& game, const EntryResult& result)
 {
-    return (game.IsMain() ? u" "_s : u"   "_s) + SpacedNumber(result.mainMatches) +
-           (result.mainMatches == 1 ? u" main ball"_s : u" main balls"_s) +
-           (result.extraMatched ? u" + %1. "_s.arg(game.extraBallName.toLower()) : u". "_s) +
+    return (game.IsMain() ? u"  "_s : u"    "_s) % QString::number(result.mainMatches) %
+           (result.mainMatches == 1 ? u" main ball"_s : u" main balls"_s) %
+           (result.extraMatched ? u" + %1. "_s.arg(game.extraBallName.toLower()) : u". "_s) %
            (IsWin(game, result) ? u"<<WIN>>"_s : QString());
 }
 
@@ -35,8 +36,8 @@ QString SectionText(const CheckedGame& checked, const std::vector<const EntryRow
     int counter = 1;
     for (const EntryRow* entry : owned)
         if (IsPlayed(*entry, game, *checked.draw))
-            text += u"   "_s + SpacedNumber(counter++) + u'>' +
-                    ResultText(game, CompareEntry(game, *entry, *checked.draw)) + LineBreak;
+            text += u"    "_s % QString::number(counter++) % u'>' %
+                    ResultText(game, CompareEntry(game, *entry, *checked.draw)) % LineBreak;
     if (counter == 1)
         text += u"    No %1 entries on this date."_s.arg(game.InSentence()) + LineBreak;
     return text;
