@@ -4,16 +4,28 @@
 #include "base/numbers.h"
 
 #include <algorithm>
+#include <functional>
 #include <limits>
+#include <numeric>
 #include <type_traits>
+
+namespace {
+
+template <typename Held>
+bool CanHold(double number)
+{
+    using Limits = std::numeric_limits<Held>;
+    return !Limits::is_integer ||
+           (number >= Limits::lowest() && number <= Limits::max() && number == static_cast<Held>(number));
+}
+
+} // namespace
 
 void NumberColumn::Put(std::size_t place, double number)
 {
     const auto put = [place, number](auto& held) {
         using Held = typename std::decay_t<decltype(held)>::value_type;
-        using Limits = std::numeric_limits<Held>;
-        if (Limits::is_integer &&
-            (number < Limits::lowest() || number > Limits::max() || static_cast<Held>(number) != number))
+        if (!CanHold<Held>(number))
             return false;
         if (place == held.size())
             held.emplace_back();
@@ -28,51 +40,76 @@ void NumberColumn::Put(std::size_t place, double number)
         numbers = std::visit(widened, numbers);
 }
 
+int NumberColumn::CountOf(double number, const std::vector<char>& deleted) const
+{
+    const auto count = [&deleted, number](const auto& held) {
+        using Held = typename std::decay_t<decltype(held)>::value_type;
+        if (!CanHold<Held>(number))
+            return 0;
+        const auto isWanted = [wanted = static_cast<Held>(number)](Held field, char gone) {
+            return field == wanted && gone == 0 ? 1 : 0;
+        };
+        return std::inner_product(held.begin(), held.end(), deleted.begin(), 0, std::plus<>(), isWanted);
+    };
+    return std::visit(count, numbers);
+}
+
 void NumberColumn::Shrink()
 {
     std::visit([](auto& held) { held.shrink_to_fit(); }, numbers);
+}
+
+std::size_t TextColumn::PlaceOf(std::string_view text, std::size_t& room)
+{
+    // As many as a player has machines or sets of balls to choose from.
+    constexpr std::size_t looked = 8;
+    for (std::size_t place = ends.size(); place > 0 && place + looked > ends.size(); --place)
+        if ((*this)[place - 1] == text)
+            return place - 1;
+    if (text.size() > room)
+        throw Failure("The rows could not be held", "their texts are too long", "more than 32 MiB of text");
+    room -= text.size();
+    bytes += text;
+    ends.push_back(static_cast<std::uint32_t>(bytes.size()));
+    return ends.size() - 1;
+}
+
+void TextColumn::Shrink()
+{
+    bytes.shrink_to_fit();
+    ends.shrink_to_fit();
 }
 
 StoredRows::StoredRows(const TableLayout& table) : columns(table.columns.size())
 {
     for (std::size_t column = 0; column < columns.size(); ++column)
         if (table.columns[column].type == "TEXT")
-            columns[column].texts.emplace_back();
+            columns[column].texts.emplace();
 }
 
 double StoredRows::Number(int place, int column) const
 {
     const Column& read = columns[Index(column)];
-    return read.texts.empty() ? read.cells[Index(place)] : NumericValue(Text(place, column));
+    return read.texts ? NumericValue(Text(place, column)) : read.cells[Index(place)];
 }
 
 std::string_view StoredRows::Text(int place, int column) const
 {
     const Column& read = columns[Index(column)];
-    return read.texts.empty() ? std::string_view() : read.texts[static_cast<std::size_t>(read.cells[Index(place)])];
+    return read.texts ? (*read.texts)[static_cast<std::size_t>(read.cells[Index(place)])] : std::string_view();
 }
 
 std::partial_ordering StoredRows::Compare(int place, int other, int column) const
 {
-    if (columns[Index(column)].texts.empty())
-        return Number(place, column) <=> Number(other, column);
-    return Text(place, column) <=> Text(other, column);
-}
-
-int StoredRows::CountOf(int column, double number) const
-{
-    int count = 0;
-    columns[Index(column)].cells.ForEach([&](std::size_t place, double held) {
-        if (held == number && !deleted[place])
-            ++count;
-    });
-    return count;
+    if (columns[Index(column)].texts)
+        return Text(place, column) <=> Text(other, column);
+    return Number(place, column) <=> Number(other, column);
 }
 
 int StoredRows::Append(std::int64_t rowId)
 {
     rowIds.push_back(rowId);
-    deleted.push_back(false);
+    deleted.push_back(0);
     for (Column& column : columns)
         column.cells.Put(rowIds.size() - 1, 0);
     return Places() - 1;
@@ -80,29 +117,16 @@ int StoredRows::Append(std::int64_t rowId)
 
 void StoredRows::Put(int place, int column, double number)
 {
-    Column& changed = columns[Index(column)];
-    changed.cells.Put(Index(place),
-                      changed.texts.empty() ? number : PlaceOfText(changed.texts, PlainNumber(number).toStdString()));
+    if (columns[Index(column)].texts)
+        Put(place, column, PlainNumber(number).toStdString());
+    else
+        columns[Index(column)].cells.Put(Index(place), number);
 }
 
 void StoredRows::Put(int place, int column, std::string_view text)
 {
-    Column& changed = columns[Index(column)];
-    changed.cells.Put(Index(place), changed.texts.empty() ? NumericValue(text) : PlaceOfText(changed.texts, text));
-}
-
-double StoredRows::PlaceOfText(std::vector<std::string>& texts, std::string_view text)
-{
-    // As many as a player has machines or sets of balls to choose from.
-    constexpr std::ptrdiff_t looked = 8;
-    auto found = std::find(texts.end() - std::min(looked, std::ssize(texts)), texts.end(), text);
-    if (found == texts.end()) {
-        if (text.size() > textRoom)
-            throw Failure("The rows could not be held", "their texts are too long", "more than 32 MiB of text");
-        textRoom -= text.size();
-        found = texts.emplace(found, text);
-    }
-    return static_cast<double>(found - texts.begin());
+    auto& [cells, texts] = columns[Index(column)];
+    cells.Put(Index(place), texts ? static_cast<double>(texts->PlaceOf(text, textRoom)) : NumericValue(text));
 }
 
 void StoredRows::Shrink()
@@ -111,7 +135,8 @@ void StoredRows::Shrink()
     deleted.shrink_to_fit();
     for (Column& column : columns) {
         column.cells.Shrink();
-        column.texts.shrink_to_fit();
+        if (column.texts)
+            column.texts->Shrink();
     }
 }
 
@@ -160,5 +185,5 @@ void StoredRows::PutAll(int place, const std::vector<FieldValue>& fields)
 void StoredRows::SetDeleted(int place, bool isDeleted)
 {
     deletedCount += static_cast<int>(isDeleted) - static_cast<int>(IsDeleted(place));
-    deleted[Index(place)] = isDeleted;
+    deleted[Index(place)] = isDeleted ? 1 : 0;
 }

@@ -4,6 +4,7 @@
 
 #include <compare>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -19,17 +20,8 @@ public:
     }
     /// Puts the number into a place, or after the last one.
     void Put(std::size_t place, double number);
-    /// Calls `action` with each place and its number, in order.
-    template <typename Action>
-    void ForEach(Action action) const
-    {
-        std::visit(
-            [&action](const auto& held) {
-                for (std::size_t place = 0; place < held.size(); ++place)
-                    action(place, static_cast<double>(held[place]));
-            },
-            numbers);
-    }
+    /// How many of the places hold the number and are not marked as deleted.
+    int CountOf(double number, const std::vector<char>& deleted) const;
     /// Gives back the memory that is kept for more numbers.
     void Shrink();
 
@@ -37,6 +29,25 @@ private:
     using Numbers = std::variant<std::vector<std::int8_t>, std::vector<std::int32_t>, std::vector<double>>;
 
     Numbers numbers;
+};
+
+/// Texts one after another, of which the first is empty.
+class TextColumn
+{
+public:
+    std::string_view operator[](std::size_t place) const
+    {
+        const std::size_t begin = place == 0 ? 0 : ends[place - 1];
+        return std::string_view(bytes).substr(begin, ends[place] - begin);
+    }
+    /// Puts a text after the last one, unless it is one of the last ones; returns its place. Its bytes are taken from
+    /// `room`. Throws Failure where that is not enough.
+    std::size_t PlaceOf(std::string_view text, std::size_t& room);
+    void Shrink();
+
+private:
+    std::string bytes;
+    std::vector<std::uint32_t> ends{0};
 };
 
 /// A field that is to be stored: its position in the row, and a text in UTF-8 or a number.
@@ -58,7 +69,7 @@ public:
     /// The number of places, those of deleted rows included, and of rows that are left.
     int Places() const { return static_cast<int>(rowIds.size()); }
     int Count() const { return Places() - deletedCount; }
-    bool IsDeleted(int place) const { return deleted[Index(place)]; }
+    bool IsDeleted(int place) const { return deleted[Index(place)] != 0; }
     /// The number by which the engine knows the row.
     std::int64_t RowId(int place) const { return rowIds[Index(place)]; }
 
@@ -69,7 +80,7 @@ public:
     /// How the fields of two rows stand to each other.
     std::partial_ordering Compare(int place, int other, int column) const;
     /// In how many rows that are left a column of numbers holds this one.
-    int CountOf(int column, double number) const;
+    int CountOf(int column, double number) const { return columns[Index(column)].cells.CountOf(number, deleted); }
 
     /// Puts a row without content after the last one, and returns its place.
     int Append(std::int64_t rowId);
@@ -87,15 +98,11 @@ public:
     void Delete(int place);
 
 private:
-    /// The program's own tables hold some kilobytes; a file that claims much more must not take the computer's memory.
-    static constexpr std::size_t MostTextBytes = std::size_t{32} * 1024 * 1024;
-
-    /// Numbers, or the places of the fields' texts, of which the first is the empty one. A text that comes again soon
-    /// stands there once.
+    /// Numbers, or the places of the fields' texts.
     struct Column
     {
         NumberColumn cells;
-        std::vector<std::string> texts;
+        std::optional<TextColumn> texts;
     };
 
     /// What a row was before it was changed; without cells where only its deletion is concerned.
@@ -107,14 +114,14 @@ private:
     };
 
     static std::size_t Index(int number) { return static_cast<std::size_t>(number); }
-    double PlaceOfText(std::vector<std::string>& texts, std::string_view text);
     void PutAll(int place, const std::vector<FieldValue>& fields);
     void SetDeleted(int place, bool isDeleted);
 
     std::vector<Column> columns;
     std::vector<std::int64_t> rowIds;
-    std::vector<bool> deleted;
+    std::vector<char> deleted;
     int deletedCount = 0;
-    std::size_t textRoom = MostTextBytes;
+    /// The program's own texts take some kilobytes; a file that claims much more must not take the computer's memory.
+    std::size_t textRoom = std::size_t{32} * 1024 * 1024;
     std::vector<Change> changes;
 };

@@ -2,6 +2,8 @@
 
 #include "base/failure.h"
 
+#include <malloc.h>
+
 namespace {
 
 void BindField(Statement& statement, int parameter, const FieldValue& field)
@@ -90,8 +92,9 @@ std::shared_ptr<StoredRows> Table::ReadRows()
         }
     }
     read->Shrink();
-    // What the engine keeps of the file is not asked for again.
+    // What the engine keeps of the file is not asked for again, and reading leaves gaps that nothing else fills.
     sqlite3_db_release_memory(engine);
+    malloc_trim(0);
     return read;
 }
 
