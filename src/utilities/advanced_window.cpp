@@ -16,36 +16,39 @@
 
 #include <QFile>
 #include <QHBoxLayout>
+#include <QScopeGuard>
 #include <QVBoxLayout>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString LabelArray = u"Label"_s;
-
-std::filesystem::path PathOf(const QString& chosen)
+QString AskPath(FilePurpose purpose, const DatabaseFile& file, QWidget* parent)
 {
-    return QFile::encodeName(chosen).toStdString();
+    return AskFile(purpose, file.offeredName, QFile::decodeName(ProgramDir.c_str()), parent);
 }
 
-FileQuestion Question(const QString& title, const DatabaseFile& file)
+/// Whether the chosen path is refused, after a message, because it is that of a live file.
+bool IsRefused(const QString& chosen, const QString& why, const QString& outcome)
 {
-    return {title, QFile::decodeName(ProgramDir.c_str()), file.offeredName};
+    if (!IsLivePath(chosen))
+        return false;
+    ShowMessage(why + Crlf + outcome);
+    return true;
 }
 
-/// Runs the steps on the files. Where one fails, both databases are opened again before it is told.
-template <typename Steps>
-auto ReopeningOnFailure(const QString& outcome, Steps steps)
+/// Runs steps on the chosen file with both databases closed. They are open again before a failure is told.
+void WorkOn(const QString& chosen, const QString& outcome,
+            const std::function<void(const std::filesystem::path&)>& steps)
 {
     try {
-        return steps();
+        const auto reopening = qScopeGuard(OpenDatabases);
+        CloseDatabaseFiles();
+        steps(QFile::encodeName(chosen).toStdString());
     } catch (const Failure& failure) {
-        OpenDatabases();
-        throw failure.During((outcome + u'.' + Crlf).toStdString() + failure.Doing());
-    } catch (...) {
-        OpenDatabases();
-        throw;
+        throw failure.During((outcome + Crlf).toStdString() + failure.Doing());
     }
 }
 
@@ -54,77 +57,57 @@ auto ReopeningOnFailure(const QString& outcome, Steps steps)
 AdvancedWindow::AdvancedWindow(QWidget* parent)
     : SmallWindow(u"frmadvanced"_s, u"Tavenor 3 --- Advanced Options"_s, parent)
 {
-    auto* exportdraw = new Button(u"Backup Draw Database"_s, u"exportdraw"_s);
-    auto* importdraw = new Button(u"Import Updated Draw Database"_s, u"importdraw"_s);
-    auto* exportuser = new Button(u"Backup User Entry Database"_s, u"exportuser"_s);
-    auto* importuser = new Button(u"Import User Entry Database"_s, u"importuser"_s);
-    auto* back = new Button(u"BACK"_s, u"back"_s);
-
     QVBoxLayout* layout = Content();
-    layout->addWidget(MakeLabel(u"Database Utilities"_s, TextRole::Title, ElementName(LabelArray, 0)));
+    layout->addWidget(MakeLabel(u"Database Utilities"_s, TextRole::Title, u"Label_0"_s));
     auto* groups = new QHBoxLayout;
     groups->setSpacing(Spacing::Cards);
-    groups->addWidget(BuildGroup(1, u"Draw Records"_s, exportdraw, importdraw));
-    groups->addWidget(BuildGroup(2, u"User Entries"_s, exportuser, importuser));
+    groups->addWidget(BuildGroup(MakeLabel(u"Draw Records"_s, TextRole::Heading, u"Label_1"_s),
+                                 new Button(u"Backup Draw Database"_s, u"exportdraw"_s),
+                                 new Button(u"Import Updated Draw Database"_s, u"importdraw"_s), DrawDatabaseFile));
+    groups->addWidget(BuildGroup(MakeLabel(u"User Entries"_s, TextRole::Heading, u"Label_2"_s),
+                                 new Button(u"Backup User Entry Database"_s, u"exportuser"_s),
+                                 new Button(u"Import User Entry Database"_s, u"importuser"_s), UserDatabaseFile));
     layout->addLayout(groups);
     layout->addStretch(1);
-    layout->addWidget(back, 0, Qt::AlignRight);
-
-    ConnectGuarded(exportdraw, &QPushButton::clicked, this, [this] { Export_Click(DrawDatabaseFile()); });
-    ConnectGuarded(importdraw, &QPushButton::clicked, this, [this] { Import_Click(DrawDatabaseFile()); });
-    ConnectGuarded(exportuser, &QPushButton::clicked, this, [this] { Export_Click(UserDatabaseFile()); });
-    ConnectGuarded(importuser, &QPushButton::clicked, this, [this] { Import_Click(UserDatabaseFile()); });
+    auto* back = new Button(u"BACK"_s, u"back"_s);
     back->MakeQuietDefault();
+    layout->addWidget(back, 0, Qt::AlignRight);
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-QWidget* AdvancedWindow::BuildGroup(int index, const QString& heading, Button* backup, Button* import)
+QWidget* AdvancedWindow::BuildGroup(QLabel* heading, Button* backup, Button* import, DatabaseFile (*file)())
 {
     auto* card = new Card;
-    card->Content()->addWidget(MakeLabel(heading, TextRole::Heading, ElementName(LabelArray, index)));
-    card->Content()->addWidget(backup);
-    card->Content()->addWidget(import);
+    for (QWidget* control : std::initializer_list<QWidget*>{heading, backup, import})
+        card->Content()->addWidget(control);
+    ConnectGuarded(backup, &QPushButton::clicked, this, [this, file] { Export_Click(file()); });
+    ConnectGuarded(import, &QPushButton::clicked, this, [this, file] { Import_Click(file()); });
     return card;
 }
 
 void AdvancedWindow::Export_Click(const DatabaseFile& file)
 {
-    const QString notStored = file.name + u" has not been stored"_s;
-    const QString chosen = AskFileToSave(Question(u"Backup"_s, file), this);
-    if (chosen.isEmpty())
+    const QString outcome = file.name + u" has not been stored."_s;
+    const QString chosen = AskPath(FilePurpose::Backup, file, this);
+    if (chosen.isEmpty() || IsRefused(chosen, u"You can't overwrite the current database files,"_s, outcome))
         return;
-    if (IsLivePath(chosen)) {
-        ShowMessage(u"You can't overwrite the current database files,"_s + Crlf + notStored + u'.');
-        return;
-    }
-    ReopeningOnFailure(notStored, [&] {
-        CloseDatabaseFiles();
-        BackUp(file, PathOf(chosen));
-    });
-    OpenDatabases();
+    WorkOn(chosen, outcome, [&](const auto& path) { BackUp(file, path); });
     ShowMessage(file.backupDone);
 }
 
 void AdvancedWindow::Import_Click(const DatabaseFile& file)
 {
-    const QString notAltered = file.name + u" has not been altered"_s;
-    const QString chosen = AskFileToOpen(Question(u"Import"_s, file), this);
-    if (chosen.isEmpty())
+    const QString outcome = file.name + u" has not been altered."_s;
+    const QString chosen = AskPath(FilePurpose::Import, file, this);
+    if (chosen.isEmpty() || IsRefused(chosen, u"You can't use the current database files,"_s, outcome))
         return;
-    if (IsLivePath(chosen)) {
-        ShowMessage(u"You can't use the current database files,"_s + Crlf + notAltered + u'.');
-        return;
-    }
-    const bool replaced = ReopeningOnFailure(notAltered, [&] {
-        CloseDatabaseFiles();
-        Import import(file, PathOf(chosen));
-        if (!OpenOrEnd([&] { import.Prove(); }))
-            return false;
-        import.Complete();
-        return true;
+    bool replaced = false;
+    WorkOn(chosen, outcome, [&](const auto& path) {
+        Import import(file, path);
+        replaced = OpenOrEnd([&] { import.Prove(); });
+        if (replaced)
+            import.Complete();
     });
-    if (!replaced)
-        return;
-    OpenDatabases();
-    ShowMessage(file.importDone);
+    if (replaced)
+        ShowMessage(file.importDone);
 }

@@ -3,6 +3,7 @@
 #include "controls/small_window.h"
 
 class Button;
+class QLabel;
 struct DatabaseFile;
 
 /// The database utilities, frmadvanced: backup and import of either database file.
@@ -14,7 +15,7 @@ public:
     explicit AdvancedWindow(QWidget* parent);
 
 private:
-    QWidget* BuildGroup(int index, const QString& heading, Button* backup, Button* import);
+    QWidget* BuildGroup(QLabel* heading, Button* backup, Button* import, DatabaseFile (*file)());
     void Export_Click(const DatabaseFile& file);
     void Import_Click(const DatabaseFile& file);
 };

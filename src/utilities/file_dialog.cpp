@@ -27,17 +27,26 @@ QString PlayersFolder(const QString& liveFolder)
     return usable ? documents.filePath() : QDir::homePath();
 }
 
-QString DownloadsFolder(const QString& liveFolder)
+QString FirstFolder(FilePurpose purpose, const QString& liveFolder)
 {
     const QFileInfo downloads(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
-    return downloads.isDir() ? downloads.filePath() : PlayersFolder(liveFolder);
+    return purpose == FilePurpose::Import && downloads.isDir() ? downloads.filePath() : PlayersFolder(liveFolder);
 }
 
-QString Ask(QFileDialog& dialog, const FileQuestion& question)
+} // namespace
+
+QString AskFile(FilePurpose purpose, const QString& offeredName, const QString& liveFolder, QWidget* parent)
 {
+    ForgetDialogSettings();
+    const bool saving = purpose == FilePurpose::Backup;
+    QFileDialog dialog(parent, saving ? u"Backup"_s : u"Import"_s, FirstFolder(purpose, liveFolder));
     dialog.setObjectName(u"CommonDialog1"_s);
+    dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setNameFilter(u"Tavenor 3 Files (*.tv3)"_s);
-    dialog.selectFile(question.offeredName);
+    if (saving)
+        dialog.setDefaultSuffix(u"tv3"_s);
+    dialog.selectFile(offeredName);
     // Wide enough for sizes and dates to be read whole.
     dialog.resize(QSize(800, 500).boundedTo(dialog.screen()->availableSize() - QSize(12, 48)));
     if (const auto* details = dialog.findChild<QTreeView*>(u"treeView"_s))
@@ -45,25 +54,4 @@ QString Ask(QFileDialog& dialog, const FileQuestion& question)
             details->header()->setSectionResizeMode(column,
                                                     column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
-
-} // namespace
-
-QString AskFileToSave(const FileQuestion& question, QWidget* parent)
-{
-    ForgetDialogSettings();
-    QFileDialog dialog(parent, question.title, PlayersFolder(question.liveFolder));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(u"tv3"_s);
-    return Ask(dialog, question);
-}
-
-QString AskFileToOpen(const FileQuestion& question, QWidget* parent)
-{
-    ForgetDialogSettings();
-    QFileDialog dialog(parent, question.title, DownloadsFolder(question.liveFolder));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return Ask(dialog, question);
 }

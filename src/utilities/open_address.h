@@ -6,6 +6,6 @@
 /// scheme, which a file of unknown origin may name, would start who knows what.
 bool CanBeOpened(const QString& address);
 
-/// Opens it in the default program. It must be one that can be opened; a failure is not reported. A mail address loses
-/// its parameters, which could attach a file.
+/// Opens it in the default program. It must be one that can be opened; a failure is not reported. A mail address is
+/// opened without its parameters.
 void OpenAddress(const QString& address);
