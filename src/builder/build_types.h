@@ -29,7 +29,7 @@ struct BuildType
     QString entries;
     QString optionPrompt;
     OptionInput input;
-    std::vector<BuildOption> options;
+    std::vector<BuildOption> options = {};
     /// What the way promises, line by line.
     QStringList description;
 };

@@ -63,9 +63,7 @@ ShownControls BuilderSteps::Shown() const
     shown.buildType = lastUserIndex != -1;
     if (method) {
         const OptionInput input = TypeOf(*method).input;
-        shown.info = true;
-        shown.entries = true;
-        shown.optionPrompt = true;
+        shown.typeTexts = true;
         shown.option = input == OptionInput::Option;
         shown.count = input == OptionInput::Count;
         shown.choose = shown.option && offer != Offer::Nothing;

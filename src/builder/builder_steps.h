@@ -8,9 +8,8 @@
 struct ShownControls
 {
     bool buildType = false;
-    bool info = false;
-    bool entries = false;
-    bool optionPrompt = false;
+    /// The words on the chosen build type, and the button that explains it.
+    bool typeTexts = false;
     bool option = false;
     bool count = false;
     bool choose = false;
@@ -18,8 +17,6 @@ struct ShownControls
     bool go = false;
     bool grid = false;
     bool store = false;
-
-    bool operator==(const ShownControls&) const = default;
 };
 
 /// How far the player has come in the five steps of the entry generator. Each action of the player's takes the steps

@@ -36,7 +36,7 @@ std::vector<Line> Sorted(std::vector<Line> lines)
 }
 
 /// Every number but the key numbers, in a random order.
-std::vector<int> DrawOrderOfOthers(std::span<const int> keyNumbers, RandomSource& random)
+std::vector<int> DrawOtherNumbers(std::span<const int> keyNumbers, RandomSource& random)
 {
     std::vector<int> order;
     while (order.size() + keyNumbers.size() < HighestNumber) {
@@ -82,7 +82,7 @@ std::vector<int> DrawDifferentNumbers(int count, RandomSource& random)
     return drawn;
 }
 
-std::vector<Line> DrawRandomLines(int count, RandomSource& random)
+std::vector<Line> BuildRandomEntries(int count, RandomSource& random)
 {
     std::vector<Line> lines(static_cast<std::size_t>(count));
     for (Line& line : lines)
@@ -94,17 +94,12 @@ std::vector<Line> DrawRandomLines(int count, RandomSource& random)
             while (Holds(before, number));
             line[place] = number;
         }
-    return lines;
-}
-
-std::vector<Line> BuildRandomEntries(int count, RandomSource& random)
-{
-    return Sorted(DrawRandomLines(count, random));
+    return Sorted(std::move(lines));
 }
 
 std::vector<Line> BuildKeyNumberEntries(std::span<const int> keyNumbers, RandomSource& random)
 {
-    const std::vector<int> order = DrawOrderOfOthers(keyNumbers, random);
+    const std::vector<int> order = DrawOtherNumbers(keyNumbers, random);
     const auto places = LineLength - keyNumbers.size();
     std::vector<Line> lines((order.size() + places - 1) / places);
     std::size_t dealt = 0;

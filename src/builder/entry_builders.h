@@ -15,9 +15,6 @@ inline constexpr int HighestNumber = 49;
 /// free is equally likely. `count` is 0 to 49.
 std::vector<int> DrawDifferentNumbers(int count, RandomSource& random);
 
-/// `count` independent lines of six different numbers, each in the order in which its numbers are drawn.
-std::vector<Line> DrawRandomLines(int count, RandomSource& random);
-
 // The four builders. In every line that they return the numbers are different and ascending.
 
 /// `count` lines by pure chance; two of them may be equal.

@@ -114,23 +114,13 @@ void EntryGeneratorPage::UserChosen()
 
 void EntryGeneratorPage::TypeChosen()
 {
-    if (F26combo[1]->currentIndex() < 0)
-        return;
     steps.ChooseType(static_cast<BuildMethod>(F26combo[1]->currentIndex()));
     const BuildType& type = TypeOf(*steps.Method());
     card->Describe(type);
     ShowControls();
-    switch (type.input) {
-    case OptionInput::Count:
-        card->F26text->setFocus(Qt::TabFocusReason);
-        break;
-    case OptionInput::Option:
-        F26combo[2]->setFocus(Qt::TabFocusReason);
-        break;
-    case OptionInput::Nothing:
-        card->F26go->setFocus(Qt::TabFocusReason);
-        break;
-    }
+    // In the order of OptionInput.
+    const std::array<QWidget*, 3> next{card->F26text, F26combo[2], card->F26go};
+    next.at(static_cast<size_t>(type.input))->setFocus(Qt::TabFocusReason);
 }
 
 void EntryGeneratorPage::OptionChosen()
@@ -142,8 +132,6 @@ void EntryGeneratorPage::OptionChosen()
 
 void EntryGeneratorPage::CountGiven()
 {
-    if (!steps.Shown().count)
-        return;
     const bool possible = IsPossibleEntryCount(NumericValue(card->F26text->text()));
     steps.GiveCount(possible);
     if (!possible)
@@ -155,8 +143,6 @@ void EntryGeneratorPage::CountGiven()
 
 void EntryGeneratorPage::F26info_Click()
 {
-    if (!steps.Method())
-        return;
     const BuildType& type = TypeOf(*steps.Method());
     ShowInformation(type.name, type.description.join(Crlf));
 }

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "builder/builder_state.h"
+#include "builder/entry_builders.h"
 #include "controls/small_window.h"
 
+#include <functional>
+
 class Button;
-class NumberBoard;
+class NumberToggle;
 class QHBoxLayout;
 class QLabel;
 
@@ -18,16 +21,19 @@ public:
     NumberWindow(BuilderState& builderState, QWidget* parent);
 
 private:
-    void AddButton(QHBoxLayout* row, const QString& caption, const QString& name, void (NumberWindow::*handler)());
+    /// The numbers 1 to 49 as a board of seven by seven, which is one stop on the way of the Tab key.
+    QWidget* BuildBoard();
+    void AddButton(QHBoxLayout* row, const QString& caption, const QString& name, const std::function<void()>& handler);
+    /// Ascending.
+    std::vector<int> TickedNumbers() const;
+    void TickAll(bool ticked);
+    void Tick(int number);
     void UpdateSelectionCount();
-    void Selall_Click();
-    void clear_Click();
     void random_Click();
     void store_Click();
-    void nostore_Click();
 
     BuilderState& state;
-    NumberBoard* board;
+    std::array<NumberToggle*, HighestNumber> toggles{};
     QLabel* countLabel;
     Button* store;
 };

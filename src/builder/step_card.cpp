@@ -15,7 +15,7 @@ namespace {
 
 QComboBox* MakeList(int index, const QString& caption)
 {
-    auto* list = KeepingRoom(new QComboBox);
+    auto* list = new QComboBox;
     list->setObjectName(ElementName(u"F26combo"_s, index));
     list->setAccessibleName(caption);
     // A long name is cut off in the list; it does not widen the page.
@@ -24,37 +24,25 @@ QComboBox* MakeList(int index, const QString& caption)
     return list;
 }
 
-TextBox* MakeCountBox()
-{
-    auto* box = KeepingRoom(new TextBox);
-    box->setObjectName(u"F26text"_s);
-    box->setText(u"200"_s);
-    box->setFixedWidth(box->fontMetrics().averageCharWidth() * 16);
-    return box;
-}
-
-Button* MakeButton(const QString& caption, const QString& name)
-{
-    return KeepingRoom(new Button(caption, name));
-}
-
-QLabel* MakeStepLabel(const QString& caption, TextRole role, int index)
-{
-    return KeepingRoom(MakeLabel(caption, role, ElementName(u"Label"_s, index)));
-}
-
 } // namespace
 
 StepCard::StepCard()
     : F26combo{MakeList(0, u"Select User"_s), MakeList(1, u"Select Build Type"_s), MakeList(2, u"Select Options"_s)},
-      F26text(MakeCountBox()),
-      F26info(MakeButton(u"i"_s, u"F26info"_s)),
-      F26choose(MakeButton(u"Choose Numbers"_s, u"F26choose"_s)),
-      F26go(MakeButton(u"GO !"_s, u"F26go"_s)),
-      entriesLabel(MakeStepLabel(u"1- 200 entries"_s, TextRole::Caption, 8)),
-      promptLabel(MakeStepLabel(u"How many entries? (1 - 200)"_s, TextRole::Caption, 9)),
-      noNumbersLabel(MakeStepLabel(u"No numbers needed"_s, TextRole::Body, 12))
+      F26text(new TextBox),
+      F26info(new Button(u"i"_s, u"F26info"_s)),
+      F26choose(new Button(u"Choose Numbers"_s, u"F26choose"_s)),
+      F26go(new Button(u"GO !"_s, u"F26go"_s)),
+      entriesLabel(MakeLabel(u"1- 200 entries"_s, TextRole::Caption, u"Label_8"_s)),
+      promptLabel(MakeLabel(u"How many entries? (1 - 200)"_s, TextRole::Caption, u"Label_9"_s)),
+      noNumbersLabel(MakeLabel(u"No numbers needed"_s, TextRole::Body, u"Label_12"_s))
 {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{F26combo[0], F26combo[1], F26combo[2], F26text, F26info, F26choose, F26go,
+                                         entriesLabel, promptLabel, noNumbersLabel})
+        KeepingRoom(control);
+    F26text->setObjectName(u"F26text"_s);
+    F26text->setText(u"200"_s);
+    F26text->setFixedWidth(F26text->fontMetrics().averageCharWidth() * 16);
     F26info->setAccessibleName(u"About this build type"_s);
     F26info->setFixedWidth(F26info->sizeHint().height());
     F26go->MakeAccent();
@@ -113,9 +101,9 @@ void StepCard::Describe(const BuildType& type)
 void StepCard::Show(const ShownControls& shown)
 {
     F26combo[1]->setVisible(shown.buildType);
-    F26info->setVisible(shown.info);
-    entriesLabel->setVisible(shown.entries);
-    promptLabel->setVisible(shown.optionPrompt);
+    F26info->setVisible(shown.typeTexts);
+    entriesLabel->setVisible(shown.typeTexts);
+    promptLabel->setVisible(shown.typeTexts);
     F26combo[2]->setVisible(shown.option);
     F26text->setVisible(shown.count);
     F26choose->setVisible(shown.choose);
