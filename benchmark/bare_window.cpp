@@ -7,11 +7,6 @@
 #include <QCloseEvent>
 #include <QWidget>
 
-#ifdef BARE_CHART
-#include <QChartView>
-#include <QVBoxLayout>
-#endif
-
 #include <cstdlib>
 #include <memory>
 
@@ -29,10 +24,6 @@ public:
           users(std::make_unique<PlainFile>(UserFile, std::string()))
     {
         resize(1024, 720);
-#ifdef BARE_CHART
-        auto* layout = new QVBoxLayout(this);
-        layout->addWidget(new QChartView(this));
-#endif
     }
 
 protected:

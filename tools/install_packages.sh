@@ -3,7 +3,7 @@
 # Arguments: further packages to install beside those of the build.
 set -euo pipefail
 
-wanted=(build-essential cmake ninja-build libssl-dev qt6-base-dev qt6-charts-dev libqt6opengl6-dev fonts-dejavu-core "$@")
+wanted=(build-essential cmake ninja-build libssl-dev qt6-base-dev fonts-dejavu-core "$@")
 engine_minimum=4.6
 
 as_root() {

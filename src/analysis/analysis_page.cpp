@@ -25,16 +25,6 @@ constexpr int Rows = 3;
 constexpr int ShapeMargin = 10;
 constexpr int DescriptionLines = 4;
 
-int PageOf(const Game& game)
-{
-    return game.drawType == MainGame.drawType ? 21 : 22;
-}
-
-int BallDataPageOf(const Game& game)
-{
-    return game.drawType == MainGame.drawType ? 23 : 24;
-}
-
 QString TitleOf(const Game& game)
 {
     return game.name + u" Draw Analysis"_s;
@@ -62,7 +52,7 @@ protected:
 } // namespace
 
 AnalysisPage::AnalysisPage(const Game& drawGame, PageSwitch& pageSwitch)
-    : PageFrame(PageOf(drawGame), {}), game(drawGame), pages(pageSwitch), shape(new ScreenFrame(this))
+    : PageFrame(drawGame.IsMain() ? 21 : 22, {}), game(drawGame), pages(pageSwitch), shape(new ScreenFrame(this))
 {
     setAccessibleName(TitleOf(game));
     shape->setObjectName(ControlName(u"shape"_s));
@@ -156,14 +146,13 @@ void AnalysisPage::screen_Click()
     if (chart != 0)
         ShowChart(chart);
     else
-        pages.Page(BallDataPageOf(game))->Prepare();
+        pages.Page(game.IsMain() ? 23 : 24)->Prepare();
 }
 
 void AnalysisPage::ShowChart(int chartNumber)
 {
     GraphWindow frmgraph(window());
-    frmgraph.PrepareChart(chartNumber);
-    if (!frmgraph.ChartAborted())
+    if (frmgraph.PrepareChart(chartNumber))
         frmgraph.exec();
 }
 

@@ -3,45 +3,50 @@
 #include "base/dates.h"
 #include "base/numbers.h"
 #include "base/texts.h"
-#include "game/game.h"
-#include "records/record_set.h"
 #include "store/draw_tables.h"
+#include "store/open_databases.h"
 
 #include <cmath>
 
 using namespace Qt::StringLiterals;
 
-BallRole MainBallRole(const Game& game)
+namespace {
+
+bool HoldsBall(const RecordSet& list, SlotRange slots, int ball)
 {
-    return {SlotsOf(game, BallType::MainBalls), u"a main ball"_s};
+    for (int slot = slots.first; slot < slots.end; ++slot)
+        if (list.Number(DrawField::FirstBall + slot) == ball)
+            return true;
+    return false;
 }
 
-BallRole ExtraBallRole(const Game& game)
+QString NameOf(const Game& game, BallType role)
 {
-    return {SlotsOf(game, BallType::ExtraBall), game.IsMain() ? u"the bonus ball"_s : u"the thunderball"_s};
+    if (role == BallType::MainBalls)
+        return u"a main ball"_s;
+    return game.IsMain() ? u"the bonus ball"_s : u"the thunderball"_s;
 }
 
-BallAppearances FindBall(RecordSet& list, const BallRole& role, int ball)
+} // namespace
+
+BallSentences DescribeBall(const Game& game, BallType role, int ball)
 {
-    const auto holdsBall = [&] {
-        for (int slot = role.slots.first; slot < role.slots.end; ++slot)
-            if (list.Number(DrawField::FirstBall + slot) == ball)
-                return true;
-        return false;
-    };
-    BallAppearances found;
+    const QString name = NameOf(game, role);
+    BallSentences told{u"This ball has never been drawn as %1."_s.arg(name), {}};
+    int count = 0;
     int drawsAgo = 0;
+    RecordSet& list = DrawListOf(game);
     for (list.MoveFirst(); !list.Eof(); list.MoveNext(), ++drawsAgo) {
-        if (!holdsBall())
+        if (!HoldsBall(list, SlotsOf(game, role), ball))
             continue;
-        if (found.count == 0) {
-            found.drawsAgo = drawsAgo;
-            found.day = ShownText(list.Text(DrawField::Day));
-            found.date = StoredDateInWords(list.Text(DrawField::Date));
-        }
-        ++found.count;
+        if (++count == 1)
+            told.lastDrawn = u"This ball was last drawn as "_s + name + SpacedNumber(drawsAgo) + u" draws ago, on "_s +
+                             ShownText(list.Text(DrawField::Day)) + u' ' +
+                             StoredDateInWords(list.Text(DrawField::Date)) + u'.';
     }
-    return found;
+    if (count > 0)
+        told.count = u"This ball has been drawn"_s + SpacedNumber(count) + u" times as "_s + name + u'.';
+    return told;
 }
 
 std::optional<int> TypedBall(const Game& game, const QString& text)
@@ -50,24 +55,4 @@ std::optional<int> TypedBall(const Game& game, const QString& text)
     if (!IsWholeBetween(number, 1, game.highestMain))
         return std::nullopt;
     return static_cast<int>(number);
-}
-
-QString TwoDigits(int ball)
-{
-    return u"%1"_s.arg(ball, 2, 10, QChar(u'0'));
-}
-
-QString LastDrawnSentence(const BallRole& role, const BallAppearances& found)
-{
-    if (found.count == 0)
-        return u"This ball has never been drawn as %1."_s.arg(role.name);
-    return u"This ball was last drawn as "_s + role.name + SpacedNumber(found.drawsAgo) + u" draws ago, on "_s +
-           found.day + u' ' + found.date + u'.';
-}
-
-QString CountSentence(const BallRole& role, const BallAppearances& found)
-{
-    if (found.count == 0)
-        return {};
-    return u"This ball has been drawn"_s + SpacedNumber(found.count) + u" times as "_s + role.name + u'.';
 }

@@ -4,10 +4,8 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "game/ball_colours.h"
-#include "game/game.h"
 #include "look/button.h"
 #include "look/theme.h"
-#include "store/open_databases.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -16,20 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int PageOf(const Game& game)
-{
-    return game.IsMain() ? 23 : 24;
-}
-
 void ShowIn(const LabelledBall& disc, const Game& game, int slot, int ball)
 {
-    disc.Show(TwoDigits(ball), ColoursOfBall(game, slot, ball));
+    disc.Show(u"%1"_s.arg(ball, 2, 10, QChar(u'0')), ColoursOfBall(game, slot, ball));
 }
 
 } // namespace
 
 BallDataPage::BallDataPage(const Game& drawGame)
-    : PageFrame(PageOf(drawGame), u"Individual Ball Data"_s),
+    : PageFrame(drawGame.IsMain() ? 23 : 24, u"Individual Ball Data"_s),
       game(drawGame),
       enter(new QLineEdit),
       mainBall(PutLabelOn(new BallDisc(ControlName(u"ball"_s)), ControlName(u"number"_s)))
@@ -109,24 +102,16 @@ void BallDataPage::enter_KeyPress()
 void BallDataPage::ShowBallData(int ball)
 {
     ShowIn(mainBall, game, 0, ball);
-    ShowRole(MainBallRole(game), ball, data[0], data[1]);
     const bool canBeExtra = ball <= game.highestExtra;
     if (extraBall.disc != nullptr) {
         ShowIn(extraBall, game, game.mainBalls, ball);
         extraBall.disc->setVisible(canBeExtra);
         extraBall.number->setVisible(canBeExtra);
     }
-    if (canBeExtra) {
-        ShowRole(ExtraBallRole(game), ball, data[2], data[3]);
-    } else {
-        data[2]->clear();
-        data[3]->clear();
-    }
-}
-
-void BallDataPage::ShowRole(const BallRole& role, int ball, QLabel* lastDrawn, QLabel* count)
-{
-    const BallAppearances found = FindBall(DrawListOf(game), role, ball);
-    lastDrawn->setText(LastDrawnSentence(role, found));
-    count->setText(CountSentence(role, found));
+    const BallSentences asMain = DescribeBall(game, BallType::MainBalls, ball);
+    const BallSentences asExtra = canBeExtra ? DescribeBall(game, BallType::ExtraBall, ball) : BallSentences();
+    data[0]->setText(asMain.lastDrawn);
+    data[1]->setText(asMain.count);
+    data[2]->setText(asExtra.lastDrawn);
+    data[3]->setText(asExtra.count);
 }

@@ -29,7 +29,6 @@ private:
     void enter_KeyPress();
     /// ShowMainBallData, ShowThunderballBallData.
     void ShowBallData(int ball);
-    void ShowRole(const BallRole& role, int ball, QLabel* lastDrawn, QLabel* count);
 
     const Game& game;
     QLineEdit* enter;

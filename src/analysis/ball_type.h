@@ -1,6 +1,6 @@
 #pragma once
 
-struct Game;
+#include "game/game.h"
 
 /// Which balls of a draw are looked at. The values are the places in the list that the player chooses from.
 enum class BallType
@@ -17,4 +17,8 @@ struct SlotRange
     int end;
 };
 
-SlotRange SlotsOf(const Game& game, BallType type);
+inline SlotRange SlotsOf(const Game& game, BallType type)
+{
+    return {type == BallType::ExtraBall ? game.mainBalls : 0,
+            type == BallType::MainBalls ? game.mainBalls : game.BallCount()};
+}

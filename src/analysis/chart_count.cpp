@@ -2,7 +2,6 @@
 
 #include "base/numbers.h"
 #include "base/texts.h"
-#include "game/game.h"
 #include "store/draw_tables.h"
 #include "store/open_databases.h"
 
@@ -11,11 +10,11 @@
 
 namespace {
 
-// The functions that give a bar give its number, or 0 for what has no bar.
-
-int NumberedBar(double value, int bars)
+/// The bar for a value that counts bars from 1; null where it has none.
+ChartBar* NumberedBar(std::vector<ChartBar>& bars, double value)
 {
-    return IsWholeBetween(value, 1, bars) ? static_cast<int>(value) : 0;
+    const bool hasBar = IsWholeBetween(value, 1, static_cast<int>(bars.size()));
+    return hasBar ? &bars[static_cast<size_t>(value) - 1] : nullptr;
 }
 
 int ColourBar(double ball)
@@ -26,56 +25,49 @@ int ColourBar(double ball)
     return bar;
 }
 
-int OddOrEvenBar(double ball)
+double BarOfBall(ChartSubject subject, double ball)
 {
-    return ball / 2 == std::trunc(ball / 2) ? 2 : 1;
-}
-
-int MachineBar(const QString& machine)
-{
-    const auto* found = std::find(MachineNames.begin(), MachineNames.end(), machine);
-    return found == MachineNames.end() ? 0 : static_cast<int>(found - MachineNames.begin()) + 1;
-}
-
-int BallBar(const Chart& chart, double ball)
-{
-    if (chart.subject == ChartSubject::Colours)
+    if (subject == ChartSubject::Colours)
         return ColourBar(ball);
-    if (chart.subject == ChartSubject::OddAndEven)
-        return OddOrEvenBar(ball);
-    return NumberedBar(ball, chart.bars);
+    if (subject == ChartSubject::OddAndEven)
+        return ball / 2 == std::trunc(ball / 2) ? 2 : 1;
+    return ball;
 }
 
-// The values stand at their bars' numbers; place 0 takes what has no bar.
-
-std::vector<int> CountDraws(const Chart& chart, SlotRange slots, RecordSet& draws)
+/// What is no machine is given a number that no bar has.
+double BarOfMachine(const QString& machine)
 {
-    std::vector<int> values(static_cast<size_t>(chart.bars) + 1);
-    const auto addOne = [&values](int bar) { ++values[static_cast<size_t>(bar)]; };
+    const auto place = std::find(MachineNames.begin(), MachineNames.end(), machine) - MachineNames.begin();
+    return static_cast<double>(place) + 1;
+}
+
+void CountDraws(ChartSubject subject, SlotRange slots, RecordSet& draws, std::vector<ChartBar>& bars)
+{
+    const auto addOne = [&bars](double number) {
+        if (ChartBar* bar = NumberedBar(bars, number))
+            ++bar->value;
+    };
     for (draws.MoveFirst(); !draws.Eof(); draws.MoveNext()) {
-        if (chart.subject == ChartSubject::Machines)
-            addOne(MachineBar(FromUtf8(draws.Text(DrawField::Machine))));
-        else if (chart.subject == ChartSubject::BallSets)
-            addOne(NumberedBar(draws.Number(DrawField::BallSet), chart.bars));
+        if (subject == ChartSubject::Machines)
+            addOne(BarOfMachine(FromUtf8(draws.Text(DrawField::Machine))));
+        else if (subject == ChartSubject::BallSets)
+            addOne(draws.Number(DrawField::BallSet));
         else
             for (int slot = slots.first; slot < slots.end; ++slot)
-                addOne(BallBar(chart, draws.Number(DrawField::FirstBall + slot)));
+                addOne(BarOfBall(subject, draws.Number(DrawField::FirstBall + slot)));
     }
-    return values;
 }
 
-std::vector<int> CountDrawsSince(const Chart& chart, SlotRange slots, RecordSet& newestFirst)
+void CountDrawsSince(SlotRange slots, RecordSet& newestFirst, std::vector<ChartBar>& bars)
 {
     newestFirst.MoveFirst();
     // A ball that never came is as old as the history is long.
-    std::vector<int> values(static_cast<size_t>(chart.bars) + 1, newestFirst.Count());
+    for (ChartBar& bar : bars)
+        bar.value = newestFirst.Count();
     for (int since = 0; !newestFirst.Eof(); newestFirst.MoveNext(), ++since)
-        for (int slot = slots.first; slot < slots.end; ++slot) {
-            const int bar = NumberedBar(newestFirst.Number(DrawField::FirstBall + slot), chart.bars);
-            int& value = values[static_cast<size_t>(bar)];
-            value = std::min(value, since);
-        }
-    return values;
+        for (int slot = slots.first; slot < slots.end; ++slot)
+            if (ChartBar* bar = NumberedBar(bars, newestFirst.Number(DrawField::FirstBall + slot)))
+                bar->value = std::min(bar->value, since);
 }
 
 } // namespace
@@ -85,11 +77,10 @@ std::vector<ChartBar> CountBars(const Chart& chart, BallType type)
     const bool isSince = chart.subject == ChartSubject::DrawsSince;
     RecordSet& draws = isSince ? DrawListOf(*chart.game) : DrawsOf(*chart.game);
     const SlotRange slots = SlotsOf(*chart.game, type);
-    const std::vector<int> values = isSince ? CountDrawsSince(chart, slots, draws) : CountDraws(chart, slots, draws);
-    std::vector<ChartBar> bars;
-    if (draws.IsEmpty())
-        return bars;
-    for (int bar = 1; bar <= chart.bars; ++bar)
-        bars.push_back({chart.label(bar), chart.colour(bar), values[static_cast<size_t>(bar)]});
-    return bars;
+    std::vector<ChartBar> bars = chart.Bars();
+    if (isSince)
+        CountDrawsSince(slots, draws, bars);
+    else
+        CountDraws(chart.subject, slots, draws, bars);
+    return draws.IsEmpty() ? std::vector<ChartBar>() : bars;
 }

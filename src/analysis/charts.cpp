@@ -1,104 +1,53 @@
 #include "analysis/charts.h"
 
 #include "game/ball_colours.h"
-#include "game/game.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<BarColour, 5> BandColours{BarColour::White, BarColour::LightBlue, BarColour::LightRed,
-                                               BarColour::LightGreen, BarColour::Yellow};
-
-QString NumberLabel(int bar)
+BarColour ColourOfBall(const Chart& chart, int ball)
 {
-    return QString::number(bar);
+    constexpr std::array<BarColour, 5> bands{BarColour::White, BarColour::LightBlue, BarColour::LightRed,
+                                             BarColour::LightGreen, BarColour::Yellow};
+    if (chart.game->IsMain())
+        return bands.at(static_cast<size_t>(BallColourBand(ball)) - 1);
+    return chart.ballType == BallType::ExtraBall ? BarColour::LightRed : BarColour::LightBlue;
 }
 
-QString BandLabel(int bar)
-{
-    return u"%1 - %2"_s.arg(bar == 1 ? 1 : 10 * (bar - 1)).arg(10 * bar - 1);
-}
-
-QString OddOrEvenLabel(int bar)
-{
-    return bar == 1 ? u"Odd"_s : u"Even"_s;
-}
-
-QString MachineLabel(int bar)
-{
-    const QString& name = MachineNames.at(static_cast<size_t>(bar) - 1);
-    return name.left(1) + name.mid(1).toLower();
-}
-
-QString BallSetLabel(int bar)
-{
-    return u"Set %1"_s.arg(bar);
-}
-
-BarColour ColourOfBand(int bar)
-{
-    return BandColours.at(static_cast<size_t>(bar) - 1);
-}
-
-BarColour ColourOfBall(int bar)
-{
-    return ColourOfBand(BallColourBand(bar));
-}
-
-BarColour ColourOfOddOrEven(int bar)
-{
-    return bar == 1 ? BarColour::LightBlue : BarColour::LightRed;
-}
-
-/// The first four colours in turn.
-BarColour ColourInTurn(int bar)
-{
-    return ColourOfBand((bar - 1) % 4 + 1);
-}
-
-BarColour AllBlue(int /*bar*/)
-{
-    return BarColour::LightBlue;
-}
-
-BarColour AllRed(int /*bar*/)
-{
-    return BarColour::LightRed;
-}
-
-const std::array<QString, 3> DrawnAs{u"as a main ball, "_s, u"as a bonus ball, "_s, u""_s};
-const std::array<QString, 3> BallsHave{u"main balls have "_s, u"bonus ball has "_s, u"lottery balls have "_s};
-const std::array<QString, 3> SinceDrawnAs{u" as a main ball."_s, u" as a bonus ball."_s, u"."_s};
+const QStringList DrawnAs{u"as a main ball, "_s, u"as a bonus ball, "_s, u""_s};
+const QStringList BallsHave{u"main balls have "_s, u"bonus ball has "_s, u"lottery balls have "_s};
+const QStringList SinceDrawnAs{u" as a main ball."_s, u" as a bonus ball."_s, u"."_s};
 
 const Chart Charts[] = {
-    {1, &MainGame, ChartSubject::Balls, 49, BallType::AllBalls, true, NumberLabel, ColourOfBall,
+    {1, &MainGame, ChartSubject::Balls, BallType::AllBalls,
      u"This is a bar chart, showing how many times each lottery ball has been drawn %1in the main lottery draw."_s,
      DrawnAs},
-    {2, &MainGame, ChartSubject::Colours, 5, BallType::AllBalls, true, BandLabel, ColourOfBand,
+    {2, &MainGame, ChartSubject::Colours, BallType::AllBalls,
      u"This is a bar chart, showing how many times each different colour of lottery ball has been drawn %1in the main "
      "lottery draw."_s,
      DrawnAs},
-    {3, &MainGame, ChartSubject::OddAndEven, 2, BallType::AllBalls, true, OddOrEvenLabel, ColourOfOddOrEven,
+    {3, &MainGame, ChartSubject::OddAndEven, BallType::AllBalls,
      u"This is a bar chart, showing how many times the %1been either odd, or even, in the main lottery draw."_s,
      BallsHave},
-    {4, &MainGame, ChartSubject::DrawsSince, 49, BallType::AllBalls, true, NumberLabel, ColourOfBall,
+    {4, &MainGame, ChartSubject::DrawsSince, BallType::AllBalls,
      u"This is a bar chart, showing how many draws have taken place since each ball has been drawn%1"_s, SinceDrawnAs},
-    {5, &MainGame, ChartSubject::Machines, 4, BallType::AllBalls, false, MachineLabel, ColourInTurn,
+    {5, &MainGame, ChartSubject::Machines, BallType::AllBalls,
      u"This is a bar chart, showing how many times each lottery machine has been used for the main draw."_s},
-    {6, &MainGame, ChartSubject::BallSets, 8, BallType::AllBalls, false, BallSetLabel, ColourInTurn,
+    {6, &MainGame, ChartSubject::BallSets, BallType::AllBalls,
      u"This is a bar chart, showing how many times each set of balls has been used for the main draw."_s},
-    {21, &ThunderballGame, ChartSubject::Balls, 34, BallType::MainBalls, false, NumberLabel, AllBlue,
+    {21, &ThunderballGame, ChartSubject::Balls, BallType::MainBalls,
      u"This is a bar chart, showing how many times each main lottery ball has been drawn in the thunderball draw."_s},
-    {22, &ThunderballGame, ChartSubject::DrawsSince, 34, BallType::MainBalls, false, NumberLabel, AllBlue,
+    {22, &ThunderballGame, ChartSubject::DrawsSince, BallType::MainBalls,
      u"This is a bar chart, showing how many draws have taken place since each ball has been drawn as a main ball in "
      "the thunderball draw."_s},
-    {23, &ThunderballGame, ChartSubject::Balls, 14, BallType::ExtraBall, false, NumberLabel, AllRed,
+    {23, &ThunderballGame, ChartSubject::Balls, BallType::ExtraBall,
      u"This is a bar chart, showing how many times each lottery ball has been drawn as the thunderball, in the "
      "thunderball draw."_s},
-    {24, &ThunderballGame, ChartSubject::DrawsSince, 14, BallType::ExtraBall, false, NumberLabel, AllRed,
+    {24, &ThunderballGame, ChartSubject::DrawsSince, BallType::ExtraBall,
      u"This is a bar chart, showing how many draws have taken place since each ball has been drawn as a thunderball in "
      "the thunderball draw."_s},
 };
@@ -127,6 +76,34 @@ QColor OutlineOf(const QColor& fill)
     return fill.darker(fill.lightness() > 250 ? 200 : 145);
 }
 
+std::vector<ChartBar> Chart::Bars() const
+{
+    using enum BarColour;
+    switch (subject) {
+    case ChartSubject::Colours:
+        return {{u"1 - 9"_s, White},
+                {u"10 - 19"_s, LightBlue},
+                {u"20 - 29"_s, LightRed},
+                {u"30 - 39"_s, LightGreen},
+                {u"40 - 49"_s, Yellow}};
+    case ChartSubject::OddAndEven:
+        return {{u"Odd"_s, LightBlue}, {u"Even"_s, LightRed}};
+    case ChartSubject::Machines:
+        return {
+            {u"Arthur"_s, White}, {u"Guinevere"_s, LightBlue}, {u"Lancelot"_s, LightRed}, {u"Merlin"_s, LightGreen}};
+    case ChartSubject::BallSets:
+        return {{u"Set 1"_s, White}, {u"Set 2"_s, LightBlue}, {u"Set 3"_s, LightRed}, {u"Set 4"_s, LightGreen},
+                {u"Set 5"_s, White}, {u"Set 6"_s, LightBlue}, {u"Set 7"_s, LightRed}, {u"Set 8"_s, LightGreen}};
+    case ChartSubject::Balls:
+    case ChartSubject::DrawsSince:
+        break;
+    }
+    std::vector<ChartBar> bars;
+    for (int ball = 1; ball <= game->Highest(SlotsOf(*game, ballType).first); ++ball)
+        bars.push_back({QString::number(ball), ColourOfBall(*this, ball)});
+    return bars;
+}
+
 QString Chart::Title() const
 {
     return game->name + u" Draw"_s;
@@ -134,7 +111,7 @@ QString Chart::Title() const
 
 QString Chart::Description(BallType type) const
 {
-    return hasBallTypeOption ? description.arg(phrases.at(static_cast<size_t>(type))) : description;
+    return HasBallTypeOption() ? description.arg(phrases[static_cast<int>(type)]) : description;
 }
 
 std::span<const Chart> AllCharts()

@@ -4,9 +4,10 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
-#include <array>
 #include <span>
+#include <vector>
 
 /// The colours of the bars, by their places in the standard palette of sixteen.
 enum class BarColour
@@ -24,6 +25,13 @@ QColor FillOf(BarColour colour);
 /// The line around a bar, dark enough to set a white bar off from the card.
 QColor OutlineOf(const QColor& fill);
 
+struct ChartBar
+{
+    QString label;
+    BarColour colour;
+    int value = 0;
+};
+
 /// What the bars of a chart count.
 enum class ChartSubject
 {
@@ -35,23 +43,23 @@ enum class ChartSubject
     BallSets
 };
 
-/// One of the ten bar charts: all that differs between them stands here. Bars are numbered from 1.
+/// One of the ten bar charts.
 struct Chart
 {
     int number;
     const Game* game;
     ChartSubject subject;
-    int bars;
     /// The balls that are counted; where the player can choose, what the list starts with.
     BallType ballType;
-    bool hasBallTypeOption;
-    QString (*label)(int bar);
-    BarColour (*colour)(int bar);
     /// With a place for the phrase of the ball type, where there is one.
     QString description;
-    std::array<QString, 3> phrases = {};
+    /// By ball type; none where the player cannot choose it.
+    QStringList phrases = {};
 
+    /// All its bars, with nothing counted yet.
+    std::vector<ChartBar> Bars() const;
     QString Title() const;
+    bool HasBallTypeOption() const { return !phrases.isEmpty(); }
     QString Description(BallType type) const;
 };
 

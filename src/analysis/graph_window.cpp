@@ -1,6 +1,7 @@
 #include "analysis/graph_window.h"
 
 #include "analysis/bar_chart.h"
+#include "analysis/chart_count.h"
 #include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/label.h"
@@ -14,12 +15,6 @@
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr QSize DefaultSize(1000, 640);
-
-} // namespace
 
 GraphWindow::GraphWindow(QWidget* parent)
     : SmallWindow(u"frmgraph"_s, ApplicationTitle, parent),
@@ -37,7 +32,7 @@ GraphWindow::GraphWindow(QWidget* parent)
     balltype->setAccessibleName(typelabel->text());
     graph->setObjectName(u"graph"_s);
     BuildLayout();
-    OpenAt(DefaultSize);
+    OpenAt({1000, 640});
     connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, graph, &BarChart::Copy);
     ConnectGuarded(balltype, &QComboBox::currentIndexChanged, this, [this](int index) { balltype_Click(index); });
 }
@@ -72,11 +67,11 @@ void GraphWindow::BuildLayout()
     layout->addWidget(back, 0, Qt::AlignRight);
 }
 
-void GraphWindow::PrepareChart(int chartNumber)
+bool GraphWindow::PrepareChart(int chartNumber)
 {
     chart = &FindChart(chartNumber);
     ballType = chart->ballType;
-    const bool hasOption = chart->hasBallTypeOption;
+    const bool hasOption = chart->HasBallTypeOption();
     typelabel->setVisible(hasOption);
     balltype->setVisible(hasOption);
     {
@@ -88,20 +83,20 @@ void GraphWindow::PrepareChart(int chartNumber)
     (hasOption ? static_cast<QWidget*>(balltype) : back)->setFocus();
     title->setText(chart->Title());
     graph->setAccessibleName(u"Bar chart, %1"_s.arg(chart->Title()));
-    ComputeChart();
+    return ComputeChart();
 }
 
-void GraphWindow::ComputeChart()
+bool GraphWindow::ComputeChart()
 {
     description->setText(chart->Description(ballType));
     const std::vector<ChartBar> bars = CountBars(*chart, ballType);
-    aborted = bars.empty();
-    if (aborted) {
+    if (bars.empty()) {
         ShowMessage(u"There are no draws in the database."_s);
         reject();
-        return;
+        return false;
     }
     graph->ShowBars(bars);
+    return true;
 }
 
 void GraphWindow::balltype_Click(int index)

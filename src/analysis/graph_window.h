@@ -16,21 +16,18 @@ class GraphWindow : public SmallWindow
 public:
     explicit GraphWindow(QWidget* parent);
 
-    /// Sets the window up for the chart of that number and computes it. Without any draws a message says so, and the
-    /// window must not be shown. Throws Failure.
-    void PrepareChart(int chartNumber);
-
-    /// The chart aborted flag: whether the last preparation found no draws.
-    bool ChartAborted() const { return aborted; }
+    /// Sets the window up for the chart of that number and computes it. False where there are no draws: a message has
+    /// said so, and the window must not be shown. Throws Failure.
+    bool PrepareChart(int chartNumber);
 
 private:
     void BuildLayout();
-    void ComputeChart();
+    /// False, after a message, where there are no draws.
+    bool ComputeChart();
     void balltype_Click(int index);
 
     const Chart* chart = nullptr;
     BallType ballType = BallType::AllBalls;
-    bool aborted = false;
     QLabel* title;
     QLabel* description;
     QLabel* typelabel;

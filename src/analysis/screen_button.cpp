@@ -2,9 +2,8 @@
 
 #include "analysis/analysis_screens.h"
 #include "analysis/charts.h"
+#include "balls/ball_disc.h"
 #include "game/ball_colours.h"
-#include "game/game.h"
-#include "look/button.h"
 #include "look/theme.h"
 
 #include <QFocusEvent>
@@ -20,12 +19,6 @@ constexpr qreal Corner = 8;
 constexpr std::array<int, 17> CountHeights{71, 76, 68, 83, 64, 79, 88, 73, 95, 67, 81, 59, 86, 75, 92, 70, 78};
 constexpr std::array<int, 17> SinceHeights{22, 6, 47, 14, 31, 3, 68, 11, 19, 39, 8, 95, 26, 5, 54, 16, 12};
 
-int ExampleHeight(ChartSubject subject, int bar)
-{
-    const auto& heights = subject == ChartSubject::DrawsSince ? SinceHeights : CountHeights;
-    return heights.at(static_cast<size_t>(bar) % heights.size());
-}
-
 } // namespace
 
 ScreenButton::ScreenButton(const Game& drawGame, const AnalysisScreen& shownScreen, const QString& name)
@@ -39,16 +32,7 @@ ScreenButton::ScreenButton(const Game& drawGame, const AnalysisScreen& shownScre
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
-
-QSize ScreenButton::sizeHint() const
-{
-    return {160, 115};
-}
-
-QSize ScreenButton::minimumSizeHint() const
-{
-    return {120, 86};
+    setMinimumSize(120, 86);
 }
 
 void ScreenButton::paintEvent(QPaintEvent* /*event*/)
@@ -74,15 +58,17 @@ void ScreenButton::DrawChart(QPainter& painter, const QRectF& picture) const
         const qreal y = picture.top() + picture.height() * line / 4;
         painter.drawLine(QPointF(picture.left(), y), QPointF(picture.right(), y));
     }
-    const qreal column = picture.width() / chart.bars;
+    const std::vector<ChartBar> bars = chart.Bars();
+    const auto& heights = chart.subject == ChartSubject::DrawsSince ? SinceHeights : CountHeights;
+    const qreal column = picture.width() / static_cast<qreal>(bars.size());
     const qreal width = qMin(column * 0.8, picture.width() / 5);
-    for (int bar = 1; bar <= chart.bars; ++bar) {
-        const QColor fill = FillOf(chart.colour(bar));
-        const qreal height = picture.height() * ExampleHeight(chart.subject, bar) / 100;
+    for (size_t bar = 0; bar < bars.size(); ++bar) {
+        const QColor fill = FillOf(bars[bar].colour);
+        const qreal height = picture.height() * heights.at(bar % heights.size()) / 100;
+        const qreal middle = picture.left() + column * (static_cast<qreal>(bar) + 0.5);
         painter.setPen(QPen(OutlineOf(fill), qMin(1.0, column / 6)));
         painter.setBrush(fill);
-        painter.drawRect(
-            QRectF(picture.left() + column * (bar - 0.5) - width / 2, picture.bottom() - height, width, height));
+        painter.drawRect(QRectF(middle - width / 2, picture.bottom() - height, width, height));
     }
     painter.setPen(QPen(CurrentTheme().secondaryText, 1));
     painter.drawLine(picture.bottomLeft(), picture.bottomRight());
@@ -94,20 +80,18 @@ void ScreenButton::DrawBallData(QPainter& painter, const QRectF& picture) const
     const BallColours colours = ColoursOfBall(game, 0, exampleBall);
     const qreal side = picture.height() * 0.5;
     const QRectF disc(picture.center().x() - side / 2, picture.top(), side, side);
-    painter.setPen(QPen(OutlineOf(QColor(colours.ball)), 1));
-    painter.setBrush(QColor(colours.ball));
-    painter.drawEllipse(disc);
+    PaintBall(painter, disc, QColor(colours.ball));
     QFont digits = FontFor(TextRole::Strong);
     digits.setPixelSize(qRound(side * 0.45));
     painter.setFont(digits);
     painter.setPen(QColor(colours.number));
     painter.drawText(disc, Qt::AlignCenter, QString::number(exampleBall));
     painter.setPen(QPen(CurrentTheme().secondaryText, 2, Qt::SolidLine, Qt::RoundCap));
-    const std::array<qreal, 3> lengths{0.86, 0.6, 0.74};
-    for (size_t line = 0; line < lengths.size(); ++line) {
-        const qreal y = picture.top() + picture.height() * (0.66 + 0.15 * static_cast<qreal>(line));
-        painter.drawLine(QPointF(picture.left() + picture.width() * 0.07, y),
-                         QPointF(picture.left() + picture.width() * (0.07 + lengths.at(line)), y));
+    qreal y = picture.top() + picture.height() * 0.66;
+    for (const qreal length : {0.86, 0.6, 0.74}) {
+        const qreal left = picture.left() + picture.width() * 0.07;
+        painter.drawLine(QPointF(left, y), QPointF(left + picture.width() * length, y));
+        y += picture.height() * 0.15;
     }
 }
 

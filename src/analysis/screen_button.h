@@ -14,9 +14,6 @@ class ScreenButton : public EnterButton
 public:
     ScreenButton(const Game& drawGame, const AnalysisScreen& shownScreen, const QString& name);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
 Q_SIGNALS:
     void PointedAt();
 

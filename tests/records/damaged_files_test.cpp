@@ -150,7 +150,7 @@ void WalkGame(const Game& game)
     for (list.MoveFirst(); !list.Eof(); list.MoveNext())
         (void)(LongStoredDate(ReadDraw(list, game).date) + ShortStoredDate(ReadDraw(list, game).date));
     for (int ball = 1; ball <= game.highestMain; ++ball)
-        (void)CountSentence(MainBallRole(game), FindBall(list, MainBallRole(game), ball));
+        (void)DescribeBall(game, BallType::MainBalls, ball);
     std::vector<CheckedUser> checked;
     for (const UserRow& user : ReadAllUsers(users))
         checked.push_back({user.number, user.name});
