@@ -71,12 +71,11 @@ private Q_SLOTS:
             page.Click("F12check");
             report->moveCursor(QTextCursor::NextWord);
         }
-        QStringList bold;
+        QString bold;
         for (QTextBlock block = report->document()->begin(); block.isValid(); block = block.next())
             for (auto part = block.begin(); !part.atEnd(); ++part)
-                if (part.fragment().charFormat().fontWeight() == QFont::Bold)
-                    bold.append(part.fragment().text());
-        QCOMPARE(bold, (QStringList{"Tavenor v3.0", "User: Cid", "User: Ann"}));
+                bold += part.fragment().charFormat().fontWeight() == QFont::Bold ? part.fragment().text() : QString();
+        QCOMPARE(bold, QString("Tavenor v3.0User: CidUser: Ann"));
     }
 
     void FirstOfTwoUsersOfOneNameIsChecked()

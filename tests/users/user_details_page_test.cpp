@@ -30,16 +30,12 @@ public:
 
     QString Shown() const { return TextsOf({"F11seluser", "F11spend", "F11entrycount"}); }
 
+    /// Whether the page is in this mode, with the keys where it is typed in.
     void CompareMode(const char* mode)
     {
         QCOMPARE(TextOf("F11label2"), QString(mode));
-        for (const char* box : {"F11seluser", "F11spend"})
-            QCOMPARE(Find<QLineEdit>(box)->isReadOnly(), mode == View);
-        QVERIFY(Find<QLineEdit>("F11entrycount")->isReadOnly());
-        for (const char* ofTheCount : {"F11entrycount", "F11label4"})
-            QCOMPARE(IsShown(ofTheCount), mode != Add);
-        QCOMPARE(IsShown("F11storenu"), mode == Add);
-        QCOMPARE(IsShown("F11storech"), mode == Edit);
+        QCOMPARE(Find<QLineEdit>("F11seluser")->isReadOnly(), mode == View);
+        QCOMPARE(Find<QLineEdit>("F11spend")->isReadOnly(), mode == View);
         if (mode != View)
             QCOMPARE(FocusedName(), QString("F11seluser"));
     }
@@ -68,47 +64,34 @@ private Q_SLOTS:
         }
     }
 
-    void OpenPageCountsAndListsTheUsers()
-    {
-        const QStringList names{"Cid", "Ann", "<i>Bob</i> & Co"};
-        const QStringList captions{"There are currently no users.", "There is currently 1 user.",
-                                   "There are currently  2 users.", "There are currently  3 users."};
-        for (int count = 0; count <= names.size(); ++count) {
-            UserPage page(names.mid(0, count));
-            QCOMPARE(page.TextOf("F11label1"), captions[count]);
-            const auto* list = page.Find<QListWidget>("F11list");
-            QCOMPARE(list->count(), count);
-            for (int line = 0; line < count; ++line)
-                QCOMPARE(list->item(line)->text(), names[line]);
-            page.CompareMode(count == 0 ? Add : View);
-            QCOMPARE(page.Shown(), QString("||"));
-        }
-    }
-
     void ListClickShowsTheUser()
     {
-        UserPage page({"Ann", "Bob"}, 3);
+        UserPage page({"<i>Cid</i> & Co", "Ann", "Bob"}, 3);
+        QCOMPARE(page.TextOf("F11label1"), QString("There are currently  3 users."));
+        QCOMPARE(page.Find<QListWidget>("F11list")->item(0)->text(), QString("<i>Cid</i> & Co"));
+        QCOMPARE(page.Shown(), QString("||"));
         page.Select(0);
-        QCOMPARE(page.Shown(), QString("Ann|10|3"));
+        QCOMPARE(page.Shown(), QString("<i>Cid</i> & Co|10|3"));
         page.Press("F11list", Qt::Key_Down);
-        QCOMPARE(page.Shown(), QString("Bob|10|0"));
+        QCOMPARE(page.Shown(), QString("Ann|10|0"));
         page.Click("F11adduser");
         page.CompareMode(Add);
         page.Type("F11seluser", "half a na");
         page.Click("F11edituser");
         page.CompareMode(Edit);
-        QCOMPARE(page.Shown(), QString("Bob|10|0"));
+        QCOMPARE(page.Shown(), QString("Ann|10|0"));
         page.Type("F11seluser", "half a na");
         page.Click("F11edituser");
         QCOMPARE(page.TextOf("F11seluser"), QString("half a na"));
         page.Select(1);
         page.CompareMode(View);
-        QCOMPARE(page.TextOf("F11seluser"), QString("Bob"));
+        QCOMPARE(page.Shown(), QString("Ann|10|0"));
     }
 
     void UsersAreAddedByKeyboard()
     {
         UserPage page;
+        page.CompareMode(Add);
         page.TypeInTurn("F11seluser", {"Ann", "10 lines"});
         QCOMPARE(page.FocusedName(), QString("F11storenu"));
         page.PressFocused(Qt::Key_Return);
