@@ -18,7 +18,7 @@ public:
     /// Without a game the balls are those of an entry.
     explicit BallFields(const Names& names, const Game* drawGame = nullptr);
 
-    /// The rule by which a field is checked. It may be changed at any time.
+    /// The rule by which a field is checked, to be set before anything else; it may be changed at any time.
     void SetRule(const BallFieldRule& fieldRule) { rule = fieldRule; }
 
     QString Text(int slot) const;

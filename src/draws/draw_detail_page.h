@@ -13,7 +13,7 @@ class DrawDetailPage : public PageFrame
 public:
     explicit DrawDetailPage(const Game& drawGame);
 
-    /// Shows the draw on which the game's list stands in front of the other pages.
+    /// Shows, in front of the other pages, the draw on which the game's list stands.
     void Prepare() override;
 
 private:

@@ -25,8 +25,8 @@ public:
     DrawFields(const Game& drawGame, const BallFieldRule& rule, const Names& names);
 
     BallFields* Balls() const { return balls; }
-    /// Shows a stored draw, or empty fields.
     void Show(const DrawRow& draw);
+    /// Empties all fields; the lists keep their items.
     void Clear();
     /// What is typed, without a date. The balls may be no draw of the game.
     EnteredDraw Read() const;

@@ -81,10 +81,11 @@ void DrawGridSection::Fill()
 void DrawGridSection::OpenSelectedDraw(int page)
 {
     const GridView::RowSpan rows = grid->SelectedRows();
-    if (rows.Count() > 1) {
+    if (rows.Count() > 1)
         ShowMessage(u"Select only ONE draw."_s);
+    // A tool for assistance can take a selection away.
+    if (rows.Count() != 1)
         return;
-    }
     MoveToDraw(DrawListOf(game), shown[rows.first].Mark(), "The draw could not be shown");
     pages.Page(page)->Prepare();
 }
@@ -92,6 +93,8 @@ void DrawGridSection::OpenSelectedDraw(int page)
 void DrawGridSection::Delete_Click()
 {
     const GridView::RowSpan rows = grid->SelectedRows();
+    if (rows.Count() == 0)
+        return;
     const QString question = rows.Count() == 1 ? u"delete this %1 draw?"_s : u"delete these %1 draws?"_s;
     if (!AskYesNo(u"Are you sure you want to"_s + Crlf + question.arg(game.InSentence()))) {
         ShowMessage(u"Data delete has been aborted."_s);

@@ -18,7 +18,7 @@ class EditDrawPage : public PageFrame
 public:
     EditDrawPage(const Game& drawGame, PageSwitch& pageSwitch);
 
-    /// Shows the draw on which the game's list stands in front of the other pages, to be changed.
+    /// Shows, in front of the other pages, the draw on which the game's list stands, to be changed.
     void Prepare() override;
 
 private:

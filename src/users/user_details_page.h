@@ -33,7 +33,7 @@ private:
     Card* MakeUserCard();
     void ConnectHandlers();
     void F11list_Click();
-    /// Fills the list anew, for its selected line names a user who is gone. Throws the Failure that tells it.
+    /// Fills the list anew where its selected line names a user who is gone. Throws the Failure that says so.
     void DropVanishedUser();
     void F11edituser_Click();
     void F11spend_KeyPress();

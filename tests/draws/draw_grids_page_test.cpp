@@ -133,6 +133,10 @@ private Q_SLOTS:
         grid.Press(Qt::Key_End, Qt::ShiftModifier);
         QCOMPARE(grid.Selected(), QString("0-4"));
         QCOMPARE(grid.Rows(), 5);
+        // A tool for assistance takes the selection away.
+        grid.view->clearSelection();
+        for (const char* button : {"F10thunderviewbutton", "F10thunderdeletebutton"})
+            QCOMPARE(window.Click(button, {}), QStringList());
     }
 
     void DetailPageShowsTheSelectedDraw()
