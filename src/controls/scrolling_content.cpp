@@ -3,6 +3,8 @@
 #include "look/theme.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QLayout>
 
 ScrollingContent::ScrollingContent(QWidget* content)
 {
@@ -33,6 +35,18 @@ void ScrollingContent::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
     BringIntoView(window()->focusWidget());
+}
+
+bool ScrollingContent::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool taken = QScrollArea::eventFilter(watched, event);
+    QLayout* layout = watched == widget() ? widget()->layout() : nullptr;
+    if (layout != nullptr && event->type() == QEvent::LayoutRequest) {
+        // A text that needs more lines than before pushes down what stands below it.
+        layout->activate();
+        BringIntoView(window()->focusWidget());
+    }
+    return taken;
 }
 
 QSize ScrollingContent::sizeHint() const
