@@ -61,7 +61,7 @@ void LinkLabel::ShowText(const QString& text, bool asLink, const QString& captio
 
 QSize LinkLabel::minimumSizeHint() const
 {
-    return {NarrowestWidth, sizeHint().height()};
+    return {qMin(NarrowestWidth, sizeHint().width()), sizeHint().height()};
 }
 
 void LinkLabel::changeEvent(QEvent* event)

@@ -125,6 +125,10 @@ private Q_SLOTS:
             QCOMPARE(label->focusPolicy(), row.isLink ? Qt::StrongFocus : Qt::NoFocus);
             QTest::mouseClick(label, Qt::LeftButton, {}, QPoint(8, label->height() / 2));
             QCOMPARE(opener.opened, row.opened);
+            // Right of the address there is no link.
+            QTest::mouseClick(label->parentWidget(), Qt::LeftButton, {},
+                              label->geometry().center() + QPoint(label->sizeHint().width() / 2 + 9, 0));
+            QVERIFY(label->width() <= label->sizeHint().width() && opener.opened == row.opened);
             label->setFocus();
             window.PressFocused(Qt::Key_Return);
             QCOMPARE(opener.opened, row.opened + row.opened);
