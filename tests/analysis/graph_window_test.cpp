@@ -36,6 +36,7 @@ public:
         Find<QComboBox>("balltype")->setCurrentText(type);
         QApplication::processEvents();
     }
+    QImage Picture() { return window.grab({Graph()->mapTo(&window, QPoint()), Graph()->size()}).toImage(); }
     ChartLayout Layout() const { return LayOutChart(CountBars(chart, chart.ballType), Graph()->size()); }
     /// A place near the foot of a bar, in the coordinates of the chart.
     QPoint FootOf(int bar) const
@@ -48,6 +49,16 @@ public:
     GraphWindow window;
     const Chart& chart;
 };
+
+/// How far the lightness of any point of the place is from that of the card.
+int StrongestIn(const QImage& picture, const QRect& place)
+{
+    int strongest = 0;
+    for (int x = place.left(); x <= place.right(); ++x)
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            strongest = qMax(strongest, qAbs(picture.pixelColor(x, y).lightness() - CurrentTheme().card.lightness()));
+    return strongest;
+}
 
 } // namespace
 
@@ -115,6 +126,29 @@ private Q_SLOTS:
             }
     }
 
+    void FiguresStandOnNoLineAndStayLegible()
+    {
+        ShownChart shown(1);
+        const QImage picture = shown.Picture();
+        const ChartLayout layout = shown.Layout();
+        int crossed = 0;
+        for (const ChartText& figure : layout.figures)
+            for (const qreal line : layout.lines)
+                if (const QPoint beside(qCeil(figure.Place().left()), qFloor(line));
+                    figure.Place().adjusted(0, 2, 0, -2).contains(beside)) {
+                    QVERIFY(picture.pixelColor(beside) != CurrentTheme().cardLine);
+                    ++crossed;
+                }
+        QVERIFY(crossed > 0);
+        // Where they are long they are turned, and their last digit stands at the top.
+        QRect top = layout.figures.front().Place().toRect();
+        top.setHeight(top.height() / 3);
+        QVERIFY(layout.figures.front().turned && StrongestIn(picture, top) > 80);
+        const std::vector<ChartBar> old(49, {"1", {}, 2263});
+        for (const ChartText& figure : LayOutChart(old, {900, 400}).figures)
+            QVERIFY(figure.turned && figure.font.pointSizeF() > 6 && figure.Place().width() < figure.Place().height());
+    }
+
     /// Bars stand on the axis and end at their values, to half a pixel.
     void BarsAreAsHighAsTheirValues()
     {
@@ -136,33 +170,21 @@ private Q_SLOTS:
             // The theme changes while the window is open.
             SetAppearance(appearance);
             QApplication::processEvents();
-            const QImage picture =
-                shown.window.grab({shown.Graph()->mapTo(&shown.window, QPoint()), shown.Graph()->size()}).toImage();
+            const QImage picture = shown.Picture();
             QStringList colours;
             for (int bar = 0; bar < 5; ++bar)
                 colours.append(picture.pixelColor(shown.FootOf(bar)).name().toUpper());
             QCOMPARE(colours, (QStringList{"#FFFFFF", "#8CC8F5", "#F28B82", "#8EDB9A", "#F5E27A"}));
             const QColor card = CurrentTheme().card;
             QCOMPARE(picture.pixelColor(2, picture.height() / 2), card);
-            const auto strongest = [&](const QRect& place) {
-                int most = 0;
-                for (int x = place.left(); x <= place.right(); ++x)
-                    for (int y = place.top(); y <= place.bottom(); ++y)
-                        most = qMax(most, qAbs(picture.pixelColor(x, y).lightness() - card.lightness()));
-                return most;
-            };
             const ChartLayout layout = shown.Layout();
             for (const auto& part : {layout.labels, layout.figures, layout.axisNumbers})
                 for (const ChartText& text : part)
-                    QVERIFY2(strongest(text.Place().toRect()) > 110, qPrintable(text.text));
-            // No line of the grid passes through a figure, and the white bar has an edge.
-            for (const ChartText& figure : layout.figures)
-                for (const qreal line : layout.lines)
-                    if (const QPoint beside(qRound(figure.Place().left()), qFloor(line));
-                        figure.Place().adjusted(0, 2, 0, -2).contains(beside))
-                        QCOMPARE(picture.pixelColor(beside), card);
+                    QVERIFY2(StrongestIn(picture, text.Place().toRect()) > 110, qPrintable(text.text));
+            // The white bar has an edge.
             const QPoint edge(qFloor(layout.bars[0].left()), shown.FootOf(0).y());
-            QVERIFY(strongest({edge - QPoint(1, 0), QSize(3, 1)}) > (appearance == Appearance::Light ? 75 : 50));
+            QVERIFY(StrongestIn(picture, {edge - QPoint(1, 0), QSize(3, 1)}) >
+                    (appearance == Appearance::Light ? 75 : 50));
         }
     }
 
