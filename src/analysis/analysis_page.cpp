@@ -177,7 +177,7 @@ bool AnalysisPage::eventFilter(QObject* watched, QEvent* event)
 {
     if ((watched == title || watched == label) && event->type() == QEvent::MouseButtonRelease) {
         const auto* release = static_cast<QMouseEvent*>(event);
-        // Whoever thinks better of it lets the button go elsewhere.
+        // A button that is let go elsewhere is no click.
         if (release->button() == Qt::LeftButton &&
             static_cast<QLabel*>(watched)->rect().contains(release->position().toPoint()))
             Guard([this] { screen_Click(); });

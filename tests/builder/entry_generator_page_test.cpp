@@ -123,7 +123,7 @@ class EntryGeneratorPageTest : public QObject
 private Q_SLOTS:
     void EachStepShowsItsControls()
     {
-        // A step and, behind the colon, what is seen after it; "typed" is what every build type shows.
+        // A step and, after the colon, what is seen then; "typed" is what every build type shows.
         for (const QString steps :
              {"open:;user 0:type;type 0:typed count;count 0:typed count;leave 5:typed count none go;"
               "go:typed count none go grid store;count 6:typed count none go grid store;"
