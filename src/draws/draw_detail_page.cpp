@@ -24,10 +24,10 @@ DrawDetailPage::DrawDetailPage(const Game& drawGame)
     card->Content()->addWidget(draw);
     Body()->addWidget(card);
     MakeForm();
-    Button* back = AddFooterButton(u"BACK"_s, ControlName(u"back"_s));
-    SetBackButton(back);
+    Button* backButton = AddFooterButton(u"BACK"_s, ControlName(u"back"_s));
+    SetBackButton(backButton);
     // F14back_Click, F15back_Click.
-    ConnectGuarded(back, &QPushButton::clicked, this, [this] { hide(); });
+    ConnectGuarded(backButton, &QPushButton::clicked, this, [this] { hide(); });
 }
 
 void DrawDetailPage::Prepare()
