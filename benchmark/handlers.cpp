@@ -40,12 +40,14 @@ void TakeAll(std::vector<TimedStep>& timed, const std::filesystem::path& data, c
         Player player(window);
         const int entriesBefore = entries.Count();
         size_t place = 0;
+        QString group;
         for (const auto& [when, steps] :
              {std::pair("first", Openings()), std::pair("again", Openings()), std::pair("then", Handlers())}) {
             for (const Step& step : steps) {
+                if (step.control.startsWith(u"Button"_s))
+                    group = step.control;
                 if (place == timed.size())
-                    timed.push_back(
-                        {QLatin1String(when) + u": "_s + step.what + u" ("_s + step.control + u')', {}, {}});
+                    timed.push_back({u"%1: %2 > %3"_s.arg(QLatin1String(when), group, step.control), {}, {}});
                 const Wait wait = player.Take(step);
                 timed[place].waits.push_back(wait.whole);
                 timed[place++].processor.push_back(wait.processor);

@@ -40,6 +40,5 @@ private:
 /// The key of a file, derived from the password; each call for the same file after the first one gives the kept key.
 std::string KeyOf(const std::filesystem::path& file, const std::string& password);
 
-/// Copies the file beside itself, exports the copy into a compact one, counts the rows of both, and copies the compact
-/// one over the file.
+/// Copies the file beside itself, exports the copy into a compact one, and copies the compact one over the file.
 void CompactPlainly(const std::filesystem::path& file, const std::string& key);

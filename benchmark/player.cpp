@@ -1,5 +1,7 @@
 #include "player.h"
 
+#include "stops.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
@@ -11,6 +13,7 @@
 #include <chrono>
 #include <ctime>
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -25,25 +28,14 @@ Wait Now()
             static_cast<double>(processor.tv_sec) * 1e3 + static_cast<double>(processor.tv_nsec) / 1e6};
 }
 
-void OpenFromMenu(std::vector<Step>& steps, int group, const QStringList& pages)
+void OpenPage(std::vector<Step>& steps, int group, int suboption)
 {
-    steps.push_back({u"open the group %1"_s.arg(group), u"Button%1"_s.arg(group)});
-    for (int number = 1; number <= pages.size(); ++number)
-        steps.push_back({u"open "_s + pages[number - 1], u"Suboption%1"_s.arg(number)});
-}
-
-void OpenByButtons(std::vector<Step>& steps, const QStringList& buttons)
-{
-    for (const QString& button : buttons)
-        steps.push_back({u"press "_s + button, button});
-}
-
-void FillBalls(std::vector<Step>& steps, const QString& field, const QList<int>& indices)
-{
-    int number = 11;
-    for (const int index : indices)
-        steps.push_back({u"type into "_s + field, field + u'_' + QString::number(index), QString::number(--number),
-                         Qt::Key_Return});
+    if (group == 0)
+        steps.push_back({u"Logo"_s});
+    else
+        steps.push_back({u"Button%1"_s.arg(group)});
+    if (suboption > 0)
+        steps.push_back({u"Suboption%1"_s.arg(suboption)});
 }
 
 /// The button by which a modal window of the program's own is left.
@@ -62,96 +54,82 @@ const char* LeavingButton(const QDialog& dialog)
 std::vector<Step> Openings()
 {
     std::vector<Step> steps;
-    OpenFromMenu(steps, 1, {"Add Main Draw", "Add Thunderball Draw"});
-    OpenFromMenu(steps, 2, {"View Latest Draw", "View Any Single Draw", "View or Edit All Draws"});
-    OpenByButtons(steps, {"F10mainviewbutton", "F14back", "F10thunderviewbutton", "F15back", "F10maineditbutton",
-                          "F16back", "F10thundereditbutton", "F17back"});
-    OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries", "Check Your Entries"});
-    steps.push_back({"open View or Edit Entries again", "Suboption3"});
-    OpenByButtons(steps, {"F13view", "F19back", "F13edit", "F20back"});
-    OpenFromMenu(steps, 4, {"Entry Generator"});
-    for (const auto& [suboption, page, charts] : {std::tuple(1, 21, 6), std::tuple(2, 22, 4)}) {
-        steps.push_back({"open the group 5", "Button5"});
-        steps.push_back({"open Draw Analysis", u"Suboption%1"_s.arg(suboption)});
-        for (int screen = 1; screen <= charts; ++screen)
-            steps.push_back({u"open a chart"_s, u"F%1screen_%2"_s.arg(page).arg(screen)});
-        steps.push_back({"open the ball data", u"F%1screen_%2"_s.arg(page).arg(charts + 1)});
-        steps.push_back({"leave the ball data", u"F%1back"_s.arg(page + 2)});
+    for (const Stop& stop : Stops()) {
+        OpenPage(steps, stop.group, stop.suboption);
+        for (const char* button : {stop.press, stop.thenPress})
+            if (button != nullptr)
+                steps.push_back({QLatin1String(button)});
+        const bool isAnalysis = stop.group == 5 && stop.suboption > 0 && stop.press == nullptr;
+        const auto [page, charts] = stop.suboption == 1 ? std::pair(21, 6) : std::pair(22, 4);
+        for (int chart = 1; isAnalysis && chart <= charts; ++chart)
+            steps.push_back({u"F%1screen_%2"_s.arg(page).arg(chart)});
     }
-    OpenByButtons(steps, {"Logo", "about", "F0links", "F25back", "advanced"});
+    OpenPage(steps, 0, 0);
+    steps.insert(steps.end(), {{u"about"_s}, {u"advanced"_s}});
     return steps;
 }
 
 std::vector<Step> Handlers()
 {
     std::vector<Step> steps;
-    const auto add = [&steps](const char* control, const QString& text = {}, Qt::Key key = {}) {
-        const QString name = QLatin1String(control);
-        steps.push_back({u"use "_s + name, name, text, key});
+    const auto on = [&steps](int group, int suboption, std::initializer_list<Step> used) {
+        OpenPage(steps, group, suboption);
+        steps.insert(steps.end(), used);
     };
-    OpenFromMenu(steps, 1, {"Add Main Draw"});
-    FillBalls(steps, "F6MBall1", {1, 2, 3, 4, 5, 6, 0});
-    add("F6Store");
-    OpenFromMenu(steps, 1, {"Add Main Draw", "Add Thunderball Draw"});
-    FillBalls(steps, "F7TBall1", {1, 2, 3, 4, 5, 0});
-    add("F7Store");
-    OpenFromMenu(steps, 2, {"View Latest Draw", "View Any Single Draw"});
-    add("F9Cal", {}, Qt::Key_Left);
-    OpenFromMenu(steps, 2, {"View Latest Draw", "View Any Single Draw", "View or Edit All Draws"});
-    add("F10Grid1", {}, Qt::Key_Down);
-    add("F10Grid1", {}, Qt::Key_End);
-    add("F10maineditbutton");
-    FillBalls(steps, "F16number", {1});
-    add("F16save");
+    const auto fill = [&steps](const QString& field, std::initializer_list<int> indices) {
+        int number = 11;
+        for (const int index : indices)
+            steps.push_back({u"%1_%2"_s.arg(field).arg(index), QString::number(++number), Qt::Key_Return});
+    };
+    on(1, 1, {});
+    fill(u"F6MBall1"_s, {1, 2, 3, 4, 5, 6, 0});
+    steps.push_back({u"F6Store"_s});
+    on(1, 2, {});
+    fill(u"F7TBall1"_s, {1, 2, 3, 4, 5, 0});
+    steps.push_back({u"F7Store"_s});
+    on(2, 2, {{u"F9Cal"_s, {}, Qt::Key_Left}});
+    on(2, 3, {{u"F10Grid1"_s, {}, Qt::Key_Down}, {u"F10Grid1"_s, {}, Qt::Key_End}, {u"F10maineditbutton"_s}});
+    fill(u"F16number"_s, {1});
     // Whether the page stays depends on the draw: the ball may be among its others.
-    OpenFromMenu(steps, 2, {"View Latest Draw", "View Any Single Draw", "View or Edit All Draws"});
-    add("F10maindeletebutton");
-    add("F10thunderdeletebutton");
-    OpenFromMenu(steps, 3, {"User Details"});
-    add("F11list", {}, Qt::Key_Down);
-    add("F11edituser");
-    add("F11spend", "9");
-    add("F11storech");
-    add("F11adduser");
-    add("F11seluser", "A new player");
-    add("F11spend", "100");
-    add("F11storenu");
-    add("F11list", {}, Qt::Key_End);
-    add("F11deleteuser");
-    OpenFromMenu(steps, 3, {"User Details", "Add New Entries"});
-    add("F18user", {}, Qt::Key_Down);
-    add("F18type", {}, Qt::Key_Down);
-    add("F18type", {}, Qt::Key_Up);
-    FillBalls(steps, "F18ent", {1, 2, 3, 4, 5, 6});
-    add("F18selallday");
-    add("F18store");
-    OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries"});
-    add("F13user", {}, Qt::Key_Down);
-    add("F13typethunder");
-    add("F13typemain");
-    add("F13grid", {}, Qt::Key_Down);
-    add("F13edit");
-    FillBalls(steps, "F20num", {1});
-    add("F20store");
-    OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries"});
-    add("F13grid", {}, Qt::Key_Down);
-    add("F13delete");
-    OpenFromMenu(steps, 3, {"User Details", "Add New Entries", "View or Edit Entries", "Check Your Entries"});
-    add("F12dateselect");
-    add("F12datelatest");
-    add("F12user", {}, Qt::Key_Down);
-    add("F12check");
-    add("F12clear");
-    OpenFromMenu(steps, 4, {"Entry Generator"});
-    add("F26combo_0", {}, Qt::Key_Down);
-    add("F26combo_1", {}, Qt::Key_Down);
-    add("F26text", "200", Qt::Key_Return);
-    add("F26go");
-    add("F26store");
-    OpenFromMenu(steps, 5, {"Main Draw Analysis"});
-    add("F21screen_7");
-    add("F23enter", "49", Qt::Key_Return);
-    OpenByButtons(steps, {"Logo", "F0links", "F25next", "F25prev"});
+    steps.push_back({u"F16save"_s});
+    on(2, 3, {{u"F10maindeletebutton"_s}, {u"F10thunderdeletebutton"_s}});
+    on(3, 1,
+       {{u"F11list"_s, {}, Qt::Key_Down},
+        {u"F11edituser"_s},
+        {u"F11spend"_s, u"9"_s},
+        {u"F11storech"_s},
+        {u"F11adduser"_s},
+        {u"F11seluser"_s, u"A new player"_s},
+        {u"F11spend"_s, u"100"_s},
+        {u"F11storenu"_s},
+        {u"F11list"_s, {}, Qt::Key_End},
+        {u"F11deleteuser"_s}});
+    on(3, 2, {{u"F18user"_s, {}, Qt::Key_Down}, {u"F18type"_s, {}, Qt::Key_Down}, {u"F18type"_s, {}, Qt::Key_Up}});
+    fill(u"F18ent"_s, {1, 2, 3, 4, 5, 6});
+    steps.insert(steps.end(), {{u"F18selallday"_s}, {u"F18store"_s}});
+    on(3, 3,
+       {{u"F13user"_s, {}, Qt::Key_Down},
+        {u"F13typethunder"_s},
+        {u"F13typemain"_s},
+        {u"F13grid"_s, {}, Qt::Key_Down},
+        {u"F13edit"_s}});
+    fill(u"F20num"_s, {1});
+    steps.push_back({u"F20store"_s});
+    on(3, 3, {{u"F13grid"_s, {}, Qt::Key_Down}, {u"F13delete"_s}});
+    on(3, 4,
+       {{u"F12dateselect"_s},
+        {u"F12datelatest"_s},
+        {u"F12user"_s, {}, Qt::Key_Down},
+        {u"F12check"_s},
+        {u"F12clear"_s}});
+    on(4, 1,
+       {{u"F26combo_0"_s, {}, Qt::Key_Down},
+        {u"F26combo_1"_s, {}, Qt::Key_Down},
+        {u"F26text"_s, u"200"_s, Qt::Key_Return},
+        {u"F26go"_s},
+        {u"F26store"_s}});
+    on(5, 1, {{u"F21screen_7"_s}, {u"F23enter"_s, u"49"_s, Qt::Key_Return}});
+    on(0, 0, {{u"F0links"_s}, {u"F25next"_s}, {u"F25prev"_s}});
     return steps;
 }
 

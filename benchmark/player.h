@@ -12,7 +12,6 @@ class QWidget;
 /// Something that a player does: presses a button, or types a text and then a key into another control.
 struct Step
 {
-    QString what;
     QString control;
     QString text = {};
     Qt::Key key = {};

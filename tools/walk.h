@@ -1,26 +1,13 @@
 #pragma once
 
+#include "stops.h"
+
 #include <QWidget>
 
 #include <functional>
-#include <span>
 
 class MainWindow;
 class QDialog;
-
-/// A page of the menu (group 0 is the start page), and the buttons that are pressed on it. Those pages have no name
-/// that the main job shows filled.
-struct Stop
-{
-    const char* name;
-    int group;
-    int suboption;
-    const char* press = nullptr;
-    const char* thenPress = nullptr;
-};
-
-/// Every page of the program; for some there must be a user who has entries of both games.
-std::span<const Stop> Stops();
 
 /// Goes to a page as a player does; where users are listed, the first one is chosen.
 void GoTo(MainWindow& window, const Stop& stop);
