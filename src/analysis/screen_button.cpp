@@ -97,13 +97,13 @@ void ScreenButton::DrawBallData(QPainter& painter, const QRectF& picture) const
 
 void ScreenButton::mouseMoveEvent(QMouseEvent* event)
 {
-    EnterButton::mouseMoveEvent(event);
+    QAbstractButton::mouseMoveEvent(event);
     Q_EMIT PointedAt();
 }
 
 void ScreenButton::focusInEvent(QFocusEvent* event)
 {
-    EnterButton::focusInEvent(event);
+    QAbstractButton::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         Q_EMIT PointedAt();
 }

@@ -7,7 +7,7 @@ struct Game;
 
 /// A screen of an analysis menu: a small picture, drawn from fixed examples, of the chart or page that it opens. It
 /// tells when the pointer or the Tab key comes over it.
-class ScreenButton : public EnterButton
+class ScreenButton : public QAbstractButton
 {
     Q_OBJECT
 

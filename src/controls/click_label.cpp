@@ -8,7 +8,7 @@
 #include <QStyleOptionFocusRect>
 #include <QtMath>
 
-ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : EnterButton(parent)
+ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : QAbstractButton(parent)
 {
     setText(caption);
     setAccessibleName(caption);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "look/button.h"
+#include <QAbstractButton>
 
 /// A label that acts when it is clicked, or by Enter or Space when it has the focus. Its text colour is the WindowText
 /// role of its palette.
-class ClickLabel : public EnterButton
+class ClickLabel : public QAbstractButton
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "controls/grid_view.h"
 
+#include "look/button.h"
 #include "look/input_watch.h"
 #include "look/theme.h"
 
@@ -26,17 +27,13 @@ public:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        // A cell that has a colour of its own keeps it in a selected row.
         if (index.data(Qt::BackgroundRole).isValid())
             option->state &= ~QStyle::State_Selected;
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        QStyleOptionViewItem cell(option);
-        if (index.data(Qt::BackgroundRole).isValid())
-            cell.state.setFlag(QStyle::State_Selected, false);
-        QStyledItemDelegate::paint(painter, cell, index);
+        QStyledItemDelegate::paint(painter, option, index);
         painter->setPen(option.palette.color(QPalette::Mid));
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     }
@@ -128,30 +125,14 @@ double GridView::TextWidth(int column) const
 {
     // The widest texts of a column are known from its first rows and, where it counts the rows, from its last.
     constexpr int looked = 4;
-    if (const QFont strong = FontFor(TextRole::Strong); strong != measuredFont) {
-        measuredWidths.clear();
-        measuredFont = strong;
-    }
+    const QFontMetricsF metrics(FontFor(TextRole::Strong));
     const int rows = model()->rowCount();
     const QString heading = model()->headerData(column, Qt::Horizontal).toString();
     double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
     for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
-        widest = std::max(widest, MeasuredWidth(model()->index(row, column).data().toString()));
+        widest = std::max(widest, metrics.horizontalAdvance(model()->index(row, column).data().toString()));
     // A file may hold a text of any length; what does not fit its column is cut there.
-    const double broadest = 20 * QFontMetricsF(measuredFont).averageCharWidth();
-    return std::min(widest, broadest);
-}
-
-double GridView::MeasuredWidth(const QString& text) const
-{
-    // The same few texts come again and again, and measuring one takes longer than all else that is done for its row.
-    constexpr int most = 1000;
-    if (measuredWidths.size() > most)
-        measuredWidths.clear();
-    const auto known = measuredWidths.constFind(text);
-    if (known != measuredWidths.constEnd())
-        return *known;
-    return *measuredWidths.insert(text, QFontMetricsF(measuredFont).horizontalAdvance(text));
+    return std::min(widest, 20 * metrics.averageCharWidth());
 }
 
 void GridView::TakeFont(double factor)
@@ -222,24 +203,12 @@ void GridView::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy))
         CopySelectedRows();
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    else if (IsEnter(*event))
         Q_EMIT Opened();
     else if (event->key() == Qt::Key_Delete)
         Q_EMIT DeletePressed();
     else
         QTableView::keyPressEvent(event);
-}
-
-void GridView::focusInEvent(QFocusEvent* event)
-{
-    QTableView::focusInEvent(event);
-    viewport()->update();
-}
-
-void GridView::focusOutEvent(QFocusEvent* event)
-{
-    QTableView::focusOutEvent(event);
-    viewport()->update();
 }
 
 void GridView::hideEvent(QHideEvent* event)

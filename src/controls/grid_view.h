@@ -1,15 +1,13 @@
 #pragma once
 
-#include <QFont>
-#include <QHash>
 #include <QTableView>
 
 #include <vector>
 
 /// A grid of whole rows, of which one span can be selected: by Shift-click, by dragging either way, by Shift with the
-/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size, and where that
-/// is too narrow for their texts, the texts become smaller. Ctrl+C copies the selected
-/// rows, without hidden columns, as tab-separated text.
+/// arrow keys. It has no horizontal scroll bar; its columns share its width at every size, and where that is too narrow
+/// for their texts, the texts become smaller. Ctrl+C copies the selected rows, without hidden columns, as tab-separated
+/// text.
 class GridView : public QTableView
 {
     Q_OBJECT
@@ -45,8 +43,6 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
@@ -57,12 +53,9 @@ private:
     void LayOutColumns();
     /// The width of the widest text of a column.
     double TextWidth(int column) const;
-    double MeasuredWidth(const QString& text) const;
     void TakeFont(double factor);
     int FirstShownColumn() const;
     void CopySelectedRows() const;
 
     std::vector<double> shares;
-    mutable QHash<QString, double> measuredWidths;
-    mutable QFont measuredFont;
 };

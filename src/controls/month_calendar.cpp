@@ -21,7 +21,7 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     setSelectedDate(QDate::currentDate());
     // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
     setMinimumHeight(8 * qMax(25, fontMetrics().height() + Spacing::Inside));
-    setAccessibleName(tr("Draw date"));
+    setAccessibleName(u"Draw date"_s);
     for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
         auto* button = findChild<QToolButton*>(QLatin1String(name));
         const bool previous = button->objectName() == "qt_calendar_prevmonth"_L1;
@@ -29,15 +29,11 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
         button->setText(previous ? u"‹"_s : u"›"_s);
         button->setToolButtonStyle(Qt::ToolButtonTextOnly);
         button->setFont(FontFor(TextRole::Heading));
-        button->setAccessibleName(previous ? tr("Previous month") : tr("Next month"));
+        button->setAccessibleName(previous ? u"Previous month"_s : u"Next month"_s);
     }
     for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
         findChild<QToolButton*>(QLatin1String(name))->setFont(FontFor(TextRole::Strong));
-    if (auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1)) {
-        days->setProperty(BareProperty, true);
-        days->setFrameShape(QFrame::StyledPanel);
-        days->setAccessibleName(accessibleName());
-    }
+    findChild<QTableView*>("qt_calendar_calendarview"_L1)->setAccessibleName(accessibleName());
     TakeColours();
     connect(this, &QCalendarWidget::clicked, this, &MonthCalendar::DateChosen);
     connect(this, &QCalendarWidget::activated, this, &MonthCalendar::DateChosen);
@@ -87,23 +83,17 @@ void MonthCalendar::TakeColours()
         setHeaderTextFormat(header);
     for (const auto day : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(day, QTextCharFormat());
-    if (auto* bar = findChild<QWidget*>("qt_calendar_navigationbar"_L1)) {
-        QPalette quiet = colours;
-        quiet.setColor(QPalette::Highlight, colours.color(QPalette::AlternateBase));
-        quiet.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
-        quiet.setColor(QPalette::Button, colours.color(QPalette::AlternateBase));
-        bar->setBackgroundRole(QPalette::AlternateBase);
-        bar->setPalette(quiet);
-        for (auto* button : bar->findChildren<QToolButton*>()) {
-            button->setPalette(quiet);
-            button->setAutoRaise(true);
-        }
-    }
-    if (auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1)) {
-        QPalette onCard = colours;
-        onCard.setColor(QPalette::Base, colours.color(QPalette::AlternateBase));
-        // The chosen day is marked by its disc alone.
-        onCard.setColor(QPalette::Highlight, colours.color(QPalette::AlternateBase));
-        days->setPalette(onCard);
+    // The calendar lies on a card, and the chosen day is marked by its disc alone.
+    QPalette onCard = colours;
+    for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Highlight})
+        onCard.setColor(role, colours.color(QPalette::AlternateBase));
+    onCard.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+    findChild<QTableView*>("qt_calendar_calendarview"_L1)->setPalette(onCard);
+    auto* bar = findChild<QWidget*>("qt_calendar_navigationbar"_L1);
+    bar->setBackgroundRole(QPalette::AlternateBase);
+    bar->setPalette(onCard);
+    for (auto* button : bar->findChildren<QToolButton*>()) {
+        button->setPalette(onCard);
+        button->setAutoRaise(true);
     }
 }

@@ -11,27 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// Title, body and buttons under one another, in a column that may be kept from growing too wide.
-class PageLayout : public QVBoxLayout
-{
-public:
-    using QVBoxLayout::QVBoxLayout;
-
-    void setGeometry(const QRect& place) override
-    {
-        QVBoxLayout::setGeometry(QRect(place.topLeft(), QSize(qMin(place.width(), widest), place.height())));
-    }
-    int heightForWidth(int width) const override { return QVBoxLayout::heightForWidth(qMin(width, widest)); }
-    int minimumHeightForWidth(int width) const override
-    {
-        return QVBoxLayout::minimumHeightForWidth(qMin(width, widest));
-    }
-
-    int widest = QWIDGETSIZE_MAX;
-};
-
 PageFrame::PageFrame(int pageNumber, const QString& title, const QString& titleName)
-    : number(pageNumber), sheet(new PageLayout(this)), body(new QVBoxLayout), footer(new QHBoxLayout)
+    : number(pageNumber), sheet(new QVBoxLayout(this)), body(new QVBoxLayout), footer(new QHBoxLayout)
 {
     setObjectName(ElementName(u"Frame"_s, pageNumber));
     setAccessibleName(title);
@@ -50,10 +31,17 @@ PageFrame::PageFrame(int pageNumber, const QString& title, const QString& titleN
 
 void PageFrame::MakeForm()
 {
-    constexpr int measure = 960;
-    sheet->widest = measure + 2 * Spacing::Page;
+    isForm = true;
     sheet->setStretchFactor(body, 0);
     sheet->addStretch(1);
+}
+
+void PageFrame::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    constexpr int measure = 960;
+    const int right = isForm ? qMax(Spacing::Page, width() - Spacing::Page - measure) : Spacing::Page;
+    sheet->setContentsMargins(Spacing::Page, Spacing::Page, right, Spacing::Page);
 }
 
 void PageFrame::Prepare()
@@ -84,9 +72,9 @@ void PageFrame::FocusFirstField()
         FocusNextOnPage(this);
 }
 
-bool PageFrame::FocusNextOnPage(QWidget* behind)
+bool PageFrame::FocusNextOnPage(QWidget* after)
 {
-    for (QWidget* next = behind->nextInFocusChain(); next != behind; next = next->nextInFocusChain()) {
+    for (QWidget* next = after->nextInFocusChain(); next != after; next = next->nextInFocusChain()) {
         if (!isAncestorOf(next) || !next->isVisible() || !next->isEnabled() ||
             (next->focusPolicy() & Qt::TabFocus) == 0)
             continue;

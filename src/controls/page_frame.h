@@ -3,7 +3,6 @@
 #include <QFrame>
 
 class Button;
-class PageLayout;
 class QHBoxLayout;
 class QVBoxLayout;
 
@@ -52,15 +51,17 @@ protected:
 
     /// The focus of a control that vanishes or can no longer be pressed stays on the page.
     bool focusNextPrevChild(bool next) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    bool FocusNextOnPage(QWidget* behind);
+    bool FocusNextOnPage(QWidget* after);
 
     int number;
+    bool isForm = false;
     Button* back = nullptr;
     QWidget* firstField = nullptr;
-    PageLayout* sheet;
+    QVBoxLayout* sheet;
     QVBoxLayout* body;
     QHBoxLayout* footer;
 };

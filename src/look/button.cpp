@@ -6,16 +6,6 @@
 #include <QKeyEvent>
 #include <QTimer>
 
-namespace {
-
-/// Whether the event is the button's own key.
-bool IsOwnKey(QEvent& event)
-{
-    return event.type() == QEvent::Shortcut && !static_cast<QShortcutEvent&>(event).isAmbiguous();
-}
-
-} // namespace
-
 void PressByKey(QAbstractButton& button)
 {
     button.setFocus(Qt::ShortcutFocusReason);
@@ -57,36 +47,4 @@ void Button::MakeAccent()
 {
     setProperty(AccentProperty, true);
     update();
-}
-
-bool Button::event(QEvent* event)
-{
-    if (!IsOwnKey(*event))
-        return QPushButton::event(event);
-    PressByKey(*this);
-    return true;
-}
-
-void Button::keyPressEvent(QKeyEvent* event)
-{
-    if (IsEnter(*event))
-        click();
-    else
-        QPushButton::keyPressEvent(event);
-}
-
-bool EnterButton::event(QEvent* event)
-{
-    if (!IsOwnKey(*event))
-        return QAbstractButton::event(event);
-    PressByKey(*this);
-    return true;
-}
-
-void EnterButton::keyPressEvent(QKeyEvent* event)
-{
-    if (IsEnter(*event))
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
 }

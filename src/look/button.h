@@ -13,7 +13,7 @@ bool IsEnter(const QKeyEvent& event);
 /// field whose content is refused then takes the focus back, and the button is not pressed.
 void PressByKey(QAbstractButton& button);
 
-/// A button that also answers the Enter key.
+/// A button of a page or a window.
 class Button : public QPushButton
 {
     Q_OBJECT
@@ -27,21 +27,4 @@ public:
     void MakeQuietDefault();
 
     QSize minimumSizeHint() const override;
-
-protected:
-    bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-};
-
-/// A button that paints itself; Enter presses it as Space does.
-class EnterButton : public QAbstractButton
-{
-    Q_OBJECT
-
-public:
-    using QAbstractButton::QAbstractButton;
-
-protected:
-    bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 };

@@ -25,6 +25,13 @@ bool WouldChangeUnfocusedValue(const QWidget& widget)
     return false;
 }
 
+/// A button to be pressed, and not one to be ticked; nullptr for anything else.
+QAbstractButton* PressedButton(QObject* watched)
+{
+    auto* button = qobject_cast<QAbstractButton*>(watched);
+    return button != nullptr && !button->isCheckable() ? button : nullptr;
+}
+
 constexpr char CurrentCellProperty[] = "currentCell";
 
 } // namespace
@@ -53,20 +60,32 @@ bool InputWatch::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
-    case QEvent::KeyRelease:
+    case QEvent::KeyRelease: {
         lastInputWasKey = true;
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
-            ShowShortcutLetters(event->type() == QEvent::KeyPress);
-        return false;
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        const bool press = event->type() == QEvent::KeyPress;
+        if (key.key() == Qt::Key_Alt)
+            ShowShortcutLetters(press);
+        auto* button = PressedButton(watched);
+        if (button == nullptr || !press || !IsEnter(key))
+            return false;
+        button->click();
+        return true;
+    }
     case QEvent::MouseButtonPress:
         lastInputWasKey = false;
         return false;
     case QEvent::WindowDeactivate:
         ShowShortcutLetters(false);
         return false;
-    case QEvent::Shortcut:
+    case QEvent::Shortcut: {
         lastInputWasKey = true;
-        return false;
+        auto* button = PressedButton(watched);
+        if (button == nullptr || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+            return false;
+        PressByKey(*button);
+        return true;
+    }
     case QEvent::Show:
     case QEvent::Hide:
     case QEvent::EnabledChange:

@@ -11,8 +11,8 @@ bool LastInputWasKey();
 /// what has the focus, also while the view does not have it.
 void HideCurrentCell(QAbstractItemView& view, bool hidden);
 
-/// What all windows have in common in how they answer keys and the wheel: the letters of the buttons, and that the
-/// wheel changes no list, choice or date that does not have the focus.
+/// What all windows have in common in how they answer keys and the wheel: that Enter presses a button as Space does,
+/// the letters of the buttons, and that the wheel changes no list, choice or date that does not have the focus.
 class InputWatch : public QObject
 {
     Q_OBJECT

@@ -2,22 +2,16 @@
 
 #include <QApplication>
 
+#include <array>
+
 namespace {
 
-const Theme& LightTheme()
-{
-    static const Theme theme{false,     "#F5F6FA", "#FFFFFF", "#E2E6EF", "#FFFFFF", "#1A2233", "#5A6478",
-                             "#4A63C8", "#FFFFFF", "#16203A", "#C9D3EA", "#566FD5", "#FFFFFF"};
-    return theme;
-}
+const Theme LightTheme{false,     "#F5F6FA", "#FFFFFF", "#E2E6EF", "#FFFFFF", "#1A2233", "#5A6478",
+                       "#4A63C8", "#FFFFFF", "#16203A", "#C9D3EA", "#566FD5", "#FFFFFF"};
+const Theme DarkTheme{true,      "#12161F", "#1B2130", "#2C3548", "#12161F", "#E9EDF6", "#9AA5BC",
+                      "#7F95EC", "#0C111C", "#0C111C", "#C9D3EA", "#566FD5", "#FFFFFF"};
 
-const Theme& DarkTheme()
-{
-    static const Theme theme{true,      "#12161F", "#1B2130", "#2C3548", "#12161F", "#E9EDF6", "#9AA5BC",
-                             "#7F95EC", "#0C111C", "#0C111C", "#C9D3EA", "#566FD5", "#FFFFFF"};
-    return theme;
-}
-
+const Theme* themeInUse = &LightTheme;
 Appearance wantedAppearance = Appearance::FromDesktop;
 bool desktopPrefersDark = false;
 
@@ -28,17 +22,11 @@ void TakeThemeAnew()
         QApplication::setPalette(QPalette());
 }
 
-const Theme*& ThemeInUse()
-{
-    static const Theme* theme = &LightTheme();
-    return theme;
-}
-
 } // namespace
 
 const Theme& CurrentTheme()
 {
-    return *ThemeInUse();
+    return *themeInUse;
 }
 
 void ApplyTheme(QPalette& palette)
@@ -47,8 +35,8 @@ void ApplyTheme(QPalette& palette)
                                                          palette.color(QPalette::WindowText).lightness();
     const bool dark =
         wantedAppearance == Appearance::Dark || (wantedAppearance == Appearance::FromDesktop && desktopIsDark);
-    const Theme& theme = dark ? DarkTheme() : LightTheme();
-    ThemeInUse() = &theme;
+    const Theme& theme = dark ? DarkTheme : LightTheme;
+    themeInUse = &theme;
 
     palette =
         QPalette(theme.text, theme.card, theme.card.lighter(dark ? 130 : 100), theme.cardLine.darker(dark ? 60 : 120),
@@ -87,30 +75,23 @@ void SetDesktopPrefersDark(bool prefersDark)
 
 QFont FontFor(TextRole role)
 {
+    struct Form
+    {
+        double pixels;
+        QFont::Weight weight;
+    };
+    // In the order of the roles; a weight of its own is one that is not normal.
+    constexpr std::array<Form, 6> forms{{{12, QFont::Normal},
+                                         {14, QFont::Normal},
+                                         {14, QFont::DemiBold},
+                                         {16, QFont::DemiBold},
+                                         {24, QFont::DemiBold},
+                                         {44, QFont::Bold}}};
+    const Form& form = forms.at(static_cast<size_t>(role));
+    const double scale = form.pixels / forms[static_cast<size_t>(TextRole::Body)].pixels;
     QFont font = QApplication::font();
-    double scale = 1;
-    switch (role) {
-    case TextRole::Caption:
-        scale = 12.0 / 14;
-        break;
-    case TextRole::Body:
-        break;
-    case TextRole::Strong:
-        font.setWeight(QFont::DemiBold);
-        break;
-    case TextRole::Heading:
-        scale = 16.0 / 14;
-        font.setWeight(QFont::DemiBold);
-        break;
-    case TextRole::Title:
-        scale = 24.0 / 14;
-        font.setWeight(QFont::DemiBold);
-        break;
-    case TextRole::Product:
-        scale = 44.0 / 14;
-        font.setWeight(QFont::Bold);
-        break;
-    }
+    if (form.weight != QFont::Normal)
+        font.setWeight(form.weight);
     if (font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * scale);
     else

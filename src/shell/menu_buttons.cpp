@@ -14,11 +14,7 @@ constexpr int TextLeft = 56;
 constexpr int LogoTextLeft = 66;
 
 /// The light blue of the product's number and of the marker.
-const QColor& Blue()
-{
-    static const QColor blue("#7F95EC");
-    return blue;
-}
+constexpr QRgb Blue = 0xFF7F95EC;
 
 QFont ProductFont()
 {
@@ -38,7 +34,7 @@ void DrawRing(QPainter& painter, const QRectF& rect)
 } // namespace
 
 MenuButton::MenuButton(const QString& caption, const QString& name, Picture shownPicture, QWidget* parent)
-    : EnterButton(parent), picture(shownPicture)
+    : QAbstractButton(parent), picture(shownPicture)
 {
     setObjectName(name);
     setText(caption);
@@ -83,7 +79,7 @@ void MenuButton::paintEvent(QPaintEvent* /*event*/)
         DrawRing(painter, rect());
 }
 
-LogoButton::LogoButton(QWidget* parent) : EnterButton(parent)
+LogoButton::LogoButton(QWidget* parent) : QAbstractButton(parent)
 {
     setObjectName(u"Logo"_s);
     setAccessibleName(u"Tavenor 3, to the start page"_s);
@@ -109,7 +105,7 @@ void LogoButton::paintEvent(QPaintEvent* /*event*/)
     const int next = LogoTextLeft + QFontMetrics(font).horizontalAdvance(u"Tavenor "_s);
     font.setWeight(QFont::Normal);
     painter.setFont(font);
-    painter.setPen(Blue());
+    painter.setPen(QColor(Blue));
     painter.drawText(QRect(next, 0, width(), height()), Qt::AlignVCenter, u"3"_s);
     if (hasFocus())
         DrawRing(painter, rect());
@@ -142,7 +138,7 @@ void OptionMark::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Blue());
+    painter.setBrush(QColor(Blue));
     constexpr int barHeight = 14;
     painter.drawRoundedRect(QRectF(0, (height() - barHeight) / 2.0, width(), barHeight), 2, 2);
 }

@@ -11,7 +11,7 @@ inline constexpr int RowHeight = 44;
 } // namespace MenuMeasure
 
 /// A button of the column: a picture and a caption, filled while its group is open.
-class MenuButton : public EnterButton
+class MenuButton : public QAbstractButton
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
 };
 
 /// The logo and the product's name at the top of the column.
-class LogoButton : public EnterButton
+class LogoButton : public QAbstractButton
 {
     Q_OBJECT
 

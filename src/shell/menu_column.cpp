@@ -19,8 +19,8 @@ constexpr int TwipsPerPixel = 10;
 constexpr int SuboptionLeft = 50;
 constexpr int SuboptionHeight = 34;
 
-constexpr std::array<Picture, 5> GroupPictures{Picture::AddDraws, Picture::DrawRecords, Picture::Users,
-                                               Picture::Generator, Picture::Analysis};
+constexpr Picture GroupPictures[] = {Picture::AddDraws, Picture::DrawRecords, Picture::Users, Picture::Generator,
+                                     Picture::Analysis};
 
 int Pixels(int twips)
 {
@@ -47,15 +47,16 @@ MenuColumn::MenuColumn(QWidget* parent)
     connect(logo, &QAbstractButton::clicked, this, &MenuColumn::LogoClicked);
     connect(exit, &QAbstractButton::clicked, this, &MenuColumn::ExitClicked);
     for (int group = 1; group <= MenuGroups; ++group) {
-        const auto i = static_cast<size_t>(group) - 1;
-        buttons.at(i) = new MenuButton(MenuGroupOf(group).caption, u"Button%1"_s.arg(group), GroupPictures.at(i), this);
-        SetShortcutLetter(*buttons.at(i), ShortcutLetters[group - 1]);
-        connect(buttons.at(i), &QAbstractButton::clicked, this, [this, group] { Q_EMIT GroupClicked(group); });
+        auto* button =
+            new MenuButton(MenuGroupOf(group).caption, u"Button%1"_s.arg(group), GroupPictures[group - 1], this);
+        SetShortcutLetter(*button, ShortcutLetters[group - 1]);
+        connect(button, &QAbstractButton::clicked, this, [this, group] { Q_EMIT GroupClicked(group); });
+        buttons.append(button);
     }
     for (int number = 1; number <= MostSuboptions; ++number) {
-        auto*& label = suboptions.at(static_cast<size_t>(number) - 1);
-        label = new SuboptionLabel(number, this);
+        auto* label = new SuboptionLabel(number, this);
         connect(label, &QAbstractButton::clicked, this, [this, number] { Q_EMIT SuboptionClicked(number); });
+        suboptions.append(label);
     }
     LayOut(0);
 }
@@ -66,7 +67,7 @@ void MenuColumn::LayOut(int openGroup)
     marked = 0;
     optionMark->hide();
     for (int number = 1; number <= MostSuboptions; ++number) {
-        SuboptionLabel* label = suboptions.at(static_cast<size_t>(number) - 1);
+        SuboptionLabel* label = suboptions[number - 1];
         const MenuSuboption* suboption = FindSuboption(open, number);
         label->setVisible(suboption != nullptr);
         label->SetMarked(false);
@@ -77,7 +78,7 @@ void MenuColumn::LayOut(int openGroup)
         }
     }
     for (int group = 1; group <= MenuGroups; ++group)
-        buttons.at(static_cast<size_t>(group) - 1)->SetOpen(group == open);
+        buttons[group - 1]->SetOpen(group == open);
     PlaceChildren();
     OrderTabs();
 }
@@ -86,16 +87,16 @@ void MenuColumn::Mark(int suboption)
 {
     marked = suboption;
     for (int number = 1; number <= MostSuboptions; ++number)
-        suboptions.at(static_cast<size_t>(number) - 1)->SetMarked(number == marked);
+        suboptions[number - 1]->SetMarked(number == marked);
     PlaceChildren();
     optionMark->show();
 }
 
 void MenuColumn::FocusChosen()
 {
-    QWidget* chosen = buttons.front();
+    QWidget* chosen = buttons.constFirst();
     if (open > 0)
-        chosen = suboptions.at(static_cast<size_t>(qMax(marked, 1)) - 1);
+        chosen = suboptions[qMax(marked, 1) - 1];
     chosen->setFocus(Qt::TabFocusReason);
 }
 
@@ -106,13 +107,11 @@ void MenuColumn::PlaceChildren()
     logo->setGeometry(ButtonMargin, 14, buttonWidth, 62);
     line->setGeometry(ButtonMargin, height() - 2 * ButtonMargin - RowHeight - 6, buttonWidth, 1);
     for (int group = 1; group <= MenuGroups; ++group)
-        buttons.at(static_cast<size_t>(group) - 1)
-            ->setGeometry(ButtonMargin, Pixels(GroupButtonTop(group, open)), buttonWidth, RowHeight);
+        buttons[group - 1]->setGeometry(ButtonMargin, Pixels(GroupButtonTop(group, open)), buttonWidth, RowHeight);
     for (int number = 1; number <= MostSuboptions; ++number)
         if (const MenuSuboption* suboption = FindSuboption(open, number))
-            suboptions.at(static_cast<size_t>(number) - 1)
-                ->setGeometry(SuboptionLeft, Pixels(suboption->top), ButtonMargin + buttonWidth - SuboptionLeft,
-                              SuboptionHeight);
+            suboptions[number - 1]->setGeometry(SuboptionLeft, Pixels(suboption->top),
+                                                ButtonMargin + buttonWidth - SuboptionLeft, SuboptionHeight);
     if (const MenuSuboption* suboption = FindSuboption(open, marked)) {
         constexpr int markerDrop = 30;
         optionMark->setGeometry(SuboptionLeft - 12, Pixels(suboption->top + markerDrop), 4,
@@ -129,7 +128,7 @@ void MenuColumn::OrderTabs()
         last = next;
     };
     for (int group = 1; group <= MenuGroups; ++group) {
-        append(buttons.at(static_cast<size_t>(group) - 1));
+        append(buttons[group - 1]);
         if (group == open)
             for (SuboptionLabel* label : suboptions)
                 append(label);

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <array>
-
 class LogoButton;
 class MenuButton;
 class SuboptionLabel;
@@ -49,8 +47,8 @@ private:
     int open = 0;
     int marked = 0;
     LogoButton* logo;
-    std::array<MenuButton*, 5> buttons{};
-    std::array<SuboptionLabel*, 4> suboptions{};
+    QList<MenuButton*> buttons;
+    QList<SuboptionLabel*> suboptions;
     QWidget* optionMark;
     QFrame* line;
     MenuButton* exit;

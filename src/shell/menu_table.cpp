@@ -1,81 +1,71 @@
 #include "shell/menu_table.h"
 
+#include <array>
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QString Text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
+const std::array<MenuGroupRow, MenuGroups> Groups{{
+    {u"Add Draws"_s, {{u"Add Main Draw"_s, 1920, 6, u'M'}, {u"Add Thunderball Draw"_s, 2290, 7, u'T'}}},
+    {u"Draw Records"_s,
+     {{u"View Latest Draw"_s, 2400, 8, {}},
+      {u"View Any Single Draw"_s, 2760, 9, u'N'},
+      {u"View or Edit All Draws"_s, 3120, 10, u'O'}}},
+    {u"Your Entries"_s,
+     {{u"User Details"_s, 2880, 11, u'U'},
+      {u"Add New Entries"_s, 3240, 18, u'N'},
+      {u"View or Edit Entries"_s, 3600, 13, u'O'},
+      {u"Check Your Entries"_s, 3960, 12, u'K'}}},
+    {u"Entry Generator"_s, {{u"Main Draw"_s, 3360, 26, u'M'}}},
+    {u"Draw Analysis"_s, {{u"Main Draw"_s, 3840, 21, u'M'}, {u"Thunderball Draw"_s, 4200, 22, u'T'}}},
+}};
 
-const std::array<MenuGroupRow, MenuGroups>& Groups()
-{
-    static const std::array<MenuGroupRow, MenuGroups> groups{{
-        {Text("Add Draws"), {{Text("Add Main Draw"), 1920, 6, u'M'}, {Text("Add Thunderball Draw"), 2290, 7, u'T'}}},
-        {Text("Draw Records"),
-         {{Text("View Latest Draw"), 2400, 8, {}},
-          {Text("View Any Single Draw"), 2760, 9, u'N'},
-          {Text("View or Edit All Draws"), 3120, 10, u'O'}}},
-        {Text("Your Entries"),
-         {{Text("User Details"), 2880, 11, u'U'},
-          {Text("Add New Entries"), 3240, 18, u'N'},
-          {Text("View or Edit Entries"), 3600, 13, u'O'},
-          {Text("Check Your Entries"), 3960, 12, u'K'}}},
-        {Text("Entry Generator"), {{Text("Main Draw"), 3360, 26, u'M'}}},
-        {Text("Draw Analysis"), {{Text("Main Draw"), 3840, 21, u'M'}, {Text("Thunderball Draw"), 4200, 22, u'T'}}},
-    }};
-    return groups;
-}
-
-const std::array<Introduction, MenuGroups>& Introductions()
-{
-    static const std::array<Introduction, MenuGroups> introductions{{
-        {Text("Add Draw to Records"),
-         2,
-         Text("This is where you can add draws, as they are drawn, to the draw records database."),
-         {{0, 1, 3,
-           Text("Add a main lottery draw to the draw records database by entering the date, machine used, set of balls "
-                "used and the balls drawn.")},
-          {1, 2, 4,
-           Text("Add a thunderball lottery draw to the draw records database by entering the date and the balls "
-                "drawn.")}}},
-        {Text("Draw Records"),
-         7,
-         Text("This is where you can view, edit or delete every draw from the main or thunderball draw records."),
-         {{9, 1, 6, Text("See the latest main draw and the latest thunderball draw results.")},
-          {8, 2, 5, Text("Select any date, and you will be shown the main and thunderball draws from that day.")},
-          {26, 3, 25,
-           Text("See a list of every draw result from the main and thunderball draw, then view in detail, edit or "
-                "delete any draw.")}}},
-        {Text("Your Entries"),
-         12,
-         Text("This is where you store user profiles and lottery entries for those users."),
-         {{14, 1, 11, Text("Add, edit or delete user names and spending limits.")},
-          {13, 2, 10,
-           Text("Enter a new lottery entry, specify which draw and draw day, then store it under a users name.")},
-          {15, 3, 20, Text("See a list of entries stored by any user, then view in detail, edit or delete any entry.")},
-          {21, 4, 22, Text("Check all entries against any draw to see if you've won.")}}},
-        {Text("Entry Generator"),
-         17,
-         Text("This is where you can specify a user, a build method, how many lines you want or your favorite numbers, "
-              "and your entries will be generated for you."),
-         {{19, 1, 16,
-           Text("Use any of a  number of different build methods to create entries and then store them under any "
-                "user.")}}},
-        {Text("Draw Analysis"),
-         28,
-         Text("This is where you can see how often certain numbers, colours or lottery machines etc.  get drawn or how "
-              "long since it was drawn."),
-         {{24, 1, 29, Text("Various data screens and charts for the main lottery draw.")},
-          {23, 2, 30, Text("Various data screens and charts for the thunderball lottery draw.")}}},
-    }};
-    return introductions;
-}
+const std::array<Introduction, MenuGroups> Introductions{{
+    {u"Add Draw to Records"_s,
+     2,
+     u"This is where you can add draws, as they are drawn, to the draw records database."_s,
+     {{0, 1, 3,
+       u"Add a main lottery draw to the draw records database by entering the date, machine used, set of balls "
+       u"used and the balls drawn."_s},
+      {1, 2, 4,
+       u"Add a thunderball lottery draw to the draw records database by entering the date and the balls "
+       u"drawn."_s}}},
+    {u"Draw Records"_s,
+     7,
+     u"This is where you can view, edit or delete every draw from the main or thunderball draw records."_s,
+     {{9, 1, 6, u"See the latest main draw and the latest thunderball draw results."_s},
+      {8, 2, 5, u"Select any date, and you will be shown the main and thunderball draws from that day."_s},
+      {26, 3, 25,
+       u"See a list of every draw result from the main and thunderball draw, then view in detail, edit or "
+       u"delete any draw."_s}}},
+    {u"Your Entries"_s,
+     12,
+     u"This is where you store user profiles and lottery entries for those users."_s,
+     {{14, 1, 11, u"Add, edit or delete user names and spending limits."_s},
+      {13, 2, 10, u"Enter a new lottery entry, specify which draw and draw day, then store it under a users name."_s},
+      {15, 3, 20, u"See a list of entries stored by any user, then view in detail, edit or delete any entry."_s},
+      {21, 4, 22, u"Check all entries against any draw to see if you've won."_s}}},
+    {u"Entry Generator"_s,
+     17,
+     u"This is where you can specify a user, a build method, how many lines you want or your favorite numbers, "
+     u"and your entries will be generated for you."_s,
+     {{19, 1, 16,
+       u"Use any of a  number of different build methods to create entries and then store them under any "
+       u"user."_s}}},
+    {u"Draw Analysis"_s,
+     28,
+     u"This is where you can see how often certain numbers, colours or lottery machines etc.  get drawn or how "
+     u"long since it was drawn."_s,
+     {{24, 1, 29, u"Various data screens and charts for the main lottery draw."_s},
+      {23, 2, 30, u"Various data screens and charts for the thunderball lottery draw."_s}}},
+}};
 
 } // namespace
 
 const MenuGroupRow& MenuGroupOf(int group)
 {
-    return Groups().at(static_cast<size_t>(group) - 1);
+    return Groups.at(static_cast<size_t>(group) - 1);
 }
 
 const MenuSuboption* FindSuboption(int group, int number)
@@ -98,5 +88,5 @@ int GroupButtonTop(int button, int openGroup)
 
 const Introduction& IntroductionOf(int group)
 {
-    return Introductions().at(static_cast<size_t>(group) - 1);
+    return Introductions.at(static_cast<size_t>(group) - 1);
 }

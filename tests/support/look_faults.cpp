@@ -208,7 +208,8 @@ void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& f
         faults.append(what + " has no focus");
     if (state.focusable && told.text(QAccessible::Name).trimmed().isEmpty())
         faults.append(what + " has no name");
-    if (told.role() == QAccessible::Button && IsOneOf<EnterButton>(widget) && widget->focusPolicy() == Qt::NoFocus)
+    if (told.role() == QAccessible::Button && IsOneOf<QAbstractButton>(widget) &&
+        !IsOneOf<QCalendarWidget>(widget->parentWidget()->parentWidget()) && widget->focusPolicy() == Qt::NoFocus)
         faults.append(what + " is no button");
     for (int child = 0; child < qMin(told.childCount(), LookedAtRows * 10); ++child)
         if (QAccessibleInterface* inner = told.child(child))
