@@ -1,67 +1,36 @@
 #include "look/message_icon.h"
 
-#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 
 namespace {
 
-enum class Sign
+/// A sign in white strokes on a ball, laid out on a grid of 20 by 20 and large enough for every scale.
+QIcon SignIcon(const QColor& ball, std::initializer_list<QLineF> strokes)
 {
-    Information,
-    Critical
-};
-
-class MessageIcon : public QIconEngine
-{
-public:
-    explicit MessageIcon(Sign shownSign) : sign(shownSign) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
-    {
-        const qreal unit = rect.width() / 20.0;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(unit, unit);
-        const bool information = sign == Sign::Information;
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(information ? QColor("#4A63C8") : QColor("#C0303B"));
-        painter->drawEllipse(QRectF(1, 1, 18, 18));
-        painter->setPen(QPen(Qt::white, 2.2, Qt::SolidLine, Qt::RoundCap));
-        if (information) {
-            painter->drawPoint(QPointF(10, 5.8));
-            painter->drawLine(QPointF(10, 9.6), QPointF(10, 14.4));
-        } else {
-            painter->drawLine(QPointF(6.8, 6.8), QPointF(13.2, 13.2));
-            painter->drawLine(QPointF(13.2, 6.8), QPointF(6.8, 13.2));
-        }
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return picture;
-    }
-
-    QIconEngine* clone() const override { return new MessageIcon(sign); }
-
-private:
-    Sign sign;
-};
+    constexpr int side = 128;
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / 20.0, side / 20.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ball);
+    painter.drawEllipse(QRectF(1, 1, 18, 18));
+    painter.setPen(QPen(Qt::white, 2.2, Qt::SolidLine, Qt::RoundCap));
+    for (const QLineF& stroke : strokes)
+        painter.drawLine(stroke);
+    return picture;
+}
 
 } // namespace
 
 QIcon InformationIcon()
 {
-    return QIcon(new MessageIcon(Sign::Information));
+    return SignIcon("#4A63C8", {{10, 5.8, 10, 5.81}, {10, 9.6, 10, 14.4}});
 }
 
 QIcon CriticalIcon()
 {
-    return QIcon(new MessageIcon(Sign::Critical));
+    return SignIcon("#C0303B", {{6.8, 6.8, 13.2, 13.2}, {13.2, 6.8, 6.8, 13.2}});
 }
