@@ -27,7 +27,7 @@ int main(int count, char** arguments)
     }
     QApplication::setStyle(new Style);
     if (given.contains("dark"_L1))
-        SetAppearance(Appearance::Dark);
+        SetDesktopPrefersDark(true);
     // The size of most desktops, where a screen without a display has a smaller one.
     QFont desktop = QApplication::font();
     desktop.setPointSizeF(given.contains("large"_L1) ? 10.5 * 1.5 : 10.5);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QImage>
 #include <QRectF>
 
@@ -25,3 +26,7 @@ void DrawLogo(QPainter& painter, const QRectF& square);
 
 /// The logo on a transparent ground, a square of the given side in pixels, as an icon.
 QImage LogoImage(int side);
+
+/// The sign of a message: an "i" on a ball for information, a cross for a failure.
+QIcon InformationIcon();
+QIcon CriticalIcon();

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QStyle>
+
 class QPainter;
 class QRect;
 class QRectF;
 class QPalette;
 class QStyleOption;
 class QColor;
+class QStyleOptionSlider;
 class QWidget;
 
 // How the style paints the parts of the controls, from the palette alone.
@@ -26,3 +29,8 @@ void DrawHeaderSection(const QStyleOption* option, QPainter* painter);
 /// The name of the property of a text field that has no frame and background of its own, and of a view whose frame is
 /// empty but for the ring of the focus.
 inline constexpr char BareProperty[] = "bare";
+
+/// The place of a part of a scroll bar that has no arrow buttons: the slider runs from end to end.
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
+/// A quiet rounded slider without a groove.
+void DrawScrollBar(const QStyleOptionSlider& bar, QPainter* painter);

@@ -1,10 +1,9 @@
 #include "look/style.h"
 
+#include "look/artwork.h"
 #include "look/button.h"
 #include "look/control_painting.h"
 #include "look/input_watch.h"
-#include "look/message_icon.h"
-#include "look/scroll_bar.h"
 #include "look/shortcut_letters.h"
 #include "look/theme.h"
 

@@ -12,15 +12,7 @@ const Theme DarkTheme{true,      "#12161F", "#1B2130", "#2C3548", "#12161F", "#E
                       "#7F95EC", "#0C111C", "#0C111C", "#C9D3EA", "#566FD5", "#FFFFFF"};
 
 const Theme* themeInUse = &LightTheme;
-Appearance wantedAppearance = Appearance::FromDesktop;
 bool desktopPrefersDark = false;
-
-/// Has the style put the theme's colours into the desktop's palette anew.
-void TakeThemeAnew()
-{
-    if (qApp != nullptr)
-        QApplication::setPalette(QPalette());
-}
 
 } // namespace
 
@@ -31,10 +23,8 @@ const Theme& CurrentTheme()
 
 void ApplyTheme(QPalette& palette)
 {
-    const bool desktopIsDark = desktopPrefersDark || palette.color(QPalette::Window).lightness() <
-                                                         palette.color(QPalette::WindowText).lightness();
-    const bool dark =
-        wantedAppearance == Appearance::Dark || (wantedAppearance == Appearance::FromDesktop && desktopIsDark);
+    const bool dark = desktopPrefersDark ||
+                      palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
     const Theme& theme = dark ? DarkTheme : LightTheme;
     themeInUse = &theme;
 
@@ -59,18 +49,14 @@ QColor Mixed(const QColor& first, const QColor& second, qreal share)
                             static_cast<float>(first.blueF() + (second.blueF() - first.blueF()) * share));
 }
 
-void SetAppearance(Appearance appearance)
-{
-    wantedAppearance = appearance;
-    TakeThemeAnew();
-}
-
 void SetDesktopPrefersDark(bool prefersDark)
 {
     if (prefersDark == desktopPrefersDark)
         return;
     desktopPrefersDark = prefersDark;
-    TakeThemeAnew();
+    // Has the style put the theme's colours into the desktop's palette anew.
+    if (qApp != nullptr)
+        QApplication::setPalette(QPalette());
 }
 
 QFont FontFor(TextRole role)

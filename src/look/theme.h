@@ -32,15 +32,6 @@ void ApplyTheme(QPalette& palette);
 /// The colour that lies between two colours, at a share from 0 (the first) to 1 (the second).
 QColor Mixed(const QColor& first, const QColor& second, qreal share);
 
-/// Which theme to use: the desktop's, or always the same one.
-enum class Appearance
-{
-    FromDesktop,
-    Light,
-    Dark
-};
-void SetAppearance(Appearance appearance);
-
 /// Takes what the desktop says beside its palette, which may be light because it says nothing.
 void SetDesktopPrefersDark(bool prefersDark);
 

@@ -56,15 +56,8 @@ MainWindow::MainWindow()
         resize(UsualSize.boundedTo(room));
         setWindowState(Qt::WindowMaximized);
     }
-    Form_Load();
-    menu->FocusChosen();
-}
-
-void MainWindow::Form_Load()
-{
-    MenuGroup = 0;
-    SelectedPage = 0;
     BuildMenu();
+    menu->FocusChosen();
 }
 
 PageFrame* MainWindow::Page(int index)
@@ -91,17 +84,17 @@ PageFrame* MainWindow::Page(int index)
 void MainWindow::BuildMenu()
 {
     menu->LayOut(MenuGroup);
-    SelectedPage = MenuGroup;
     // A page that was covered takes its focus back, but not from the menu from which it is chosen.
     QWidget* chosenFrom = menu->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
-    Page(SelectedPage)->ShowInFront();
+    Page(MenuGroup)->ShowInFront();
     if (chosenFrom != nullptr)
         chosenFrom->setFocus();
-    ShowPage();
+    ShowPage(MenuGroup);
 }
 
-void MainWindow::ShowPage()
+void MainWindow::ShowPage(int selected)
 {
+    SelectedPage = selected;
     for (int index = 0; index < PageCount; ++index)
         if (PageFrame* page = Frame.at(static_cast<size_t>(index)); page != nullptr && index != SelectedPage)
             page->hide();
@@ -110,12 +103,6 @@ void MainWindow::ShowPage()
     const PageTableRow* row = FindPage(SelectedPage);
     if (row != nullptr && row->hasPreparation)
         Page(SelectedPage)->Prepare();
-}
-
-void MainWindow::ShowPage(int index)
-{
-    SelectedPage = index;
-    ShowPage();
 }
 
 void MainWindow::ChooseMenu(int group, int suboption)

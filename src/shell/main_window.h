@@ -20,7 +20,7 @@ public:
     MainWindow();
 
     void ChooseMenu(int group, int suboption) override;
-    void ShowPage(int index) override;
+    void ShowPage(int selected) override;
     PageFrame* Page(int index) override;
     void ShowStartPage() override;
 
@@ -30,9 +30,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void Form_Load();
     void BuildMenu();
-    void ShowPage();
     void Button_Click(int group);
     void Suboption_Click(int number);
     void Exit_Click();

@@ -3,14 +3,16 @@
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/page_switch.h"
+#include "controls/small_window.h"
 #include "look/button.h"
 #include "look/logo_picture.h"
 #include "look/theme.h"
-#include "shell/about_window.h"
 #include "utilities/advanced_window.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -22,9 +24,26 @@ QLabel* Centred(QLabel* label)
     return label;
 }
 
+/// The about window, frmabout.
+class AboutWindow : public SmallWindow
+{
+public:
+    explicit AboutWindow(QWidget* parent) : SmallWindow(u"frmabout"_s, u"Tavenor 3 --- About..."_s, parent)
+    {
+        Content()->setSpacing(Spacing::Between);
+        auto* back = new Button(u"BACK"_s, u"back"_s);
+        back->MakeQuietDefault();
+        connect(back, &QPushButton::clicked, this, &QDialog::accept);
+        for (QWidget* shown :
+             std::initializer_list<QWidget*>{new LogoPicture(84), MakeLabel(u"Tavenor"_s, TextRole::Title),
+                                             MakeLabel(QStringLiteral("v" TAVENOR_VERSION), TextRole::Body), back})
+            Content()->addWidget(shown, 0, Qt::AlignHCenter);
+    }
+};
+
 } // namespace
 
-StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pageSwitch)
+StartPage::StartPage(PageSwitch& pages) : PageFrame(0, QString())
 {
     setAccessibleName(u"Welcome to Tavenor"_s);
     Body()->addStretch(3);
@@ -52,31 +71,16 @@ StartPage::StartPage(PageSwitch& pageSwitch) : PageFrame(0, QString()), pages(pa
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Spacing::Between);
     buttons->addStretch(1);
-    const auto add = [&](const QString& caption, const QString& name, void (StartPage::*handler)()) {
+    const auto add = [&](const QString& caption, const QString& name, const std::function<void()>& handler) {
         auto* button = new Button(caption, name);
-        ConnectGuarded(button, &QPushButton::clicked, this, [this, handler] { (this->*handler)(); });
+        ConnectGuarded(button, &QPushButton::clicked, this, handler);
         buttons->addWidget(button);
     };
-    add(u"About..."_s, u"about"_s, &StartPage::about_Click);
-    add(u"Internet Links"_s, u"F0links"_s, &StartPage::F0links_Click);
-    add(u"Advanced Options"_s, u"advanced"_s, &StartPage::advanced_Click);
+    // about_Click, F0links_Click and advanced_Click.
+    add(u"About..."_s, u"about"_s, [this] { AboutWindow(this).exec(); });
+    add(u"Internet Links"_s, u"F0links"_s, [&pages] { pages.Page(25)->Prepare(); });
+    add(u"Advanced Options"_s, u"advanced"_s, [this] { AdvancedWindow(this).exec(); });
     buttons->addStretch(1);
     Body()->addLayout(buttons);
     Body()->addStretch(4);
-}
-
-void StartPage::about_Click()
-{
-    AboutWindow(this).exec();
-}
-
-void StartPage::F0links_Click()
-{
-    if (PageFrame* linksPage = pages.Page(25))
-        linksPage->Prepare();
-}
-
-void StartPage::advanced_Click()
-{
-    AdvancedWindow(this).exec();
 }

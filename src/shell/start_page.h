@@ -10,12 +10,5 @@ class StartPage : public PageFrame
     Q_OBJECT
 
 public:
-    explicit StartPage(PageSwitch& pageSwitch);
-
-private:
-    void about_Click();
-    void F0links_Click();
-    void advanced_Click();
-
-    PageSwitch& pages;
+    explicit StartPage(PageSwitch& pages);
 };

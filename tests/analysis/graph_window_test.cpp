@@ -67,7 +67,7 @@ class GraphWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { SetAppearance(Appearance::FromDesktop); }
+    void cleanup() { SetDesktopPrefersDark(false); }
 
     void BallTypeChoosesPhraseAndCount()
     {
@@ -166,9 +166,9 @@ private Q_SLOTS:
     void BarsAndTextsCanBeSeen()
     {
         ShownChart shown(2);
-        for (const Appearance appearance : {Appearance::Light, Appearance::Dark}) {
+        for (const bool dark : {false, true}) {
             // The theme changes while the window is open.
-            SetAppearance(appearance);
+            SetDesktopPrefersDark(dark);
             QApplication::processEvents();
             const QImage picture = shown.Picture();
             QStringList colours;

@@ -87,7 +87,7 @@ private Q_SLOTS:
         QApplication::setFont(desktop);
     }
 
-    void cleanup() { SetAppearance(Appearance::FromDesktop); }
+    void cleanup() { SetDesktopPrefersDark(false); }
 
     void APlantedFaultIsFound()
     {
@@ -143,13 +143,13 @@ private Q_SLOTS:
             CompareApproved(page.key(), page.value());
     }
 
-    void EveryPageAndWindowInTheLight() { LookAtAll(Appearance::Light); }
-    void EveryPageAndWindowInTheDark() { LookAtAll(Appearance::Dark); }
+    void EveryPageAndWindowInTheLight() { LookAtAll(false); }
+    void EveryPageAndWindowInTheDark() { LookAtAll(true); }
 
 private:
-    static void LookAtAll(Appearance appearance)
+    static void LookAtAll(bool dark)
     {
-        SetAppearance(appearance);
+        SetDesktopPrefersDark(dark);
         const TestFolder files(TestFolder::Content::Starter);
         OpenDatabaseFiles();
         MainWindow window;
