@@ -22,6 +22,8 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
     setMinimumHeight(8 * qMax(25, fontMetrics().height() + Spacing::Inside));
     setAccessibleName(u"Draw date"_s);
+    // Around its days the card is seen.
+    setAutoFillBackground(false);
     for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
         auto* button = findChild<QToolButton*>(QLatin1String(name));
         const bool previous = button->objectName() == "qt_calendar_prevmonth"_L1;
@@ -33,7 +35,10 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     }
     for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
         findChild<QToolButton*>(QLatin1String(name))->setFont(FontFor(TextRole::Strong));
-    findChild<QTableView*>("qt_calendar_calendarview"_L1)->setAccessibleName(accessibleName());
+    auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1);
+    days->setAccessibleName(accessibleName());
+    days->setProperty(BareProperty, true);
+    days->setFrameShape(QFrame::StyledPanel);
     TakeColours();
     connect(this, &QCalendarWidget::clicked, this, &MonthCalendar::DateChosen);
     connect(this, &QCalendarWidget::activated, this, &MonthCalendar::DateChosen);

@@ -9,6 +9,7 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 
 namespace {
 
@@ -30,6 +31,14 @@ QAbstractButton* PressedButton(QObject* watched)
 {
     auto* button = qobject_cast<QAbstractButton*>(watched);
     return button != nullptr && !button->isCheckable() ? button : nullptr;
+}
+
+/// Tells a screen reader which label names a list, for it takes the list's choice for its name.
+void TakeLabel(QComboBox& list)
+{
+    for (auto* label : list.parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
+        if (label->text() == list.accessibleName())
+            label->setBuddy(&list);
 }
 
 constexpr char CurrentCellProperty[] = "currentCell";
@@ -91,6 +100,8 @@ bool InputWatch::eventFilter(QObject* watched, QEvent* event)
     case QEvent::EnabledChange:
         if (const auto* button = qobject_cast<Button*>(watched); button != nullptr && button->window()->isVisible())
             GiveShortcutLetters(*button->window());
+        if (auto* list = qobject_cast<QComboBox*>(watched); list != nullptr && event->type() == QEvent::Show)
+            TakeLabel(*list);
         return false;
     case QEvent::FocusIn:
     case QEvent::FocusOut:

@@ -12,7 +12,8 @@ bool LastInputWasKey();
 void HideCurrentCell(QAbstractItemView& view, bool hidden);
 
 /// What all windows have in common in how they answer keys and the wheel: that Enter presses a button as Space does,
-/// the letters of the buttons, and that the wheel changes no list, choice or date that does not have the focus.
+/// the letters of the buttons, which label names a list, and that the wheel changes no list, choice or date that does
+/// not have the focus.
 class InputWatch : public QObject
 {
     Q_OBJECT

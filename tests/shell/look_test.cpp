@@ -110,6 +110,7 @@ private Q_SLOTS:
             {"ring", [](PlantedDialog& dialog) { Repaint(*dialog.ball, QPalette::Highlight, Qt::transparent); }},
             {"told", [](PlantedDialog& dialog) { dialog.field->setAccessibleName({}); }},
             {"told", [](PlantedDialog& dialog) { dialog.list->setCurrentRow(0); }},
+            {"told", [](PlantedDialog& dialog) { dialog.layout()->addWidget(new QComboBox); }},
             {"told", [](PlantedDialog& dialog) {
                  dialog.layout()->addWidget(new ClickLabel("Description"));
                  dialog.findChild<ClickLabel*>()->setFocusPolicy(Qt::NoFocus);

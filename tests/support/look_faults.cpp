@@ -208,6 +208,9 @@ void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& f
         faults.append(what + " has no focus");
     if (state.focusable && told.text(QAccessible::Name).trimmed().isEmpty())
         faults.append(what + " has no name");
+    if (const auto* list = qobject_cast<QComboBox*>(widget);
+        list != nullptr && !list->isEditable() && told.relations(QAccessible::Label).isEmpty())
+        faults.append(what + " is not labelled");
     if (told.role() == QAccessible::Button && IsOneOf<QAbstractButton>(widget) &&
         !IsOneOf<QCalendarWidget>(widget->parentWidget()->parentWidget()) && widget->focusPolicy() == Qt::NoFocus)
         faults.append(what + " is no button");
