@@ -3,8 +3,6 @@
 
 #include "records/held_file.h"
 
-#include <QSet>
-
 #include <cstdarg>
 #include <fcntl.h>
 #include <memory>
@@ -76,13 +74,8 @@ void RunCopies(int copies)
         found.append("user," + user.section(u',', 1, 1));
     for (const QString& draw : TestFolder::StoredRows("ukmain"))
         found.append("draw," + draw.section(u',', 10, 10));
-    for (const char* table : {"users", "entries", "ukmain"}) {
-        QSet<QString> numbers;
-        const QStringList rows = TestFolder::StoredRows(table);
-        for (const QString& row : rows)
-            numbers.insert(row.section(u',', 0, 0));
-        QCOMPARE(numbers.size(), rows.size());
-    }
+    for (const char* table : {"users", "entries", "ukmain"})
+        QCOMPARE(TestFolder::StoredNumbers(table).split(' ').removeDuplicates(), 0);
     said.sort();
     found.sort();
     QCOMPARE(found, said);
@@ -110,8 +103,11 @@ class CopiesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void NoRowIsLostWithTwoCopies() { RunCopies(2); }
-    void NoRowIsLostWithThreeCopies() { RunCopies(3); }
+    void NoRowIsLostWithTwoOrThreeCopies()
+    {
+        RunCopies(2);
+        RunCopies(3);
+    }
 
     void LastOneOutCompacts()
     {

@@ -1,4 +1,5 @@
 #include "support/file_bytes.h"
+#include "support/forked.h"
 #include "support/test_window.h"
 
 #include "shell/menu_table.h"
@@ -54,6 +55,30 @@ bool Catches(qint64 process, int signal)
     return (text.mid(text.indexOf("SigCgt:") + 8, 16).toULongLong(nullptr, 16) >> (signal - 1) & 1U) != 0;
 }
 
+/// How often the key of a file lies in the memory of a process that is like this one. It is kept as a text, in which
+/// the key's 64 digits stand between "x'" and those of the file's salt.
+QString KeysInMemory(const QByteArray& salt)
+{
+    return RunForked([&salt](const ForkedProcess::Say& say) {
+               QFile memory("/proc/self/mem");
+               if (!memory.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+                   return;
+               int found = 0;
+               for (const QByteArray& line : BytesOf("/proc/self/maps").split('\n')) {
+                   if (!line.contains(" rw-p "))
+                       continue;
+                   const QList<QByteArray> ends = line.split(' ').first().split('-');
+                   const qint64 start = ends[0].toLongLong(nullptr, 16);
+                   memory.seek(start);
+                   const QByteArray bytes = memory.read(ends[1].toLongLong(nullptr, 16) - start);
+                   for (qsizetype at = bytes.indexOf(salt); at >= 0; at = bytes.indexOf(salt, at + 1))
+                       found += bytes.mid(at - 66, 2) == "x'" ? 1 : 0;
+               }
+               say(QString::number(found));
+           })
+        .lines.value(0);
+}
+
 } // namespace
 
 class MainWindowTest : public QObject
@@ -91,6 +116,8 @@ private Q_SLOTS:
             window.Click(clicked);
             QCOMPARE(ShownPage(window), QString(page));
         }
+        // Beneath the pages.
+        QCOMPARE(window.TextsOf({"LFlabel1", "LFlabel2"}), QString("Loading Data|Please wait"));
     }
 
     /// The start page, left while the links cover it, comes back whole, and the menu keeps the focus.
@@ -194,6 +221,16 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(window.files.Path("drawdata.tv3")).size() < size / 2);
         QCOMPARE(window.files.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
         QCOMPARE(TestFolder::StoredRows("ukmain"), kept);
+    }
+
+    void TheKeyIsWipedAtTheEnd()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const QByteArray salt = BytesOf(folder.Path("drawdata.tv3")).first(16).toHex();
+        OpenDatabaseFiles();
+        QVERIFY(KeysInMemory(salt).toInt() > 0);
+        QCOMPARE(CloseAndCompactFiles(), QString());
+        QCOMPARE(KeysInMemory(salt), QString("0"));
     }
 
     void ASignalEndsTheProgramInOrderAndAnotherCopyKeepsItsFiles()
