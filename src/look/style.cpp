@@ -48,10 +48,8 @@ QRect RingPlace(const QStyleOption& option, const QWidget* widget)
         return option.rect;
     const QRect whole = widget->rect();
     const QRect caption = option.rect.adjusted(-Spacing::Inside, 0, Spacing::Inside, 0);
-    const bool leftToRight = option.direction == Qt::LeftToRight;
-    return (leftToRight ? caption | QRect(whole.topLeft(), QSize(1, whole.height()))
-                        : caption | QRect(whole.topRight(), QSize(1, whole.height()))) &
-           whole;
+    const QPoint markSide = option.direction == Qt::LeftToRight ? whole.topLeft() : whole.topRight();
+    return (caption | QRect(markSide, QSize(1, whole.height()))) & whole;
 }
 
 /// The Tab key enters a group of choices at the chosen one; the arrow keys lead to the others.
@@ -163,14 +161,13 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
         return;
     }
-    if (element == CE_HeaderLabel) {
-        if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
-            QStyleOptionHeaderV2 quiet;
-            quiet.QStyleOptionHeader::operator=(*header);
-            quiet.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::PlaceholderText));
-            QProxyStyle::drawControl(element, &quiet, painter, widget);
-            return;
-        }
+    if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        header != nullptr && element == CE_HeaderLabel) {
+        QStyleOptionHeaderV2 quiet;
+        quiet.QStyleOptionHeader::operator=(*header);
+        quiet.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::PlaceholderText));
+        QProxyStyle::drawControl(element, &quiet, painter, widget);
+        return;
     }
     if (const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
         list != nullptr && element == CE_ComboBoxLabel && list->currentText.size() > MostDrawnCharacters) {
@@ -191,19 +188,17 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                const QWidget* widget) const
 {
-    if (control == CC_ScrollBar) {
-        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
-            DrawScrollBar(*bar, painter);
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        bar != nullptr && control == CC_ScrollBar) {
+        DrawScrollBar(*bar, painter);
         return;
     }
-    if (control == CC_ToolButton) {
-        if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
-            // The heading of a calendar opens its months without an arrow across its text.
-            QStyleOptionToolButton plain = *button;
-            plain.features &= ~QStyleOptionToolButton::HasMenu;
-            QProxyStyle::drawComplexControl(control, &plain, painter, widget);
-            return;
-        }
+    if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+        // The heading of a calendar opens its months without an arrow across its text.
+        QStyleOptionToolButton plain = *button;
+        plain.features &= ~QStyleOptionToolButton::HasMenu;
+        QProxyStyle::drawComplexControl(control, &plain, painter, widget);
+        return;
     }
     if (control != CC_ComboBox) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -271,11 +266,10 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
             return size;
         return {size.width(), qMax(size.height(), ControlHeight)};
     case CT_ComboBox:
+    case CT_SpinBox:
         return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
     case CT_ItemViewItem:
         return {size.width(), qMax(size.height(), ListLineHeight)};
-    case CT_SpinBox:
-        return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
     default:
         return size;
     }
