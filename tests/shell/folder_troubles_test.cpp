@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 namespace {
@@ -35,11 +36,11 @@ Trouble Rights(const QString& name, mode_t mode, bool stranger = false)
 
 } // namespace
 
-extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
+// Here the toolkit and the engine read the date.
+extern "C" int gettimeofday(timeval* now, void* /*zone*/) noexcept
 {
-    const auto result = static_cast<int>(::syscall(SYS_clock_gettime, clock, time));
-    if (clock == CLOCK_REALTIME)
-        time->tv_sec -= ClockSetBack;
+    const auto result = static_cast<int>(::syscall(SYS_gettimeofday, now, nullptr));
+    now->tv_sec -= ClockSetBack;
     return result;
 }
 
@@ -66,7 +67,10 @@ private Q_SLOTS:
         const Trouble none = [](const QString&) {};
         const Trouble moved = [](const QString& folder) { QDir().rename(folder, folder + ".moved"); };
         const Trouble removed = [](const QString& folder) { QDir(folder).removeRecursively(); };
-        const Trouble clockSetBack = [](const QString&) { ClockSetBack = 40L * 365 * 86400; };
+        const Trouble clockSetBack = [](const QString&) {
+            ClockSetBack = 40L * 365 * 86400;
+            QVERIFY(QDate::currentDate().year() < 2000);
+        };
         const Trouble rightsRefused = [](const QString&) { RightsRefused = true; };
         const QString refused = "could not be changed, because the file or its folder may not be changed.";
         const bool isRoot = ::geteuid() == 0;
