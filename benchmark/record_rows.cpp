@@ -1,6 +1,6 @@
 #include "rows.h"
 
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 #include "base/dates.h"
 #include "bench_data.h"
 #include "checking/check_report.h"

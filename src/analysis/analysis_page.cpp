@@ -143,16 +143,12 @@ void AnalysisPage::screen_Click()
     const auto hideLoading = qScopeGuard([this] { loading->hide(); });
     repaint();
     const int chart = ScreensOf(game)[static_cast<size_t>(selectedScreen) - 1].chart;
-    if (chart != 0)
-        ShowChart(chart);
-    else
+    if (chart == 0) {
         pages.Page(game.IsMain() ? 23 : 24)->Prepare();
-}
-
-void AnalysisPage::ShowChart(int chartNumber)
-{
+        return;
+    }
     GraphWindow frmgraph(window());
-    if (frmgraph.PrepareChart(chartNumber))
+    if (frmgraph.PrepareChart(chart))
         frmgraph.exec();
 }
 

@@ -32,7 +32,6 @@ private:
     void screen_MouseMove(int index);
     /// F21screen_Click, F21title_Click, F21label_Click and those of page 22.
     void screen_Click();
-    void ShowChart(int chartNumber);
     void PlaceShape();
 
     const Game& game;

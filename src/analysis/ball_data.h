@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/ball_type.h"
+#include "analysis/charts.h"
 
 #include <QString>
 

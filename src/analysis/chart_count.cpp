@@ -1,4 +1,4 @@
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 
 #include "base/numbers.h"
 #include "base/texts.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/ball_type.h"
+#include "game/game.h"
 
 #include <QColor>
 #include <QString>
@@ -8,6 +8,27 @@
 
 #include <span>
 #include <vector>
+
+/// Which balls of a draw are looked at. The values are the places in the list that the player chooses from.
+enum class BallType
+{
+    MainBalls = 0,
+    ExtraBall = 1,
+    AllBalls = 2
+};
+
+/// Some neighbouring slots of a draw: from `first` up to, but not including, `end`.
+struct SlotRange
+{
+    int first;
+    int end;
+};
+
+inline SlotRange SlotsOf(const Game& game, BallType type)
+{
+    return {type == BallType::ExtraBall ? game.mainBalls : 0,
+            type == BallType::MainBalls ? game.mainBalls : game.BallCount()};
+}
 
 /// The colours of the bars, by their places in the standard palette of sixteen.
 enum class BarColour
@@ -68,3 +89,7 @@ std::span<const Chart> AllCharts();
 
 /// The chart of that number. There must be one.
 const Chart& FindChart(int number);
+
+/// Counts the chart over all draws of its game, looking at the balls of the given type; what is no ball, machine or set
+/// of balls of the chart has no bar and is left out. Empty where there are no draws. Throws Failure.
+std::vector<ChartBar> CountBars(const Chart& chart, BallType type);

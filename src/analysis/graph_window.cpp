@@ -1,7 +1,7 @@
 #include "analysis/graph_window.h"
 
 #include "analysis/bar_chart.h"
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 #include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/label.h"

@@ -8,15 +8,6 @@
 #include <cmath>
 #include <string>
 
-namespace {
-
-bool IsDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-} // namespace
-
 double NumericValue(QStringView text)
 {
     const QByteArray utf8 = text.toUtf8();
@@ -31,7 +22,8 @@ double NumericValue(std::string_view utf8)
             continue;
         const bool isSign = number.empty() && (character == '-' || character == '+');
         const bool isPoint = character == '.' && number.find('.') == std::string::npos;
-        if (!IsDigit(character) && !isSign && !isPoint)
+        const bool isDigit = character >= '0' && character <= '9';
+        if (!isDigit && !isSign && !isPoint)
             break;
         number += character;
     }

@@ -5,7 +5,7 @@
 #include "builder/number_window.h"
 #include "builder/random_source.h"
 #include "builder/step_card.h"
-#include "controls/card_row.h"
+#include "controls/card.h"
 #include "controls/grid_view.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"

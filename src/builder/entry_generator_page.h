@@ -1,6 +1,5 @@
 #pragma once
 
-#include "builder/builder_state.h"
 #include "builder/builder_steps.h"
 #include "builder/entry_builders.h"
 #include "controls/page_frame.h"

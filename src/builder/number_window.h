@@ -1,6 +1,6 @@
 #pragma once
 
-#include "builder/builder_state.h"
+#include "builder/builder_steps.h"
 #include "builder/entry_builders.h"
 #include "controls/small_window.h"
 

@@ -3,7 +3,6 @@
 #include "base/dates.h"
 #include "checking/report_view.h"
 #include "controls/card.h"
-#include "controls/card_row.h"
 #include "controls/guard.h"
 #include "controls/keeping_room.h"
 #include "controls/label.h"

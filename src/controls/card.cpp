@@ -19,3 +19,39 @@ void Card::paintEvent(QPaintEvent* /*event*/)
     painter.setBrush(palette().color(QPalette::AlternateBase));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
 }
+
+CardRow::CardRow(QWidget* parent) : QBoxLayout(LeftToRight, parent)
+{
+    setSpacing(Spacing::Cards);
+}
+
+QSize CardRow::minimumSize() const
+{
+    int width = 0;
+    for (const QSize& size : SmallestSizes())
+        width = qMax(width, size.width());
+    return {width, QBoxLayout::minimumSize().height()};
+}
+
+void CardRow::setGeometry(const QRect& place)
+{
+    int rowWidth = -spacing();
+    for (const QSize& size : SmallestSizes())
+        rowWidth += size.width() + spacing();
+    const Direction wanted = rowWidth <= place.width() ? LeftToRight : TopToBottom;
+    if (wanted != direction()) {
+        setDirection(wanted);
+        // The page must give it another height.
+        update();
+    }
+    QBoxLayout::setGeometry(place);
+}
+
+QList<QSize> CardRow::SmallestSizes() const
+{
+    QList<QSize> sizes;
+    for (int item = 0; item < count(); ++item)
+        if (!itemAt(item)->isEmpty())
+            sizes.append(itemAt(item)->minimumSize());
+    return sizes;
+}

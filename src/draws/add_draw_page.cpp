@@ -2,7 +2,6 @@
 
 #include "balls/ball_fields.h"
 #include "controls/card.h"
-#include "controls/card_row.h"
 #include "controls/guard.h"
 #include "controls/message_box.h"
 #include "controls/month_calendar.h"

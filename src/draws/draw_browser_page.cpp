@@ -1,7 +1,7 @@
 #include "draws/draw_browser_page.h"
 
 #include "balls/ball_row.h"
-#include "controls/card_row.h"
+#include "controls/card.h"
 #include "controls/guard.h"
 #include "controls/keeping_room.h"
 #include "controls/label.h"

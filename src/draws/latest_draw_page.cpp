@@ -2,7 +2,6 @@
 
 #include "balls/ball_row.h"
 #include "controls/card.h"
-#include "controls/card_row.h"
 #include "controls/keeping_room.h"
 #include "controls/label.h"
 #include "draws/draw_view.h"

@@ -12,11 +12,8 @@ namespace {
 constexpr int Iterations = 256000;
 constexpr std::size_t KeyBytes = 32;
 
-std::map<std::string, std::string, std::less<>>& KeptKeys()
-{
-    static std::map<std::string, std::string, std::less<>> keys;
-    return keys;
-}
+/// By salt and password.
+std::map<std::string, std::string, std::less<>> keptKeys;
 
 void AppendHexadecimal(std::string& text, const unsigned char* bytes, std::size_t count)
 {
@@ -32,14 +29,14 @@ void AppendHexadecimal(std::string& text, const unsigned char* bytes, std::size_
 const std::string& DerivedKeyText(std::string_view password, std::string_view salt)
 {
     const std::string name = std::string(salt) + std::string(password);
-    if (const auto kept = KeptKeys().find(name); kept != KeptKeys().end())
+    if (const auto kept = keptKeys.find(name); kept != keptKeys.end())
         return kept->second;
     std::array<unsigned char, KeyBytes> key{};
     const auto* saltBytes = reinterpret_cast<const unsigned char*>(salt.data());
     if (PKCS5_PBKDF2_HMAC(password.data(), static_cast<int>(password.size()), saltBytes, static_cast<int>(salt.size()),
                           Iterations, EVP_sha512(), static_cast<int>(key.size()), key.data()) != 1)
         throw std::runtime_error("The key of the draw records could not be derived.");
-    std::string& keyText = KeptKeys()[name];
+    std::string& keyText = keptKeys[name];
     // A string that grows would leave its beginnings behind in memory.
     keyText.reserve(2 * (KeyBytes + salt.size()) + 3);
     keyText += "x'";
@@ -52,7 +49,7 @@ const std::string& DerivedKeyText(std::string_view password, std::string_view sa
 
 void WipeDerivedKeys()
 {
-    for (auto& [name, keyText] : KeptKeys())
+    for (auto& [name, keyText] : keptKeys)
         OPENSSL_cleanse(keyText.data(), keyText.size());
-    KeptKeys().clear();
+    keptKeys.clear();
 }

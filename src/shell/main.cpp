@@ -5,8 +5,7 @@
 #include "shell/splash_window.h"
 #include "shell/termination_watch.h"
 #include "store/open_databases.h"
-#include "utilities/shut_down.h"
-#include "utilities/start_up.h"
+#include "utilities/start_and_end.h"
 
 #include <csignal>
 #include <filesystem>

@@ -11,7 +11,7 @@
 #include "shell/menu_column.h"
 #include "shell/menu_table.h"
 #include "shell/page_area.h"
-#include "utilities/shut_down.h"
+#include "utilities/start_and_end.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>

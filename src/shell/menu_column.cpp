@@ -94,10 +94,8 @@ void MenuColumn::Mark(int suboption)
 
 void MenuColumn::FocusChosen()
 {
-    QWidget* chosen = buttons.constFirst();
-    if (open > 0)
-        chosen = suboptions[qMax(marked, 1) - 1];
-    chosen->setFocus(Qt::TabFocusReason);
+    QAbstractButton* first = buttons.constFirst();
+    (open > 0 ? suboptions[qMax(marked, 1) - 1] : first)->setFocus(Qt::TabFocusReason);
 }
 
 void MenuColumn::PlaceChildren()

@@ -4,12 +4,13 @@
 #include "controls/label.h"
 #include "controls/page_switch.h"
 #include "controls/small_window.h"
+#include "look/artwork.h"
 #include "look/button.h"
-#include "look/logo_picture.h"
 #include "look/theme.h"
 #include "utilities/advanced_window.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -23,6 +24,20 @@ QLabel* Centred(QLabel* label)
     label->setAlignment(Qt::AlignCenter);
     return label;
 }
+
+/// The product's logo, a square of the given side in logical pixels.
+class LogoPicture : public QWidget
+{
+public:
+    explicit LogoPicture(int side) { setFixedSize(side, side); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        DrawLogo(painter, QRectF(rect()).adjusted(1, 1, -1, -1));
+    }
+};
 
 /// The about window, frmabout.
 class AboutWindow : public SmallWindow

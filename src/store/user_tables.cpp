@@ -1,5 +1,8 @@
 #include "store/user_tables.h"
 
+#include "base/dates.h"
+#include "game/entry_row.h"
+
 const TableLayout& UsersTable()
 {
     static const TableLayout users{"users", {{"UserId", "INTEGER"}, {"UserName", "TEXT"}, {"SpendLimit", "NUMERIC"}}};
@@ -8,22 +11,13 @@ const TableLayout& UsersTable()
 
 const TableLayout& EntriesTable()
 {
-    static const TableLayout entries{"entries",
-                                     {{"EntryId", "INTEGER"},
-                                      {"UserId", "INTEGER"},
-                                      {"DrawType", "INTEGER"},
-                                      {"Ball1", "INTEGER"},
-                                      {"Ball2", "INTEGER"},
-                                      {"Ball3", "INTEGER"},
-                                      {"Ball4", "INTEGER"},
-                                      {"Ball5", "INTEGER"},
-                                      {"Ball6", "INTEGER"},
-                                      {"Monday", "INTEGER"},
-                                      {"Tuesday", "INTEGER"},
-                                      {"Wednesday", "INTEGER"},
-                                      {"Thursday", "INTEGER"},
-                                      {"Friday", "INTEGER"},
-                                      {"Saturday", "INTEGER"},
-                                      {"Sunday", "INTEGER"}}};
+    static const TableLayout entries = [] {
+        TableLayout table{"entries", {{"EntryId", "INTEGER"}, {"UserId", "INTEGER"}, {"DrawType", "INTEGER"}}};
+        for (int ball = 1; ball <= EntryBalls; ++ball)
+            table.columns.push_back({"Ball" + std::to_string(ball), "INTEGER"});
+        for (const QString& day : DayNames)
+            table.columns.push_back({day.toStdString(), "INTEGER"});
+        return table;
+    }();
     return entries;
 }

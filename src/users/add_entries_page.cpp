@@ -5,7 +5,6 @@
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "controls/card.h"
-#include "controls/card_row.h"
 #include "controls/guard.h"
 #include "controls/label.h"
 #include "controls/message_box.h"

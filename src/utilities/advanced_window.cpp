@@ -12,7 +12,7 @@
 #include "utilities/database_file.h"
 #include "utilities/file_dialog.h"
 #include "utilities/import.h"
-#include "utilities/start_up.h"
+#include "utilities/start_and_end.h"
 
 #include <QFile>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "support/test_window.h"
 
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 
 namespace {
 

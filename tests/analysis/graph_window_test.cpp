@@ -3,8 +3,8 @@
 
 #include "support/test_window.h"
 
-#include "analysis/chart_count.h"
 #include "analysis/chart_layout.h"
+#include "analysis/charts.h"
 #include "analysis/graph_window.h"
 
 #include <QClipboard>

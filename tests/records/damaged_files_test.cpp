@@ -8,7 +8,7 @@
 #include "support/raw_file.h"
 
 #include "analysis/ball_data.h"
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 #include "base/dates.h"
 #include "checking/check_report.h"
 #include "game/game.h"

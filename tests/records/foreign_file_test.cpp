@@ -2,7 +2,7 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
-#include "analysis/chart_count.h"
+#include "analysis/charts.h"
 #include "walk.h"
 
 #include <QElapsedTimer>

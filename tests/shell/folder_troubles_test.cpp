@@ -1,8 +1,7 @@
 #include "support/forked.h"
 #include "support/test_window.h"
 
-#include "utilities/shut_down.h"
-#include "utilities/start_up.h"
+#include "utilities/start_and_end.h"
 
 #include <QDir>
 

@@ -3,8 +3,7 @@
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
-#include "utilities/shut_down.h"
-#include "utilities/start_up.h"
+#include "utilities/start_and_end.h"
 
 #include <cerrno>
 

@@ -4,8 +4,7 @@
 
 #include "shell/menu_table.h"
 #include "shell/page_table.h"
-#include "utilities/shut_down.h"
-#include "utilities/start_up.h"
+#include "utilities/start_and_end.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "support/test_window.h"
 
 #include "base/texts.h"
-#include "utilities/shut_down.h"
+#include "utilities/start_and_end.h"
 
 #include <QDir>
 #include <QListView>

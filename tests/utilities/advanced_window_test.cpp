@@ -6,8 +6,7 @@
 
 #include "utilities/backup.h"
 #include "utilities/database_file.h"
-#include "utilities/shut_down.h"
-#include "utilities/start_up.h"
+#include "utilities/start_and_end.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
