@@ -41,6 +41,19 @@ void TakeLabel(QComboBox& list)
             label->setBuddy(&list);
 }
 
+/// Presses a button by Enter, as Space does without our help. Whether nothing more is to come of the key.
+bool TakeKey(QObject* watched, const QKeyEvent& key)
+{
+    const bool press = key.type() == QEvent::KeyPress;
+    if (key.key() == Qt::Key_Alt)
+        ShowShortcutLetters(press);
+    auto* button = PressedButton(watched);
+    if (button == nullptr || !press || !IsEnter(key))
+        return false;
+    button->click();
+    return true;
+}
+
 constexpr char CurrentCellProperty[] = "currentCell";
 
 } // namespace
@@ -69,18 +82,9 @@ bool InputWatch::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
-    case QEvent::KeyRelease: {
+    case QEvent::KeyRelease:
         lastInputWasKey = true;
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        const bool press = event->type() == QEvent::KeyPress;
-        if (key.key() == Qt::Key_Alt)
-            ShowShortcutLetters(press);
-        auto* button = PressedButton(watched);
-        if (button == nullptr || !press || !IsEnter(key))
-            return false;
-        button->click();
-        return true;
-    }
+        return TakeKey(watched, static_cast<QKeyEvent&>(*event));
     case QEvent::MouseButtonPress:
         lastInputWasKey = false;
         return false;

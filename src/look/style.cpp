@@ -144,45 +144,33 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         if (IsAccent(option, widget) && (option->state & State_Enabled))
             drawn.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
         QProxyStyle::drawControl(element, &drawn, painter, widget);
-        return;
-    }
-    if (element == CE_ShapedFrame && IsBareView(widget)) {
+    } else if (element == CE_ShapedFrame && IsBareView(widget)) {
         // In a view the selection may be hidden, whose colour is the ring's elsewhere.
         if (option->state & State_HasFocus)
             DrawFocusRing(painter, option->rect, QApplication::palette());
-        return;
-    }
-    if (element == CE_HeaderSection) {
+    } else if (element == CE_HeaderSection) {
         DrawHeaderSection(option, painter);
-        return;
-    }
-    if (element == CE_HeaderEmptyArea) {
+    } else if (element == CE_HeaderEmptyArea) {
         // Beside the last column is the room of the scroll bar, which has no line.
         painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
-        return;
-    }
-    if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
-        header != nullptr && element == CE_HeaderLabel) {
+    } else if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+               header != nullptr && element == CE_HeaderLabel) {
         QStyleOptionHeaderV2 quiet;
         quiet.QStyleOptionHeader::operator=(*header);
         quiet.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::PlaceholderText));
         QProxyStyle::drawControl(element, &quiet, painter, widget);
-        return;
-    }
-    if (const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-        list != nullptr && element == CE_ComboBoxLabel && list->currentText.size() > MostDrawnCharacters) {
+    } else if (const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+               list != nullptr && element == CE_ComboBoxLabel && list->currentText.size() > MostDrawnCharacters) {
         QStyleOptionComboBox beginning(*list);
         beginning.currentText.truncate(MostDrawnCharacters);
         QProxyStyle::drawControl(element, &beginning, painter, widget);
-        return;
-    }
-    if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-        item != nullptr && element == CE_ItemViewItem) {
+    } else if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+               item != nullptr && element == CE_ItemViewItem) {
         const QStyleOptionViewItem beginning = Shortened(*item);
         QProxyStyle::drawControl(element, &beginning, painter, widget);
-        return;
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
     }
-    QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
