@@ -27,13 +27,11 @@ const QString PlaceForASite = u"Your web site HERE."_s;
 /// What of a field can be shown: its beginning, without the characters that would steer the drawing.
 QString ShownField(int field)
 {
-    constexpr int mostCharacters = 300;
-    const QString text = links.IsEmpty() ? QString() : FromUtf8(links.Text(field));
-    QString shown = text.left(mostCharacters);
+    QString shown = links.IsEmpty() ? QString() : ShownText(links.Text(field));
     for (QChar& character : shown)
         if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format)
             character = u' ';
-    return text.size() > mostCharacters ? shown + u'\x2026' : shown;
+    return shown;
 }
 
 QString AddressIn(int field)

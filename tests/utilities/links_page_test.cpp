@@ -4,7 +4,6 @@
 #include "utilities/link_label.h"
 
 #include <QDesktopServices>
-#include <QElapsedTimer>
 #include <QUrl>
 
 /// Takes the addresses that would go to the default program.
@@ -143,12 +142,10 @@ private Q_SLOTS:
             TestWindow window;
             const QSize size = window.Window().size();
             AddLink({text, text, text, text, text});
-            QElapsedTimer clock;
-            clock.start();
             window.Click("F0links");
             window.Click("F25next");
-            QVERIFY(clock.elapsed() < 3000);
-            QVERIFY(!window.TextsOf("F25link", "01234").contains('\n'));
+            const QString shown = window.TextsOf("F25link", "01234");
+            QVERIFY(!shown.contains('\n') && shown.size() < 5 * 250);
             QCOMPARE(window.Window().size(), size);
             QVERIFY(window.Find("F25back")->geometry().bottom() < window.Find("Frame_25")->height());
             QVERIFY(window.Find("Frame_25")->minimumSizeHint().width() < 800);
