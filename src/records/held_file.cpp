@@ -69,7 +69,7 @@ void HeldFile::ClearTemporaries() const
     }
     const std::string unfinished = file.filename().string() + UnfinishedMark;
     for (const auto& entry : std::filesystem::directory_iterator(FileBehind(file).parent_path()))
-        if (entry.path().filename().string().starts_with(unfinished) && entry.is_regular_file() && !entry.is_symlink())
+        if (entry.path().filename().string().starts_with(unfinished) && entry.is_regular_file())
             DeleteFileIfThere(entry.path());
 }
 

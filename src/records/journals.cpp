@@ -52,6 +52,6 @@ void RefuseJournalOfSeveralFiles(const std::filesystem::path& file, const std::s
     std::array<char, 16> end{};
     journal.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);
     journal.read(end.data(), end.size());
-    if (journal && std::string_view(end.data() + 8, 8) == mark && std::string_view(end.data(), 4) != "\0\0\0\0"sv)
+    if (journal && std::string_view(end.data() + 8, 8) == mark)
         throw Failure(doing, "the journal beside it names another file", path.string());
 }
