@@ -128,6 +128,7 @@ void PlanDiskFault(DiskFault fault, int call, int error, const std::vector<std::
     ChosenCall = call;
     CallsMade = 0;
     Error = error;
+    Came = false;
 }
 
 bool DiskFaultCame()
@@ -185,7 +186,11 @@ ssize_t write(int descriptor, const void* bytes, size_t count)
 
 ssize_t pwrite64(int descriptor, const void* bytes, size_t count, off64_t offset)
 {
-    return Fails(descriptor, true) ? -1 : ::syscall(SYS_pwrite64, descriptor, bytes, count, offset);
+    if (Fails(descriptor, true))
+        return Planned != DiskFault::WrongBytes
+                   ? -1
+                   : ::syscall(SYS_pwrite64, descriptor, std::string(count, '\0').data(), count, offset);
+    return ::syscall(SYS_pwrite64, descriptor, bytes, count, offset);
 }
 
 ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset)

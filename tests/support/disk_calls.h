@@ -13,7 +13,9 @@ enum class DiskFault
     /// This call fails, and no other.
     OneFailure,
     /// This call and all later ones fail: those that need room where the error is ENOSPC, else every one.
-    FailuresFromThen
+    FailuresFromThen,
+    /// This call and all later ones write zeros in the place of what they are given, without a word.
+    WrongBytes
 };
 
 /// From now on the calls are counted, from 1, and the chosen one meets the fault. `error` is the errno of a failure;

@@ -1,9 +1,11 @@
+#include "support/disk_calls.h"
 #include "support/failure_of.h"
 #include "support/file_bytes.h"
 #include "support/forked.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
 
+#include "records/held_file.h"
 #include "utilities/database_file.h"
 #include "utilities/import.h"
 
@@ -57,6 +59,17 @@ private Q_SLOTS:
             QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
             QVERIFY(QFileInfo(live).isSymLink() == link);
         }
+    }
+
+    void CopyThatDiffersIsRefused()
+    {
+        const TestFolder folder(TestFolder::Content::Empty);
+        const HeldFile live(UserDataPath, {}, "The file could not be copied");
+        TemporaryFile copy(folder.Path("copy.tv3").toStdString());
+        PlanDiskFault(DiskFault::WrongBytes, 1);
+        const FailureOf copying([&] { live.CopyTo(copy); });
+        PlanDiskFault(DiskFault::WrongBytes, 0);
+        QCOMPARE(copying.detail, QString("the copy differs"));
     }
 
     void PipeIsNoFileToImport()
