@@ -9,7 +9,7 @@ namespace {
 
 const QColor EntryColour(0x5B, 0x74, 0xD7);
 
-/// A font that is stronger than the grid's and else the same.
+/// A font that is stronger than the grid's and otherwise the same.
 QFont StrongOnly()
 {
     QFont font;

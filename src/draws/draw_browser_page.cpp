@@ -122,7 +122,7 @@ DrawBrowserPage::DrawBrowserPage()
     Body()->addLayout(columns);
     MakeForm();
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });
-    // The arrow keys walk through the dates; what is shown goes with them.
+    // The arrow keys go through the dates; what is shown goes with them.
     ConnectGuarded(F9Cal, &MonthCalendar::selectionChanged, this, [this] { FindDrawsOfDate(F9Cal->selectedDate()); });
 }
 

@@ -83,7 +83,7 @@ void DrawGridSection::OpenSelectedDraw(int page)
     const GridView::RowSpan rows = grid->SelectedRows();
     if (rows.Count() > 1)
         ShowMessage(u"Select only ONE draw."_s);
-    // A tool for assistance can take a selection away.
+    // An assistive tool can take a selection away.
     if (rows.Count() != 1)
         return;
     MoveToDraw(DrawListOf(game), shown[rows.first].Mark(), "The draw could not be shown");

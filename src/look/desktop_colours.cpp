@@ -21,7 +21,7 @@ const QString Group = u"org.freedesktop.appearance"_s;
 const QString Key = u"color-scheme"_s;
 constexpr uint PreferDark = 1;
 
-/// The portal wraps the value once more when it is asked for it.
+/// The portal wraps a value that it is asked for once more.
 QVariant Unwrapped(QVariant value)
 {
     while (value.userType() == qMetaTypeId<QDBusVariant>())

@@ -115,7 +115,7 @@ bool InputWatch::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Wheel:
         if (!watched->isWidgetType() || !WouldChangeUnfocusedValue(*static_cast<QWidget*>(watched)))
             return false;
-        // What lies around it may roll.
+        // What lies around it may scroll.
         event->ignore();
         return true;
     default:

@@ -8,7 +8,7 @@ class QWidget;
 // Captions stand as they are given, without the mark of a shortcut key: the key is kept by the button, and its letter
 // is underlined while the Alt key is held.
 
-/// Whether the Alt key is held, while which letters are underlined.
+/// Whether the Alt key is held; the letters are underlined then.
 bool AltIsHeld();
 
 /// Makes Alt with a letter press a button; none when the letter is null.

@@ -22,9 +22,9 @@ Engine OpenEngine(const std::filesystem::path& file, int flags, const std::strin
 /// The length of the salt at the start of a protected file.
 inline constexpr std::size_t SaltBytes = 16;
 
-/// Opens an existing file in the engine with every guard against what a file of unknown origin may carry, and proves
-/// the key by reading. `firstBytes` are the first bytes of the file. Throws Failure with the given clause, also where
-/// the file has more than 64 MiB.
+/// Opens an existing file in the engine with every protection against what a file of unknown origin may carry, and
+/// proves the key by reading. `firstBytes` are the first bytes of the file. Throws Failure with the given clause, also
+/// where the file has more than 64 MiB.
 Engine OpenGuarded(const std::filesystem::path& file, const std::string& connect, std::string_view firstBytes,
                    const std::string& doing);
 

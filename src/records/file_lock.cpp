@@ -12,7 +12,7 @@
 
 namespace {
 
-// Behind the 512 bytes that the engine itself locks.
+// After the 512 bytes that the engine itself locks.
 constexpr off_t LockedByte = 0x40000000 + 1024;
 constexpr auto LongestWait = std::chrono::seconds(5);
 
