@@ -4,6 +4,7 @@
 #include "records/table.h"
 
 #include <algorithm>
+#include <compare>
 #include <unordered_map>
 
 namespace {
@@ -55,8 +56,8 @@ void RecordSet::PutInOrder()
     // Where all fields are equal, the row that was added first comes first.
     const auto before = [this](int place, int other) {
         for (const int column : layout.orderedBy)
-            if (const auto difference = rows->Compare(place, other, column); difference != 0)
-                return difference > 0;
+            if (const auto difference = rows->Compare(place, other, column); std::is_neq(difference))
+                return std::is_gt(difference);
         return place < other;
     };
     std::vector<int> places;

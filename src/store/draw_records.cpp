@@ -64,7 +64,7 @@ void MoveToDraw(RecordSet& set, const Bookmark& mark, const std::string& doing)
 void AddDraw(RecordSet& table, const Game& game, const EnteredDraw& draw)
 {
     table.AddNew();
-    table.SetField(DrawField::DrawId, table.NextNumber());
+    table.SetField(DrawField::DrawId, static_cast<double>(table.NextNumber()));
     table.SetField(DrawField::Day, ShortDayName(draw.date).toStdString());
     table.SetField(DrawField::Date, IsoDate(draw.date));
     SetDrawnBalls(table, game, draw);

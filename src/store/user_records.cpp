@@ -103,7 +103,7 @@ bool MayStoreEntries(int count, int more, double spendLimit)
 void AddUser(RecordSet& users, const QString& name, double spendLimit)
 {
     users.AddNew();
-    users.SetField(UserField::UserId, users.NextNumber());
+    users.SetField(UserField::UserId, static_cast<double>(users.NextNumber()));
     SetUser(users, name, spendLimit);
 }
 
@@ -116,8 +116,8 @@ void ChangeUser(RecordSet& users, const QString& name, double spendLimit)
 void AddEntry(RecordSet& entries, const EntryRow& entry)
 {
     entries.AddNew();
-    entries.SetField(EntryField::EntryId, entry.number);
-    entries.SetField(EntryField::UserId, entry.userId);
+    entries.SetField(EntryField::EntryId, static_cast<double>(entry.number));
+    entries.SetField(EntryField::UserId, static_cast<double>(entry.userId));
     entries.SetField(EntryField::DrawType, entry.drawType);
     SetNumbersAndDays(entries, entry.numbers, entry.days);
 }
