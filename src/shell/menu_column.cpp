@@ -6,7 +6,6 @@
 #include "shell/menu_table.h"
 
 #include <QFrame>
-#include <QStyle>
 #include <QtMath>
 
 using namespace Qt::StringLiterals;
@@ -141,12 +140,10 @@ QSize MenuColumn::sizeHint() const
     for (const MenuButton* button : buttons)
         width = qMax(width, button->sizeHint().width() + ButtonMargin);
     const QFontMetricsF metrics(FontFor(TextRole::Strong));
-    // Where the screen is low, the scroll bar stands beside the sub-options.
-    const int right = qMax(ButtonMargin, style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     for (int group = 1; group <= MenuGroups; ++group)
         for (const MenuSuboption& suboption : MenuGroupOf(group).suboptions)
             width = qMax(width, SuboptionLeft + qCeil(metrics.horizontalAdvance(suboption.caption)) +
-                                    2 * Spacing::Inside + right);
+                                    2 * Spacing::Inside + ButtonMargin);
     return {width, minimumSizeHint().height()};
 }
 
