@@ -15,17 +15,11 @@ namespace {
 using MenuMeasure::ButtonMargin;
 using MenuMeasure::RowHeight;
 
-constexpr int TwipsPerPixel = 10;
 constexpr int SuboptionLeft = 50;
 constexpr int SuboptionHeight = 34;
 
 constexpr Picture GroupPictures[] = {Picture::AddDraws, Picture::DrawRecords, Picture::Users, Picture::Generator,
                                      Picture::Analysis};
-
-int Pixels(int twips)
-{
-    return twips / TwipsPerPixel;
-}
 
 } // namespace
 
@@ -105,15 +99,14 @@ void MenuColumn::PlaceChildren()
     logo->setGeometry(ButtonMargin, 14, buttonWidth, 62);
     line->setGeometry(ButtonMargin, height() - 2 * ButtonMargin - RowHeight - 6, buttonWidth, 1);
     for (int group = 1; group <= MenuGroups; ++group)
-        buttons[group - 1]->setGeometry(ButtonMargin, Pixels(GroupButtonTop(group, open)), buttonWidth, RowHeight);
+        buttons[group - 1]->setGeometry(ButtonMargin, GroupButtonTop(group, open), buttonWidth, RowHeight);
     for (int number = 1; number <= MostSuboptions; ++number)
         if (const MenuSuboption* suboption = FindSuboption(open, number))
-            suboptions[number - 1]->setGeometry(SuboptionLeft, Pixels(suboption->top),
+            suboptions[number - 1]->setGeometry(SuboptionLeft, suboption->top,
                                                 ButtonMargin + buttonWidth - SuboptionLeft, SuboptionHeight);
     if (const MenuSuboption* suboption = FindSuboption(open, marked)) {
-        constexpr int markerDrop = 30;
-        optionMark->setGeometry(SuboptionLeft - 12, Pixels(suboption->top + markerDrop), 4,
-                                SuboptionHeight - 2 * Pixels(markerDrop));
+        constexpr int markerDrop = 3;
+        optionMark->setGeometry(SuboptionLeft - 12, suboption->top + markerDrop, 4, SuboptionHeight - 2 * markerDrop);
     }
     exit->setGeometry(ButtonMargin, height() - ButtonMargin - RowHeight, buttonWidth, RowHeight);
 }
@@ -149,7 +142,7 @@ QSize MenuColumn::sizeHint() const
 
 QSize MenuColumn::minimumSizeHint() const
 {
-    return {0, Pixels(GroupButtonTop(MenuGroups, 1)) + 2 * RowHeight + 4 * ButtonMargin};
+    return {0, GroupButtonTop(MenuGroups, 1) + 2 * RowHeight + 4 * ButtonMargin};
 }
 
 void MenuColumn::resizeEvent(QResizeEvent* /*event*/)

@@ -7,18 +7,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const std::array<MenuGroupRow, MenuGroups> Groups{{
-    {u"Add Draws"_s, {{u"Add Main Draw"_s, 1920, 6, u'M'}, {u"Add Thunderball Draw"_s, 2290, 7, u'T'}}},
+    {u"Add Draws"_s, {{u"Add Main Draw"_s, 192, 6, u'M'}, {u"Add Thunderball Draw"_s, 229, 7, u'T'}}},
     {u"Draw Records"_s,
-     {{u"View Latest Draw"_s, 2400, 8, {}},
-      {u"View Any Single Draw"_s, 2760, 9, u'N'},
-      {u"View or Edit All Draws"_s, 3120, 10, u'O'}}},
+     {{u"View Latest Draw"_s, 240, 8, {}},
+      {u"View Any Single Draw"_s, 276, 9, u'N'},
+      {u"View or Edit All Draws"_s, 312, 10, u'O'}}},
     {u"Your Entries"_s,
-     {{u"User Details"_s, 2880, 11, u'U'},
-      {u"Add New Entries"_s, 3240, 18, u'N'},
-      {u"View or Edit Entries"_s, 3600, 13, u'O'},
-      {u"Check Your Entries"_s, 3960, 12, u'K'}}},
-    {u"Entry Generator"_s, {{u"Main Draw"_s, 3360, 26, u'M'}}},
-    {u"Draw Analysis"_s, {{u"Main Draw"_s, 3840, 21, u'M'}, {u"Thunderball Draw"_s, 4200, 22, u'T'}}},
+     {{u"User Details"_s, 288, 11, u'U'},
+      {u"Add New Entries"_s, 324, 18, u'N'},
+      {u"View or Edit Entries"_s, 360, 13, u'O'},
+      {u"Check Your Entries"_s, 396, 12, u'K'}}},
+    {u"Entry Generator"_s, {{u"Main Draw"_s, 336, 26, u'M'}}},
+    {u"Draw Analysis"_s, {{u"Main Draw"_s, 384, 21, u'M'}, {u"Thunderball Draw"_s, 420, 22, u'T'}}},
 }};
 
 const std::array<Introduction, MenuGroups> Introductions{{
@@ -79,9 +79,9 @@ const MenuSuboption* FindSuboption(int group, int number)
 
 int GroupButtonTop(int button, int openGroup)
 {
-    constexpr int firstTop = 1440;
-    constexpr int distance = 480;
-    constexpr int roomForSuboptions = 1680;
+    constexpr int firstTop = 144;
+    constexpr int distance = 48;
+    constexpr int roomForSuboptions = 168;
     const bool pushedDown = openGroup != 0 && openGroup < button;
     return firstTop + distance * (button - 1) + (pushedDown ? roomForSuboptions : 0);
 }

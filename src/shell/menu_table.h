@@ -4,9 +4,8 @@
 
 #include <vector>
 
-/// One sub-option of a menu group. `top` is in twips from the top of the menu column, of which ten make a logical
-/// pixel; Alt with the letter chooses it while the group is open, where a letter is left for it beside those of the
-/// pages.
+/// One sub-option of a menu group. `top` is in logical pixels from the top of the menu column; Alt with the letter
+/// chooses it while the group is open, where a letter is left for it beside those of the pages.
 struct MenuSuboption
 {
     QString caption;
@@ -29,7 +28,7 @@ inline constexpr int MostSuboptions = 4;
 /// The sub-option N of a group, or nullptr where the group has none of that number.
 const MenuSuboption* FindSuboption(int group, int number);
 
-/// The top of a group's button, in twips, while the given group (0 for none) is open.
+/// The top of a group's button, in logical pixels, while the given group (0 for none) is open.
 int GroupButtonTop(int button, int openGroup);
 
 /// One clickable label of an introduction page, with the description beside it, by their indices in the label array.
