@@ -39,7 +39,6 @@ void HeldFile::ReplaceBy(TemporaryFile next)
     next.TakeRightsOf(lock.Number());
     FileLock nextLock;
     nextLock.Share(next.Path(), doing);
-    nextLock.TryAlone();
     next.RenameOver();
     engine.reset();
     lock = std::move(nextLock);

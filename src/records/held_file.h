@@ -23,8 +23,8 @@ public:
     /// Copies the settled file. Throws Failure.
     void CopyTo(TemporaryFile& copy) const { copy.CopyFrom(lock.Number()); }
 
-    /// Replaces the file, which must be settled and held alone, by another one, which is held alone in its place from
-    /// then on; owner and access rights stay. Throws Failure; the file is then as it was.
+    /// Replaces the file, which must be settled and held alone, by another one, which is held in its place from then
+    /// on, though other copies may open it; owner and access rights stay. Throws Failure; the file is then as it was.
     void ReplaceBy(TemporaryFile next);
 
     /// Compacts the file through its two temporary files, .tp1 and .tp2 in the same folder, which are gone afterwards,
