@@ -46,7 +46,10 @@ Descriptor::~Descriptor()
         ::close(descriptor);
 }
 
-Descriptor::Descriptor(Descriptor&& other) noexcept : descriptor(std::exchange(other.descriptor, -1)) {}
+Descriptor::Descriptor(Descriptor&& other) noexcept
+{
+    std::swap(descriptor, other.descriptor);
+}
 
 Descriptor& Descriptor::operator=(Descriptor&& other) noexcept
 {

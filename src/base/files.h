@@ -7,7 +7,8 @@
 class Descriptor
 {
 public:
-    explicit Descriptor(int opened = -1) : descriptor(opened) {}
+    Descriptor() = default;
+    explicit Descriptor(int opened) : descriptor(opened) {}
     ~Descriptor();
     Descriptor(Descriptor&& other) noexcept;
     Descriptor& operator=(Descriptor&& other) noexcept;
@@ -16,7 +17,7 @@ public:
     int Number() const { return descriptor; }
 
 private:
-    int descriptor;
+    int descriptor = -1;
 };
 
 /// Opens a regular file for reading, without waiting for what may come out of a pipe. Throws Failure.
