@@ -30,10 +30,11 @@ constexpr char Help[] = "Usage: tavenor3 [FOLDER]\n"
 std::optional<int> AnswerQuestion(int count, char** arguments)
 {
     for (int word = 1; word < count; ++word) {
-        if (std::strcmp(arguments[word], "--help") == 0)
-            return std::fputs(Help, stdout) < 0 ? Failed : 0;
-        if (std::strcmp(arguments[word], "--version") == 0)
-            return std::fputs("Tavenor " TAVENOR_VERSION "\n", stdout) < 0 ? Failed : 0;
+        const bool help = std::strcmp(arguments[word], "--help") == 0;
+        if (!help && std::strcmp(arguments[word], "--version") != 0)
+            continue;
+        std::fputs(help ? Help : "Tavenor " TAVENOR_VERSION "\n", stdout);
+        return 0;
     }
     return {};
 }
