@@ -255,14 +255,14 @@ int main(int count, char** arguments)
         WriteBytes(drawFile, kind == 0 ? damage.Bytes(draws) : draws);
         WriteBytes(plainFile, number == 0 ? plainDraws : damage.Bytes(plainDraws));
         WriteBytes(userFile, kind == 2 ? damage.Bytes(people) : people);
-        const Forked made = RunForked([&](const ForkedProcess::Say&) {
+        const Forked made = RunForked([&](const Say&) {
             for (int change = 0; kind > 2 && change < 3; ++change)
                 FailureOf([&] {
                     RunSql(kind == 3 ? UserDataPath : DrawDataPath, kind == 3 ? std::string() : rawKey,
                            damage.Sql(kind == 4));
                 });
         });
-        const Forked walked = RunForked([&](const ForkedProcess::Say& say) {
+        const Forked walked = RunForked([&](const Say& say) {
             say(QString::number(ResidentMemory()));
             const int refused = Walk(kind == 1 ? plainFile.toStdString() : std::string());
             say(refused < 0 ? "refused at the start" : refused > 0 ? "refused in part" : "worked");

@@ -12,7 +12,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-// Linked into a test program, these take the place of the system's own calls in all that it does.
+// Linked into a test program, these take the place of the system's own calls in all that the program and the engine do.
 
 namespace {
 
@@ -36,10 +36,7 @@ ino_t FileNumber(const std::filesystem::path& file)
 
 Synced& SyncedFile(ino_t number)
 {
-    Synced& file = SyncedFiles[number];
-    if (file == nullptr)
-        file = std::make_shared<std::string>();
-    return file;
+    return SyncedFiles.try_emplace(number, std::make_shared<std::string>()).first->second;
 }
 
 void SyncNames(const std::filesystem::path& folder)
@@ -50,30 +47,19 @@ void SyncNames(const std::filesystem::path& folder)
         names[entry.path().filename()] = SyncedFile(FileNumber(entry.path()));
 }
 
-/// Through the descriptor itself: another one, once closed, would take the engine's locks with it.
-void SyncBytes(int descriptor, const struct stat& attributes)
-{
-    std::string bytes(static_cast<size_t>(attributes.st_size), '\0');
-    (void)!::pread(descriptor, bytes.data(), bytes.size(), 0);
-    *SyncedFile(attributes.st_ino) = bytes;
-}
-
-void Sync(int descriptor)
+/// A file is read through the descriptor itself: another one, once closed, would take the engine's locks with it.
+int Sync(int descriptor)
 {
     struct stat attributes = {};
     if (SyncedFolders.empty() || ::fstat(descriptor, &attributes) != 0)
-        return;
-    if (S_ISREG(attributes.st_mode))
-        SyncBytes(descriptor, attributes);
+        return 0;
     for (const auto& [folder, names] : SyncedFolders)
         if (FileNumber(folder) == attributes.st_ino)
             SyncNames(folder);
-}
-
-/// The file that loses its name is not that of its number any more.
-void Forget(const char* path)
-{
-    SyncedFiles.erase(FileNumber(path));
+    std::string bytes(S_ISREG(attributes.st_mode) ? static_cast<size_t>(attributes.st_size) : 0, '\0');
+    (void)!::pread(descriptor, bytes.data(), bytes.size(), 0);
+    *SyncedFile(attributes.st_ino) = bytes;
+    return 0;
 }
 
 void LoseWhatIsNotSynced()
@@ -87,7 +73,7 @@ void LoseWhatIsNotSynced()
 }
 
 /// Whether this call fails. `takesRoom`: whether a full disk would refuse it.
-bool Fails(bool takesRoom)
+bool Fails(bool takesRoom = false)
 {
     if (ChosenCall == 0 || ++CallsMade < ChosenCall)
         return false;
@@ -102,14 +88,6 @@ bool Fails(bool takesRoom)
     Came = true;
     errno = Error;
     return true;
-}
-
-/// Only files count: pipes and the desktop's own descriptors go their way.
-bool Fails(int descriptor, bool takesRoom)
-{
-    struct stat attributes = {};
-    return ChosenCall != 0 && ::fstat(descriptor, &attributes) == 0 &&
-           (S_ISREG(attributes.st_mode) || S_ISDIR(attributes.st_mode)) && Fails(takesRoom);
 }
 
 } // namespace
@@ -140,28 +118,26 @@ extern "C" {
 
 int rename(const char* from, const char* to) noexcept
 {
-    if (Fails(false))
+    if (Fails())
         return -1;
-    Forget(to);
+    // The file that loses its name is not that of its number any more.
+    SyncedFiles.erase(FileNumber(to));
     return static_cast<int>(::syscall(SYS_rename, from, to));
 }
 
 int unlink(const char* path) noexcept
 {
     // The engine also deletes what is not there.
-    if (::access(path, F_OK) == 0 && Fails(false))
+    if (::access(path, F_OK) == 0 && Fails())
         return -1;
-    Forget(path);
+    SyncedFiles.erase(FileNumber(path));
     return static_cast<int>(::syscall(SYS_unlink, path));
 }
 
 // What a killed process has written is not lost with it, so there is no need to wait for the disk.
 int fsync(int descriptor)
 {
-    if (Fails(descriptor, false))
-        return -1;
-    Sync(descriptor);
-    return 0;
+    return Fails() ? -1 : Sync(descriptor);
 }
 
 int fdatasync(int descriptor)
@@ -171,26 +147,15 @@ int fdatasync(int descriptor)
 
 int ftruncate64(int descriptor, off64_t length) noexcept
 {
-    return Fails(descriptor, false) ? -1 : static_cast<int>(::syscall(SYS_ftruncate, descriptor, length));
-}
-
-int ftruncate(int descriptor, off_t length) noexcept
-{
-    return ftruncate64(descriptor, length);
-}
-
-ssize_t write(int descriptor, const void* bytes, size_t count)
-{
-    return Fails(descriptor, true) ? -1 : ::syscall(SYS_write, descriptor, bytes, count);
+    return Fails() ? -1 : static_cast<int>(::syscall(SYS_ftruncate, descriptor, length));
 }
 
 ssize_t pwrite64(int descriptor, const void* bytes, size_t count, off64_t offset)
 {
-    if (Fails(descriptor, true))
-        return Planned != DiskFault::WrongBytes
-                   ? -1
-                   : ::syscall(SYS_pwrite64, descriptor, std::string(count, '\0').data(), count, offset);
-    return ::syscall(SYS_pwrite64, descriptor, bytes, count, offset);
+    const bool fails = Fails(true);
+    if (fails && Error != 0)
+        return -1;
+    return ::syscall(SYS_pwrite64, descriptor, fails ? std::string(count, '\0').data() : bytes, count, offset);
 }
 
 ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset)

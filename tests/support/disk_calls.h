@@ -13,13 +13,11 @@ enum class DiskFault
     /// This call fails, and no other.
     OneFailure,
     /// This call and all later ones fail: those that need room where the error is ENOSPC, else every one.
-    FailuresFromThen,
-    /// This call and all later ones write zeros in the place of what they are given, without a word.
-    WrongBytes
+    FailuresFromThen
 };
 
-/// From now on the calls are counted, from 1, and the chosen one meets the fault. `error` is the errno of a failure;
-/// `folders` are those of which a power cut takes what was not synced.
+/// From now on the calls are counted, from 1, and the chosen one meets the fault. `error` is the errno of a failure, or
+/// 0 where zeros are to be written without a word; `folders` are those of which a power cut takes what was not synced.
 void PlanDiskFault(DiskFault fault, int call, int error = 0, const std::vector<std::filesystem::path>& folders = {});
 
 /// Whether any call has failed.

@@ -10,17 +10,11 @@
 /// works here. Throws Failure when a statement fails.
 inline void RunSql(const std::filesystem::path& file, const std::string& connect, const std::string& sql)
 {
-    sqlite3* engine = nullptr;
-    sqlite3_open(file.c_str(), &engine);
+    const std::string doing = "The test's own file could not be made";
+    const Engine engine = OpenEngine(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, doing);
     const std::string password = PasswordOf(connect);
     if (!password.empty())
-        sqlite3_key(engine, password.data(), static_cast<int>(password.size()));
-    sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
-    try {
-        Execute(engine, sql, "The test's own file could not be made");
-    } catch (...) {
-        sqlite3_close_v2(engine);
-        throw;
-    }
-    sqlite3_close_v2(engine);
+        sqlite3_key(engine.get(), password.data(), static_cast<int>(password.size()));
+    sqlite3_db_config(engine.get(), SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
+    Execute(engine.get(), sql, doing);
 }

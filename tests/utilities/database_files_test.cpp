@@ -1,0 +1,271 @@
+#include "support/disk_calls.h"
+#include "support/failure_of.h"
+#include "support/file_bytes.h"
+#include "support/forked.h"
+#include "support/raw_file.h"
+#include "support/test_window.h"
+
+#include "records/held_file.h"
+#include "utilities/backup.h"
+#include "utilities/database_file.h"
+#include "utilities/import.h"
+
+#include <QDir>
+#include <QtEndian>
+
+#include <csignal>
+#include <sys/stat.h>
+
+namespace {
+
+/// The two files, closed, with a user in them, and a folder for the player's own ones.
+struct ClosedFiles
+{
+    explicit ClosedFiles(TestFolder::Content content = TestFolder::Content::Empty) : folder(content)
+    {
+        InAnotherCopy(UserDataPath, {}, UsersTable(), [](RecordSet& table) { AddUser(table, "Old", 1); });
+    }
+    QList<QByteArray> Bytes() const
+    {
+        return {BytesOf(folder.Path("drawdata.tv3")), BytesOf(folder.Path("userdata.tv3"))};
+    }
+    QString Own(const QString& file) const { return own.filePath(file); }
+
+    TestFolder folder;
+    QTemporaryDir own;
+};
+
+void ImportFrom(const QString& chosen, const DatabaseFile& file = UserDatabaseFile())
+{
+    Import import(file, chosen.toStdString());
+    import.Prove();
+    import.Complete();
+}
+
+QString ReasonOf(const std::function<void()>& action)
+{
+    return FailureOf(action).reason;
+}
+
+} // namespace
+
+class DatabaseFilesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void RefusedActionsChangeNothing()
+    {
+        const ClosedFiles files;
+        const QList<QByteArray> bytes = files.Bytes();
+        QVERIFY(QFile::link(files.folder.Path("drawdata.tv3"), files.Own("link")));
+        QCOMPARE(::mkfifo(files.Own("pipe").toLocal8Bit().constData(), 0600), 0);
+        for (const char* name : {"used", "unfinished", "unfinished-journal"})
+            WriteBytes(files.Own(name), "own");
+        FileLock otherCopy;
+        otherCopy.Share(files.Own("used").toStdString(), "The other copy could not open the file");
+        const QString unfinished = "the chosen file is being changed, or a change of it was cut short";
+        const QString working = "the chosen name is that of one of the program's own working files";
+        QList<std::tuple<QString, QString, QString>> rows{
+            {files.Own("link"), "it would take the place of one of the program's own files", {}},
+            // Beside the new file it would be taken for a journal of that one.
+            {files.Own("unfinished"), unfinished, unfinished},
+            {files.Own("used"), "another copy of the program is using the chosen file, or it may not be changed", {}},
+            {files.Own(QString(256, u'n')), "the chosen name is too long", {}},
+            {files.Own("pipe"), {}, "it cannot be read"},
+            {files.Own("nothing"), {}, "it cannot be read"}};
+        for (const char* name : {"drawdata.tp1", "userdata.tp2", "userdata.tv3.unfinished-x", "userdata.tv3-journal"})
+            rows.append({files.folder.Path(name), working, working});
+        for (const auto& [path, saving, importing] : rows) {
+            if (!saving.isEmpty())
+                QCOMPARE(ReasonOf([&, to = path] { BackUp(UserDatabaseFile(), to.toStdString()); }), saving);
+            if (!importing.isEmpty())
+                QCOMPARE(ReasonOf([from = path] { ImportFrom(from); }), importing);
+        }
+        QVERIFY(files.Bytes() == bytes && BytesOf(files.Own("used")) == "own");
+    }
+
+    void AnyOtherNameServes()
+    {
+        const ClosedFiles files;
+        for (const QString& path : {files.Own(QString(255, u'n')), files.Own("drawdata.tp1"),
+                                    files.folder.Path("userdata.tp0"), files.folder.Path("userdata.tv3.new")}) {
+            WriteBytes(path, "old");
+            WriteBytes(files.Own("drawdata.tp1.new"), "own");
+            BackUp(UserDatabaseFile(), path.toStdString());
+            const QByteArray live = files.Bytes()[1];
+            QCOMPARE(BytesOf(path), live);
+            QFile::setPermissions(path, QFile::ReadOwner);
+            RunSql(UserDataPath, {}, "DELETE FROM users");
+            ImportFrom(path);
+            QVERIFY(files.Bytes()[1] == live && BytesOf(path) == live);
+            QVERIFY(QFile::permissions(files.folder.Path("userdata.tv3")) & QFile::WriteOwner);
+            QCOMPARE(BytesOf(files.Own("drawdata.tp1.new")), QByteArray("own"));
+        }
+    }
+
+    void LeftoversAreClearedAwayWhereTheyCan()
+    {
+        const ClosedFiles files;
+        const auto inFolder = [&](const char* name) { return files.folder.Path(name); };
+        WriteBytes(files.Own("letter"), "mine");
+        for (const char* name : {"drawdata.tp1", "drawdata.tp2", "userdata.tv3.unfinished-x", "drawdata.tp1-journal"})
+            WriteBytes(inFolder(name), "left");
+        for (const char* name : {"userdata.tp1", "userdata.tp2", "userdata.tv3.new", "drawdata.tp0"})
+            QVERIFY(QFile::link(files.Own("letter"), inFolder(name)));
+        QCOMPARE(CloseAndCompactFiles(), QString());
+        QCOMPARE(files.folder.Files(),
+                 (QStringList{"drawdata.tp0", "drawdata.tv3", "userdata.tv3", "userdata.tv3.new"}));
+        QCOMPARE(BytesOf(files.Own("letter")), QByteArray("mine"));
+        QVERIFY(QDir().mkdir(inFolder("drawdata.tp1")));
+        QVERIFY(CloseAndCompactFiles().contains("drawdata.tp1 could not be deleted"));
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+    }
+
+    void WhatTheSystemRefusesIsToldInWords()
+    {
+        const ClosedFiles files;
+        for (const auto& [name, reason] : {std::pair(QString("userdata.tv3"), "an old temporary file is in the way"),
+                                           {"nowhere/x", "the file or its folder is not there"},
+                                           {"userdata.tv3/x", "the disk reported an error"},
+                                           {QString(256, u'n'), "its name is too long"}})
+            QCOMPARE(ReasonOf([path = files.folder.Path(name).toStdString()] { const TemporaryFile made(path); }),
+                     QString(reason));
+    }
+
+    void BadFileIsNotTaken()
+    {
+        const ClosedFiles files(TestFolder::Content::Starter);
+        const QByteArray draws = files.Bytes()[0];
+        const QByteArray people = files.Bytes()[1];
+        QByteArray damaged = draws;
+        damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
+        const QByteArray garbage(100000, 'g');
+        struct Row
+        {
+            DatabaseFile file;
+            QByteArray bytes;
+            const char* sql = "";
+            std::string connect = {};
+        };
+        const DatabaseFile drawFile = DrawDatabaseFile();
+        const DatabaseFile userFile = UserDatabaseFile();
+        const Row rows[] = {{drawFile, garbage},
+                            {userFile, garbage},
+                            {drawFile, {}},
+                            {userFile, {}},
+                            {userFile, QByteArray("SQLite format 3\0", 16)},
+                            {drawFile, draws.left(draws.size() / 2)},
+                            {drawFile, damaged},
+                            {drawFile, people},
+                            {drawFile, {}, "CREATE TABLE ukmain(a)", ";pwd=other"},
+                            {userFile, {}, "CREATE TABLE users(a)", ";pwd=other"},
+                            {drawFile, draws, "DROP TABLE links", DrawConnect},
+                            {drawFile, draws, "DROP VIEW ukmainlist", DrawConnect},
+                            {userFile, people, "ALTER TABLE users RENAME UserId TO Id"}};
+        for (const Row& row : rows) {
+            const QString bad = files.Own("bad.tv3");
+            WriteBytes(bad, row.bytes);
+            RunSql(bad.toStdString(), row.connect, row.sql);
+            QVERIFY(!ReasonOf([&] { ImportFrom(bad, row.file); }).isEmpty());
+            QCOMPARE(files.Bytes(), (QList<QByteArray>{draws, people}));
+            QCOMPARE(files.folder.Files(), (QStringList{"drawdata.tv3", "userdata.tv3"}));
+        }
+    }
+
+    void AnotherRunningCopyIsRespected()
+    {
+        const ClosedFiles files;
+        const QByteArray bytes = files.Bytes()[1];
+        FileLock otherCopy;
+        otherCopy.Share(UserDataPath, "The other copy could not open the file");
+        const QString copy = files.Own("copy.tv3");
+        const auto theirBackup = TemporaryFile::Beside(copy.toStdString(), "userdata.tv3");
+        const QString theirs = files.folder.Path("userdata.tp2");
+        WriteBytes(theirs, "theirs");
+        BackUp(UserDatabaseFile(), copy.toStdString());
+        QVERIFY(BytesOf(copy) == bytes && BytesOf(theirs) == "theirs");
+        QVERIFY(std::filesystem::exists(theirBackup.Path()));
+        QCOMPARE(ReasonOf([&] { ImportFrom(copy); }),
+                 QString("another copy of the program is using it, or it may not be changed"));
+        QCOMPARE(files.Bytes()[1], bytes);
+        otherCopy.Release();
+        ImportFrom(copy);
+    }
+
+    void UnfinishedChangeIsTakenBackBeforeTheFileIsReplaced()
+    {
+        // In the folder, or where a link in it leads to.
+        for (const bool link : {false, true}) {
+            const ClosedFiles files;
+            const QString live = files.folder.Path("userdata.tv3");
+            const QString real = link ? files.Own("real.tv3") : live;
+            const QString chosen = files.Own("chosen.tv3");
+            QFile::copy(live, chosen);
+            RunSql(chosen.toStdString(), {}, "UPDATE users SET UserName = 'New'");
+            if (link)
+                QVERIFY(QFile::rename(live, real) && QFile::link(real, live));
+            // Another program is killed in the middle of a change that has reached the file already.
+            RunForked([](const Say&) {
+                const Engine engine = OpenEngine(UserDataPath, SQLITE_OPEN_READWRITE, "");
+                Execute(engine.get(),
+                        "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
+                        "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
+                        "");
+                ::kill(::getpid(), SIGKILL);
+            });
+            QVERIFY(QFile::exists(real + "-journal"));
+            Import import(UserDatabaseFile(), chosen.toStdString());
+            QVERIFY(!QFile::exists(real + "-journal"));
+            // Nobody opens a file whose import is not proved.
+            if (!link)
+                QCOMPARE(ReasonOf(OpenDatabaseFiles), QString("another program is using the file"));
+            import.Prove();
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+            import.Complete();
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
+            QCOMPARE(QFileInfo(live).isSymLink(), link);
+        }
+    }
+
+    void CopyThatDiffersIsRefused()
+    {
+        const ClosedFiles files;
+        const HeldFile live(UserDataPath, {}, "The file could not be copied");
+        TemporaryFile copy(files.Own("copy.tv3").toStdString());
+        PlanDiskFault(DiskFault::FailuresFromThen, 1);
+        const FailureOf copying([&] { live.CopyTo(copy); });
+        PlanDiskFault(DiskFault::FailuresFromThen, 0);
+        QCOMPARE(copying.detail, QString("the copy differs"));
+    }
+
+    void JournalThatNamesAnotherFileIsRefused()
+    {
+        const ClosedFiles files;
+        const QString letter = files.Own("letter");
+        const QByteArray mark = QByteArray::fromHex("d9d505f920a163d7");
+        const QByteArray name = letter.toLocal8Bit();
+        const auto number = [](quint32 value) {
+            value = qToBigEndian(value);
+            return QByteArray(reinterpret_cast<const char*>(&value), sizeof value);
+        };
+        quint32 sum = 0;
+        for (const char byte : name)
+            sum += static_cast<quint32>(byte);
+        const QByteArray journal = mark + QByteArray(592, 0) + number(0x40000001) + name +
+                                   number(static_cast<quint32>(name.size())) + number(sum) + mark;
+        for (const char* live : {"userdata.tv3", "drawdata.tv3"}) {
+            WriteBytes(letter, "mine");
+            const QString planted = files.folder.Path(QString(live) + "-journal");
+            WriteBytes(planted, journal);
+            const QString told = "the journal beside it names another file";
+            QCOMPARE(ReasonOf(OpenDatabaseFiles), told);
+            QVERIFY(CloseAndCompactFiles().contains(told));
+            QCOMPARE(BytesOf(letter), QByteArray("mine"));
+            QVERIFY(QFile::remove(planted));
+        }
+    }
+};
+
+TAVENOR_TEST(DatabaseFilesTest)
+#include "database_files_test.moc"
