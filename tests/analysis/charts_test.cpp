@@ -1,33 +1,55 @@
+// Ahead of the test framework, which brings a Display of its own.
+#include "look/theme.h"
+
 #include "support/test_window.h"
 
+#include "analysis/chart_layout.h"
 #include "analysis/charts.h"
+#include "analysis/graph_window.h"
+
+#include <QClipboard>
+#include <QToolTip>
 
 namespace {
 
 /// The bars that differ from the most frequent value, each with its value and colour: "Odd 5/9, Even 2/12".
-QString BarsBut(int usual, const Chart& chart, BallType type)
+QString BarsBut(int usual, const Chart& chart)
 {
     QStringList bars;
-    for (const ChartBar& bar : CountBars(chart, type))
+    for (const ChartBar& bar : CountBars(chart, chart.ballType))
         if (bar.value != usual)
             bars.append(QString("%1 %2/%3").arg(bar.label).arg(bar.value).arg(static_cast<int>(bar.colour)));
     return bars.join(", ");
 }
 
-struct Counted
+/// A chart window as the menus show it, over the real history.
+class ShownChart
 {
-    int chart;
-    BallType type;
-    int usual;
-    const char* bars;
+public:
+    explicit ShownChart(int number) : folder(TestFolder::Content::Starter), window((OpenDatabaseFiles(), nullptr))
+    {
+        window.PrepareChart(number);
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+    }
+
+    QWidget* Graph() const { return window.findChild<QWidget*>("graph"); }
+    QComboBox* BallTypes() const { return window.findChild<QComboBox*>("balltype"); }
+    QStringList Bars() const { return Graph()->accessibleDescription().split(u'\n'); }
+
+    TestFolder folder;
+    GraphWindow window;
 };
 
-/// Some charts of the open database, counted by hand.
-void Compare(const std::initializer_list<Counted>& rows)
+/// How far the lightness of any point of the place is from that of the card.
+int StrongestIn(const QImage& picture, const QRect& place)
 {
-    for (const auto& [number, type, usual, bars] : rows)
-        QCOMPARE(QString("%1: %2").arg(number).arg(BarsBut(usual, FindChart(number), type)),
-                 QString("%1: %2").arg(number).arg(bars));
+    int strongest = 0;
+    for (int x = place.left(); x <= place.right(); ++x)
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            strongest = qMax(strongest, qAbs(picture.pixelColor(x, y).lightness() - CurrentTheme().card.lightness()));
+    return strongest;
 }
 
 } // namespace
@@ -37,59 +59,126 @@ class ChartsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void EveryChartOfAFewDraws()
+    /// Counted by hand; the figures of the real history are compared with all that the chart windows show.
+    void OddHistoryIsCounted()
     {
         const TestFolder folder(TestFolder::Content::Empty);
         OpenDatabaseFiles();
         for (const Chart& chart : AllCharts())
             QVERIFY(CountBars(chart, chart.ballType).empty());
         // The newest draws stand first in the tables, so that tables and lists go different ways.
-        StoreDraws(MainGame, {"2000-01-15,3,15,22,31,40,49,9,MERLIN,8", "2000-01-12,3,9,19,20,30,41,15,Merlin,0",
-                              "2000-01-08,1,2,3,4,5,6,40,ARTHUR,2", "2000-01-05,1,2,3,4,5,6,7,LANCELOT,9"});
+        StoreDraws(MainGame, {"2000-01-15,3,15,22,31,40,49,9,MERLIN,8", "2000-01-12,0,77,-4,3.5,8,49.5,50,Merlin,8b",
+                              "2000-01-08,1,2,3,4,5,6,40,ARTHUR, 3"});
         StoreDraws(ThunderballGame, {"2000-01-14,1,2,3,4,34,14", "2000-01-07,2,3,4,5,6,1"});
-        constexpr auto mainBalls = BallType::MainBalls;
-        constexpr auto extraBall = BallType::ExtraBall;
-        constexpr auto allBalls = BallType::AllBalls;
-        Compare({{1, mainBalls, 0,
-                  "1 2/15, 2 2/15, 3 4/15, 4 2/15, 5 2/15, 6 2/15, 9 1/15, 15 1/9, 19 1/9, 20 1/12, 22 1/12, 30 1/10, "
-                  "31 1/10, 40 1/14, 41 1/14, 49 1/14"},
-                 {1, extraBall, 0, "7 1/15, 9 1/15, 15 1/9, 40 1/14"},
-                 {2, allBalls, 0, "1 - 9 17/15, 10 - 19 3/9, 20 - 29 2/12, 30 - 39 2/10, 40 - 49 4/14"},
-                 {2, extraBall, 0, "1 - 9 2/15, 10 - 19 1/9, 40 - 49 1/14"},
-                 {3, allBalls, 0, "Odd 17/9, Even 11/12"},
-                 {3, mainBalls, 0, "Odd 14/9, Even 10/12"},
-                 {4, allBalls, 4,
-                  "1 2/15, 2 2/15, 3 0/15, 4 2/15, 5 2/15, 6 2/15, 7 3/15, 9 0/15, 15 0/9, 19 1/9, 20 1/12, 22 0/12, "
-                  "30 1/10, 31 0/10, 40 0/14, 41 1/14, 49 0/14"},
-                 {4, extraBall, 4, "7 3/15, 9 0/15, 15 1/9, 40 2/14"},
-                 {5, allBalls, 0, "Arthur 1/15, Lancelot 1/12, Merlin 1/10"},
-                 {6, allBalls, 0, "Set 2 1/9, Set 8 1/10"},
-                 {21, mainBalls, 0, "1 1/9, 2 2/9, 3 2/9, 4 2/9, 5 1/9, 6 1/9, 34 1/9"},
-                 {22, mainBalls, 2, "1 0/9, 2 0/9, 3 0/9, 4 0/9, 5 1/9, 6 1/9, 34 0/9"},
-                 {23, extraBall, 0, "1 1/12, 14 1/12"},
-                 {24, extraBall, 2, "1 1/12, 14 0/12"}});
-    }
-
-    void FieldsThatHoldNoBall()
-    {
-        const TestFolder folder(TestFolder::Content::Empty);
-        OpenDatabaseFiles();
-        StoreDraws(MainGame, {"2000-01-05,0,77,-4,3.5,8,49.5,50,MERLIN ,8b", "2000-01-08,1,2,3,4,5,6,7,, 3"});
         ukmain.MoveLast();
         ukmain.Edit();
-        int field = DrawField::FirstBall;
-        for (const char* odd : {"", "abc", "9x"})
-            ukmain.SetField(field++, odd);
-        ukmain.SetField(field, 1e300);
+        for (const auto& [ball, odd] : {std::pair(0, ""), {1, "abc"}, {2, "9x"}})
+            ukmain.SetField(DrawField::FirstBall + ball, odd);
+        ukmain.SetField(DrawField::FirstBall + 3, 1e300);
         ukmain.Update();
-        ukmainlist.Requery();
-        constexpr auto allBalls = BallType::AllBalls;
-        Compare({{1, allBalls, 0, "5 1/15, 6 1/15, 7 1/15, 8 1/15, 9 1/15"},
-                 {2, allBalls, 0, "1 - 9 10/15, 40 - 49 4/14"},
-                 {3, allBalls, 0, "Odd 6/9, Even 8/12"},
-                 {4, allBalls, 2, "5 0/15, 6 0/15, 7 0/15, 8 1/15, 9 0/15"},
-                 {5, allBalls, 0, ""},
-                 {6, allBalls, 0, "Set 3 1/12, Set 8 1/10"}});
+        for (const auto& [number, usual, bars] :
+             {std::tuple(1, 0, "3 1/15, 5 1/15, 6 1/15, 8 1/15, 9 2/15, 15 1/9, 22 1/12, 31 1/10, 40 2/14, 49 1/14"),
+              {2, 1, "1 - 9 11/15, 40 - 49 7/14"},
+              {3, 0, "Odd 10/9, Even 11/12"},
+              {4, 3, "3 0/15, 5 2/15, 6 2/15, 8 1/15, 9 0/15, 15 0/9, 22 0/12, 31 0/10, 40 0/14, 49 0/14"},
+              {5, 0, "Arthur 1/15, Merlin 1/10"},
+              {6, 0, "Set 3 1/12, Set 8 2/10"},
+              {21, 0, "1 1/9, 2 2/9, 3 2/9, 4 2/9, 5 1/9, 6 1/9, 34 1/9"},
+              {24, 2, "1 1/12, 14 0/12"}})
+            QCOMPARE(QString("%1: %2").arg(number).arg(BarsBut(usual, FindChart(number))),
+                     QString("%1: %2").arg(number).arg(bars));
+    }
+
+    void BallTypeChoosesPhraseAndCount()
+    {
+        // What the words on the chart say of the chosen balls, and the first bar; the last one is of the main balls
+        // after another copy of the program has stored a draw.
+        const QStringList drawn{" drawn as a main ball, in", " drawn as a bonus ball, in", " drawn in"};
+        for (const auto& [chart, phrases, firstBars] :
+             {std::tuple(1, drawn, QStringList{"1: 234", "1: 43", "1: 277", "1: 235"}),
+              {2, drawn, {"1 - 9: 2230", "1 - 9: 393", "1 - 9: 2623", "1 - 9: 2235"}},
+              {3,
+               {" the main balls have been ", " the bonus ball has been ", " the lottery balls have been "},
+               {"Odd: 6354", "Odd: 1065", "Odd: 7419", "Odd: 6360"}},
+              {4,
+               {" drawn as a main ball.", " drawn as a bonus ball.", " drawn."},
+               {"1: 19", "1: 25", "1: 19", "1: 0"}}}) {
+            const ShownChart shown(chart);
+            QCOMPARE(shown.window.focusWidget(), shown.BallTypes());
+            for (const int type : {0, 1, 2}) {
+                shown.BallTypes()->setCurrentIndex(type);
+                QVERIFY(shown.window.findChild<QLabel*>("description")->text().contains(phrases[type]));
+                QCOMPARE(shown.Bars().first(), firstBars[type]);
+            }
+            InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), [](RecordSet& table) {
+                AddDraw(table, MainGame, {QDate(2026, 11, 21), {1, 3, 5, 7, 9, 11, 13}, {}, {}});
+            });
+            shown.BallTypes()->setCurrentIndex(0);
+            QCOMPARE(shown.Bars().first(), firstBars[3]);
+        }
+    }
+
+    void BarsAreAsHighAsTheirValuesAndEveryTextStandsFree()
+    {
+        const TestFolder folder(TestFolder::Content::Starter);
+        OpenDatabaseFiles();
+        std::vector<std::vector<ChartBar>> charts{std::vector<ChartBar>(49, {"1", {}, 2263})};
+        for (const int highest : {1, 7, 8, 70})
+            charts.push_back({{"a", {}, highest}, {"b", {}, 0}});
+        for (const Chart& chart : AllCharts())
+            charts.push_back(CountBars(chart, chart.ballType));
+        for (const std::vector<ChartBar>& chart : charts)
+            for (const QSizeF size : {QSizeF(900, 400), QSizeF(1500, 800)}) {
+                const ChartLayout layout = LayOutChart(chart, size);
+                const int axisEnd = layout.axisNumbers.back().text.toInt();
+                const qreal unit = (layout.lines.front() - layout.lines.back()) / axisEnd;
+                QVERIFY(layout.axisNumbers.front().text == "0" && layout.axisNumbers.size() <= 8);
+                for (size_t bar = 0; bar < chart.size(); ++bar) {
+                    const auto& [label, colour, value] = chart[bar];
+                    QCOMPARE(layout.labels[bar].text + layout.figures[bar].text, label + QString::number(value));
+                    QVERIFY(value <= axisEnd && qAbs(layout.bars[bar].height() - value * unit) < 1);
+                    QVERIFY(qAbs(layout.bars[bar].bottom() - layout.lines.front()) <= 1);
+                }
+                for (const auto& part : {layout.labels, layout.figures, layout.axisNumbers}) {
+                    QRectF before;
+                    for (const ChartText& text : part) {
+                        const QRectF place = text.Place();
+                        QVERIFY2(QRectF(QPointF(), size).contains(place) && !place.intersects(before),
+                                 qPrintable(text.text));
+                        QVERIFY2(text.font.pointSizeF() > 6, "too small to be read");
+                        before = place;
+                    }
+                }
+            }
+    }
+
+    void BarsAndTextsCanBeSeenCopiedAndPointedAt()
+    {
+        ShownChart shown(2);
+        const ChartLayout layout = LayOutChart(CountBars(FindChart(2), BallType::AllBalls), shown.Graph()->size());
+        std::vector<QPoint> feet;
+        for (const QRectF& bar : layout.bars)
+            feet.emplace_back(qRound(bar.center().x()), qRound(bar.bottom()) - 6);
+        QTest::keyClick(shown.BallTypes(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), shown.Bars().join('\n').replace(": ", "\t") + '\n');
+        const QPoint place = shown.Graph()->mapTo(&shown.window, QPoint());
+        const QImage window = shown.window.grab({place, shown.Graph()->size()}).toImage();
+        for (const QImage& picture : {window, QApplication::clipboard()->image()}) {
+            QStringList colours{picture.pixelColor(2, picture.height() / 2).name()};
+            for (const QPoint foot : feet)
+                colours.append(picture.pixelColor(foot).name());
+            QCOMPARE(colours,
+                     (QStringList{CurrentTheme().card.name(), "#ffffff", "#8cc8f5", "#f28b82", "#8edb9a", "#f5e27a"}));
+            for (const auto& part : {layout.labels, layout.figures, layout.axisNumbers})
+                for (const ChartText& text : part)
+                    QVERIFY2(StrongestIn(picture, text.Place().toRect()) > 110, qPrintable(text.text));
+            // The white bar has an edge.
+            QVERIFY(StrongestIn(picture, QRect(qFloor(layout.bars[0].left()) - 1, feet[0].y(), 3, 1)) > 75);
+        }
+        for (const int bar : {0, 4, 2}) {
+            QTest::mouseMove(shown.Graph(), feet[static_cast<size_t>(bar)]);
+            QTRY_COMPARE(QToolTip::text(), shown.Bars()[bar]);
+        }
     }
 };
 
