@@ -1,6 +1,7 @@
 #include "support/test_window.h"
 
 #include "base/dates.h"
+#include "checking/check_report.h"
 
 #include <QClipboard>
 #include <QDateEdit>
@@ -11,27 +12,35 @@ namespace {
 
 const DaySet EachDay{true, true, true, true, true, true, true};
 
-/// The page with the users Cid and Ann, of whom Ann has the number 2.
+/// A Saturday; the thunderball is the sixth ball, the bonus the seventh.
+const CheckedDraw Draw{QDate(2026, 11, 21), {1, 2, 3, 4, 5, 6, 7}, "today"};
+
+/// The page with the users Cid and Ann, and a second Ann, who has nothing.
 class CheckedPage : public TestWindow
 {
 public:
-    CheckedPage() { AddUser(users, "Cid", 9); }
-
-    void Open(const QString& second = "Ann")
+    CheckedPage()
     {
-        AddUser(users, second, 9);
+        for (const char* name : {"Cid", "Ann", "Ann"})
+            AddUser(users, name, 9);
         OpenPage(3, 4);
     }
 
-    /// The report of the next check, without its heading.
-    QString Check()
+    QTextEdit* Report() const { return Find<QTextEdit>("F12text"); }
+    QDateEdit* Date() const { return Find<QDateEdit>("F12cal"); }
+    /// The report of the next check, on the user at that place in the list.
+    QString Check(int user)
     {
+        Find<QComboBox>("F12user")->setCurrentIndex(user);
         Click("F12check");
-        const QString report = Find<QTextEdit>("F12text")->toPlainText();
-        const QString heading = "Tavenor v3.0\n\n";
-        return report.startsWith(heading) ? report.mid(heading.size()) : "no heading: " + report;
+        return Report()->toPlainText();
     }
 };
+
+QString Block(const QString& name, const QString& sections)
+{
+    return "User: " + name + '\n' + sections + '\n';
+}
 
 } // namespace
 
@@ -40,54 +49,53 @@ class CheckPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ReportIsCopiedAndCleared()
+    void EntryIsComparedAndWins()
     {
-        CheckedPage page;
-        page.Open();
-        for (const char* hidden : {"F12cal", "F12clear", "F12print"})
-            QVERIFY(!page.IsShown(hidden));
-        QCOMPARE(page.Check(), QString("There are no user entries stored."));
-        QVERIFY(page.IsShown("F12clear") && page.IsShown("F12print"));
-        // All of it is copied, or what is selected.
-        for (const char* copied : {"Tavenor v3.0\n\nThere are no user entries stored.", "Tavenor"}) {
-            page.Press("F12text", Qt::Key_C, Qt::ControlModifier);
-            QCOMPARE(QApplication::clipboard()->text(), QString(copied));
-            page.Find<QTextEdit>("F12text")->moveCursor(QTextCursor::Start);
-            page.Find<QTextEdit>("F12text")->moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+        // A thunderball that equals a main ball is no main match, nor the other way round.
+        const std::tuple<int, std::array<double, 6>, QString> rows[] = {
+            {1, {11, 12, 13, 14, 15, 16}, "  0 main balls. "},
+            {1, {7, 12, 13, 14, 15, 16}, "  0 main balls + bonus. "},
+            {1, {6, 12, 13, 14, 15, 16}, "  1 main ball. "},
+            {1, {1, 2, 13, 14, 15, 7}, "  2 main balls + bonus. "},
+            {1, {1, 2, 3, 14, 15, 16}, "  3 main balls. <<WIN>>"},
+            {1, {1, 2, 3, 4, 5, 7}, "  5 main balls + bonus. <<WIN>>"},
+            {2, {6, 12, 13, 14, 15, 1}, "    0 main balls. "},
+            {2, {11, 12, 13, 14, 15, 6}, "    0 main balls + thunderball. "},
+            {2, {1, 12, 13, 14, 15, 6}, "    1 main ball + thunderball. <<WIN>>"},
+            {2, {1, 2, 13, 14, 15, 7}, "    2 main balls. "},
+            {2, {1, 2, 3, 4, 5, 1}, "    5 main balls. <<WIN>>"}};
+        for (const auto& [drawType, numbers, line] : rows) {
+            const CheckedUser user{1, "Ann"};
+            const CheckedGame game{&GameOfDrawType(drawType), Draw};
+            const EntryRow entry{1, 1, drawType, numbers, EachDay};
+            const QString sections = WriteCheckReport({&user, 1}, {&game, 1}, {&entry, 1}).back().text;
+            QCOMPARE(sections.section("\r\n", 1, 1), "    1>" + line);
         }
-        page.Click("F12clear");
-        QCOMPARE(page.TextOf("F12text"), QString());
-        QVERIFY(!page.IsShown("F12clear") && !page.IsShown("F12print"));
     }
 
-    void HeadingAndUserLinesAreBold()
+    void ReportIsBoldInPartsCopiedAndCleared()
     {
         CheckedPage page;
-        AddEntry(entries, {1, 1, 1, {1, 2, 3, 4, 5, 6}, {}});
-        page.Open();
+        QVERIFY(!page.IsShown("F12clear") && !page.IsShown("F12print"));
+        QCOMPARE(page.Check(0), QString("Tavenor v3.0\n\nThere are no user entries stored."));
         // A report that follows another one takes nothing over from it, wherever the cursor stood.
-        auto* report = page.Find<QTextEdit>("F12text");
-        for (int check = 0; check < 2; ++check) {
-            page.Click("F12check");
-            report->moveCursor(QTextCursor::NextWord);
-        }
+        page.Report()->moveCursor(QTextCursor::NextWord);
+        AddEntry(entries, {1, 1, 1, {1, 2, 3, 4, 5, 6}, {}});
+        const QString text = page.Check(1);
         QString bold;
-        for (QTextBlock block = report->document()->begin(); block.isValid(); block = block.next())
+        for (QTextBlock block = page.Report()->document()->begin(); block.isValid(); block = block.next())
             for (auto part = block.begin(); !part.atEnd(); ++part)
                 bold += part.fragment().charFormat().fontWeight() == QFont::Bold ? part.fragment().text() : QString();
-        QCOMPARE(bold, QString("Tavenor v3.0User: CidUser: Ann"));
-    }
-
-    void FirstOfTwoUsersOfOneNameIsChecked()
-    {
-        CheckedPage page;
-        StoreDraws(MainGame, {"2026-11-21,1,2,3,4,5,6,7,,"});
-        AddEntry(entries, {1, 2, 1, {1, 2, 3, 4, 5, 6}, EachDay});
-        page.Open("Cid");
-        page.Find<QComboBox>("F12user")->setCurrentIndex(2);
-        page.Click("F12typem");
-        QCOMPARE(page.Check(),
-                 QString("User: Cid\n  Draw type: Main (21/11/2026)\n    No main entries on this date.\n\n"));
+        QCOMPARE(bold, QString("Tavenor v3.0User: Cid"));
+        // All of it is copied, or what is selected.
+        for (const QString& copied : {text, QString("Tavenor")}) {
+            page.Press("F12text", Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(QApplication::clipboard()->text(), copied);
+            page.Report()->moveCursor(QTextCursor::Start);
+            page.Report()->moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+        }
+        page.Click("F12clear");
+        QVERIFY(page.TextOf("F12text").isEmpty() && !page.IsShown("F12clear") && !page.IsShown("F12print"));
     }
 
     /// A date of another form is told as on the other pages; what is no date names no day on which entries are played.
@@ -96,17 +104,13 @@ private Q_SLOTS:
         for (const auto& [stored, shown, lines] : {std::tuple("2024-1-9", "09/01/2024", "    1>  0 main balls. \n"),
                                                    {"long ago", "long ago", "    No main entries on this date.\n"}}) {
             CheckedPage page;
-            StoreDraws(MainGame, {"2024-01-09,1,2,3,4,5,6,7,,"});
-            ukmain.MoveFirst();
-            ukmain.Edit();
+            ukmain.AddNew();
             ukmain.SetField(DrawField::Date, stored);
             ukmain.Update();
-            ukmainlist.Requery();
-            AddEntry(entries, {1, 2, 1, {11, 12, 13, 14, 15, 16}, EachDay});
-            page.Open();
-            page.Find<QComboBox>("F12user")->setCurrentIndex(2);
+            AddEntry(entries, {1, 1, 1, {11, 12, 13, 14, 15, 16}, EachDay});
             page.Click("F12typem");
-            QCOMPARE(page.Check(), QString("User: Ann\n  Draw type: Main (%1)\n%2\n").arg(shown, lines));
+            QCOMPARE(page.Check(1),
+                     "Tavenor v3.0\n\n" + Block("Cid", QString("  Draw type: Main (%1)\n").arg(shown) + lines));
         }
     }
 
@@ -114,9 +118,9 @@ private Q_SLOTS:
     void DateIsTypedWithItsYear()
     {
         CheckedPage page;
-        page.Open();
         page.Click("F12dateselect");
-        auto* date = page.Find<QDateEdit>("F12cal");
+        QDateEdit* date = page.Date();
+        QCOMPARE(date->date(), QDate::currentDate());
         const QDate wanted(1999, 12, 31);
         date->setDate(QDate(2026, 1, 1));
         date->setFocus();
@@ -142,35 +146,29 @@ private Q_SLOTS:
         AddEntry(entries, {1, 2, 1, {1, 2, 3, 11, 12, 13}, {false, false, false, false, false, true, false}});
         AddEntry(entries, {2, 1, 1, {11, 12, 17, 31, 32, 33}, {false, false, true, false, false, false, false}});
         AddEntry(entries, {3, 2, 2, {5, 31, 32, 33, 34, 6}, {false, false, true, false, false, false, false}});
-        page.Open();
         const QString main = "  Draw type: Main (21/11/2026)\n";
-        const QString earlier = "  Draw type: Main (18/11/2026)\n";
-        const QString thunderball = "  Draw type: Thunderball (18/11/2026)\n";
-        const QString noMain = "    No main entries on this date.\n";
-        const QString cidsMain = "    1>  2 main balls + bonus. \n";
-        const QString annsMain = "    1>  3 main balls. <<WIN>>\n";
-        const QString annsThunder = thunderball + "    1>    1 main ball + thunderball. <<WIN>>\n";
-        const QString nobodysThunder = thunderball + "    No thunderball entries on this date.\n";
+        const QString thunder = "  Draw type: Thunderball (18/11/2026)\n";
+        const QString annsMain = main + "    1>  3 main balls. <<WIN>>\n";
+        const QString annsThunder = thunder + "    1>    1 main ball + thunderball. <<WIN>>\n";
+        const QString cidsMain = "  Draw type: Main (18/11/2026)\n    1>  2 main balls + bonus. \n";
+        const QString nothing =
+            main + "    No main entries on this date.\n" + thunder + "    No thunderball entries on this date.\n";
         const QString noDraws = "  No main draw on this date.\n  No thunderball draw on this date.\n";
-        auto* date = page.Find<QDateEdit>("F12cal");
-        // Each row is a line of the list of users, the options, and the blocks of Cid and Ann.
-        for (const auto& [user, options, day, cid, ann] :
-             {std::tuple(0, "", QDate(), main + noMain + nobodysThunder, main + annsMain + annsThunder),
-              {2, "F12typet", QDate(), {}, annsThunder},
-              {2, "F12dateselect F12typem", QDate(2026, 11, 21), {}, main + annsMain},
-              {0, "F12typem", QDate(2026, 11, 18), earlier + cidsMain, earlier + noMain},
-              {2, "F12typeb", QDate(2026, 11, 19), {}, noDraws},
-              {2, "F12datelatest", QDate(), {}, main + annsMain + annsThunder}}) {
-            page.Find<QComboBox>("F12user")->setCurrentIndex(user);
+        // Each row is a line of the list of users, the options, and the blocks. The first of two users of one name is
+        // checked.
+        for (const auto& [user, options, day, blocks] :
+             {std::tuple(0, "", QDate(),
+                         Block("Cid", nothing) + Block("Ann", annsMain + annsThunder) + Block("Ann", nothing)),
+              {3, "F12typet", QDate(), Block("Ann", annsThunder)},
+              {1, "F12dateselect F12typem", QDate(2026, 11, 18), Block("Cid", cidsMain)},
+              {2, "F12typeb", QDate(2026, 11, 19), Block("Ann", noDraws)},
+              {2, "F12datelatest", QDate(), Block("Ann", annsMain + annsThunder)}}) {
             for (const QString& option : QString(options).split(' ', Qt::SkipEmptyParts))
                 page.Click(option);
-            QCOMPARE(date->isVisible(), day.isValid());
-            date->setDate(day);
-            QCOMPARE(page.Check(),
-                     (cid.isEmpty() ? QString() : "User: Cid\n" + cid + '\n') + "User: Ann\n" + ann + '\n');
+            QCOMPARE(page.Date()->isVisible(), day.isValid());
+            page.Date()->setDate(day);
+            QCOMPARE(page.Check(user), "Tavenor v3.0\n\n" + blocks);
         }
-        page.Click("F12dateselect");
-        QCOMPARE(date->date(), QDate::currentDate());
     }
 };
 
