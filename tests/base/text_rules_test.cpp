@@ -2,7 +2,6 @@
 
 #include "base/dates.h"
 #include "base/numbers.h"
-#include "builder/random_source.h"
 
 #include <cfloat>
 
@@ -20,7 +19,7 @@ private Q_SLOTS:
             {0, {"", "abc12", ".", "-", "NaN", "inf", "0x10", arabicThree, "0." + QString(10000, u'0') + "1"}},
             {1, {"1-5", "1,5", "1e308"}},
             {4, {"4\n5", "4" + arabicThree, QString("4") + QChar(1) + "5"}},
-            {5, {"5.", "005x"}},
+            {5, {"5.", "005x", "+5"}},
             {-5, {"-5"}},
             {0.5, {".5"}},
             {1.2, {"1.2.3"}},
@@ -28,8 +27,7 @@ private Q_SLOTS:
             {DBL_MAX, {QString(10000, u'9')}}};
         for (const auto& [value, texts] : rows)
             for (const QString& text : texts)
-                QVERIFY2(NumericValue(text) == value && NumericValue(std::string_view(text.toStdString())) == value,
-                         qPrintable(text));
+                QVERIFY2(NumericValue(text) == value, qPrintable(text));
     }
 
     void NumbersAreWrittenPlainOrWithTheSignsPlace()
@@ -40,39 +38,23 @@ private Q_SLOTS:
             QCOMPARE(PlainNumber(NumericValue(QString(text))), QString(text));
         for (const double value : {DBL_MAX, DBL_MIN, DBL_TRUE_MIN, 1e300, 0.1 + 0.2})
             QVERIFY(NumericValue(PlainNumber(value)) == value);
-        QCOMPARE(SpacedNumber(0) + SpacedNumber(49) + SpacedNumber(-1), QString(" 0 49-1"));
+        QCOMPARE(SpacedNumber(-0.0) + SpacedNumber(49) + SpacedNumber(-1), QString(" 0 49-1"));
     }
 
-    void DatesAreWrittenInEnglish()
+    void StoredDatesAreReadStrictlyAndWrittenInEnglish()
     {
-        const QDate date(2000, 2, 5);
-        QCOMPARE(LongDate(date), QString("Saturday, 5 February 2000"));
-        QCOMPARE(StoredDateInWords("2000-02-05"), QString("5 February 2000"));
-        QCOMPARE(ShortDayName(date) + ShortDayName(date.addDays(1)), QString("SatSun"));
-        for (int days = 0; days < 7; ++days)
-            QCOMPARE(DaySetIndex(date.addDays(days)), (days + 5) % 7);
-        QVERIFY(ShortDate(date).contains("2000"));
-    }
-
-    void StoredDatesAreReadStrictly()
-    {
-        QCOMPARE(DateFromIso("1999-06-12"), QDate(1999, 6, 12));
-        QCOMPARE(DateFromIso("2024-02-29"), QDate(2024, 2, 29));
-        QCOMPARE(DateFromIso("2024-1-9"), QDate(2024, 1, 9));
-        for (const char* odd :
-             {"2023-02-29", "1999-13-12", "1999-06-12 10:00", "1999--6-12", "", "yesterday!", "24-01-09", "2024-001-9"})
-            QVERIFY2(!DateFromIso(odd).isValid(), odd);
-    }
-
-    void ChanceIsRepeatableAndInRange()
-    {
-        RandomSource first;
-        RandomSource second;
-        for (int i = 0; i < 49000; ++i) {
-            const int number = first.UpTo(49);
-            QCOMPARE(second.UpTo(49), number);
-            QVERIFY(number >= 1 && number <= 49);
-        }
+        // Month and day may lack their zeros, as other tools write them.
+        for (const auto& [stored, written] : {std::pair("2000-02-05", "Saturday, 5 February 2000"),
+                                              {"2024-02-29", "Thursday, 29 February 2024"},
+                                              {"2024-1-9", "Tuesday, 9 January 2024"}})
+            QCOMPARE(LongStoredDate(stored), QString(written));
+        for (const char* odd : {"2023-02-29", "1999-13-12", "1999-06-12 10:00", "1999--6-12", "", "yesterday!",
+                                "24-01-09", "2024-001-9", "2024-1-009", "2024-10", "20x4-01-09", "year-01-09"})
+            QVERIFY2(!DateFromIso(odd).isValid() && StoredDateInWords(odd) == odd, odd);
+        QString days;
+        for (int day = 9; day <= 15; ++day)
+            days += ShortDayName(QDate(2024, 1, day));
+        QCOMPARE(days + StoredDateInWords("2000-02-05"), QString("TueWedThuFriSatSunMon5 February 2000"));
     }
 };
 

@@ -5,32 +5,25 @@
 
 namespace {
 
-/// Runs the tool on three lists in a folder of its own.
-struct Run
+/// What the tool says of lists with these draws, in a folder of its own; nothing where it makes the databases of them.
+QString Say(const QTemporaryDir& folder, const QByteArray& mainRows, const QByteArray& thunderballRows)
 {
-    Run(const QByteArray& mainRows, const QByteArray& thunderballRows)
-    {
-        QStringList arguments;
-        const auto write = [&](const QString& name, const QByteArray& content) {
-            arguments.append(folder.filePath(name));
-            WriteBytes(arguments.last(), content);
-        };
-        write("main.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Ball6,Bonus,Machine,BallSet\n" + mainRows);
-        write("thunderball.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Thunderball\n" + thunderballRows);
-        write("links.csv",
-              "SiteName,WebAddress,MailAddress,Description1,Description2\nA site,www.site.example,,One,Two\n");
-        SetProgramDir(folder.filePath("out").toStdString());
-        QProcess process;
-        process.start(TAVENOR_MAKE_DATABASES, arguments << folder.filePath("out"));
-        process.waitForFinished();
-        code = process.exitCode();
-        said = QString::fromLocal8Bit(process.readAllStandardError());
-    }
-
-    int code;
-    QString said;
-    QTemporaryDir folder;
-};
+    const auto write = [&folder](const QString& name, const QByteArray& content) {
+        WriteBytes(folder.filePath(name), content);
+        return folder.filePath(name);
+    };
+    SetProgramDir(folder.filePath("out").toStdString());
+    QProcess process;
+    process.start(TAVENOR_MAKE_DATABASES,
+                  {write("main.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Ball6,Bonus,Machine,BallSet\n" + mainRows),
+                   write("thunderball.csv", "Date,Ball1,Ball2,Ball3,Ball4,Ball5,Thunderball\n" + thunderballRows),
+                   write("links.csv", "SiteName,WebAddress,MailAddress,Description1,Description2\n"
+                                      "A site,www.site.example,,One,Two\n"),
+                   folder.filePath("out")});
+    process.waitForFinished();
+    const QString said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
+    return said.isEmpty() == (process.exitCode() == 0) ? said : "it ended otherwise";
+}
 
 } // namespace
 
@@ -41,12 +34,13 @@ class MakeDatabasesTest : public QObject
 private Q_SLOTS:
     void RowsGoInByDateNumberedFromOne()
     {
-        const Run run("2015-10-07,1,2,3,4,5,6,7,MERLIN,4\n1994-11-19,3,5,14,22,30,44,10,,\n",
-                      "2010-05-08,1,2,3,4,5,1\n");
-        QVERIFY2(run.code == 0, qPrintable(run.said));
+        const QTemporaryDir folder;
+        QCOMPARE(Say(folder, "2015-10-07,1,2,3,4,5,6,7,MERLIN,4\n1994-11-19,3,5,14,22,30,44,10,,\n",
+                     "2010-05-08,1,2,3,4,5,1\n"),
+                 QString());
         QCOMPARE(TestFolder::StoredRows("ukmain"),
                  (QStringList{"1,1994-11-19,Sat,3,5,14,22,30,44,10,,", "2,2015-10-07,Wed,1,2,3,4,5,6,7,MERLIN,4"}));
-        QCOMPARE(TestFolder::StoredRows("ukmainlist").first().left(12), QString("2,2015-10-07"));
+        QCOMPARE(TestFolder::StoredNumbers("ukmainlist"), QString("2 1"));
         QCOMPARE(TestFolder::StoredRows("ukthunder"), QStringList{"1,2010-05-08,Sat,1,2,3,4,5,1"});
         QCOMPARE(TestFolder::StoredRows("links"), QStringList{"A site,www.site.example,,One,Two"});
         QCOMPARE(TestFolder::StoredRows("users"), QStringList());
@@ -64,22 +58,11 @@ private Q_SLOTS:
             {"2015-10-07,2,1,3,4,5,6,7,,", "the main balls are not in ascending order"},
             {"2015-10-07,1,2,3,4,5,6,7,", "9 fields instead of 10"}};
         for (const auto& [row, reason] : rows) {
-            const Run run("1994-11-19,3,5,14,22,30,44,10,,\n" + row + "\n", "");
-            QCOMPARE(run.code, 1);
-            QVERIFY2(run.said.trimmed().endsWith("main.csv:3: " + reason), qPrintable(run.said));
-            QVERIFY(!QFile::exists(run.folder.filePath("out/drawdata.tv3")));
+            const QTemporaryDir folder;
+            const QString said = Say(folder, "1994-11-19,3,5,14,22,30,44,10,,\n" + row + "\n", "");
+            QVERIFY2(said.endsWith("main.csv:3: " + reason), qPrintable(said));
+            QVERIFY(!QFile::exists(folder.filePath("out/drawdata.tv3")));
         }
-    }
-
-    void StarterDatabasesHoldTheWholeHistory()
-    {
-        const TestFolder folder(TestFolder::Content::Starter);
-        const QStringList mainDraws = TestFolder::StoredRows("ukmain");
-        QCOMPARE(mainDraws.size(), 2065);
-        QCOMPARE(mainDraws.first(), QString("1,1994-11-19,Sat,3,5,14,22,30,44,10,GUINEVERE,A"));
-        QCOMPARE(mainDraws.last().section(',', 0, 0), QString("2065"));
-        QCOMPARE(TestFolder::StoredRows("ukthunder").size(), 964);
-        QCOMPARE(TestFolder::StoredRows("links").filter("Your web site HERE.").size(), 1);
     }
 };
 
