@@ -24,6 +24,15 @@ QComboBox* MakeList(int index, const QString& caption)
     return list;
 }
 
+/// Of the two at most one is seen at a time.
+QGridLayout* InOnePlace(QWidget* first, QWidget* second, Qt::Alignment alignmentOfFirst)
+{
+    auto* place = new QGridLayout;
+    place->addWidget(first, 0, 0, alignmentOfFirst);
+    place->addWidget(second, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    return place;
+}
+
 } // namespace
 
 StepCard::StepCard()
@@ -46,43 +55,33 @@ StepCard::StepCard()
     F26info->setAccessibleName(u"About this build type"_s);
     F26info->setFixedWidth(F26info->sizeHint().height());
     F26go->MakeAccent();
-    Content()->setSpacing(Spacing::Inside);
-    AddStep(u"Step 1:"_s, u"Select User"_s);
-    Content()->addWidget(F26combo[0]);
-    AddStep(u"Step 2:"_s, u"Select Build Type"_s);
+    Content()->setSpacing(Spacing::Inside + Spacing::Between);
+    AddStep(u"Step 1:"_s, u"Select User"_s)->addWidget(F26combo[0]);
     auto* typeRow = new QHBoxLayout;
     typeRow->setSpacing(Spacing::Inside);
     typeRow->addWidget(F26combo[1], 1);
     typeRow->addWidget(F26info);
-    Content()->addLayout(typeRow);
-    Content()->addWidget(entriesLabel);
-    AddStep(u"Step 3:"_s, u"Select Options"_s);
-    Content()->addWidget(promptLabel);
-    AddInOnePlace(F26combo[2], F26text, {});
-    AddStep(u"Step 4:"_s, u"Select Numbers"_s);
-    AddInOnePlace(F26choose, noNumbersLabel, Qt::AlignLeft);
-    AddStep(u"Step 5:"_s, u"Start Build Process"_s);
-    Content()->addWidget(F26go, 0, Qt::AlignLeft);
+    QVBoxLayout* typeStep = AddStep(u"Step 2:"_s, u"Select Build Type"_s);
+    typeStep->addLayout(typeRow);
+    typeStep->addWidget(entriesLabel);
+    QVBoxLayout* optionStep = AddStep(u"Step 3:"_s, u"Select Options"_s);
+    optionStep->addWidget(promptLabel);
+    optionStep->addLayout(InOnePlace(F26combo[2], F26text, {}));
+    AddStep(u"Step 4:"_s, u"Select Numbers"_s)->addLayout(InOnePlace(F26choose, noNumbersLabel, Qt::AlignLeft));
+    AddStep(u"Step 5:"_s, u"Start Build Process"_s)->addWidget(F26go, 0, Qt::AlignLeft);
 }
 
-void StepCard::AddStep(const QString& number, const QString& title)
+QVBoxLayout* StepCard::AddStep(const QString& number, const QString& title)
 {
-    if (Content()->count() > 0)
-        Content()->addSpacing(Spacing::Between);
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Spacing::Inside);
     heading->addWidget(MakeLabel(number, TextRole::Caption), 0, Qt::AlignBaseline);
     heading->addWidget(MakeLabel(title, TextRole::Strong), 1, Qt::AlignBaseline);
-    Content()->addLayout(heading);
-}
-
-void StepCard::AddInOnePlace(QWidget* first, QWidget* second, Qt::Alignment alignmentOfFirst)
-{
-    // Of the two at most one is seen at a time.
-    auto* place = new QGridLayout;
-    place->addWidget(first, 0, 0, alignmentOfFirst);
-    place->addWidget(second, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
-    Content()->addLayout(place);
+    auto* step = new QVBoxLayout;
+    step->setSpacing(Spacing::Inside);
+    step->addLayout(heading);
+    Content()->addLayout(step);
+    return step;
 }
 
 void StepCard::Describe(const BuildType& type)

@@ -31,8 +31,8 @@ public:
     Button* F26go;
 
 private:
-    void AddStep(const QString& number, const QString& title);
-    void AddInOnePlace(QWidget* first, QWidget* second, Qt::Alignment alignmentOfFirst);
+    /// Adds the heading of a step; its controls are added to what comes back.
+    QVBoxLayout* AddStep(const QString& number, const QString& title);
 
     QLabel* entriesLabel;
     QLabel* promptLabel;

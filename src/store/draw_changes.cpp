@@ -30,7 +30,6 @@ void ChangeDraw(const Game& game, const Bookmark& mark, const EnteredDraw& draw)
     MoveToDraw(table, mark, doing);
     OverwriteDraw(table, game, draw);
     transaction.Commit();
-    DrawListOf(game).Requery();
 }
 
 void DeleteDraws(const Game& game, const std::vector<Bookmark>& marks)

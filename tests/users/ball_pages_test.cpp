@@ -1,114 +1,32 @@
-#include "support/test_window.h"
+#include "users/ball_window.h"
+
+#include "support/grid_driver.h"
 
 #include <QDropEvent>
 #include <QMimeData>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-/// What a page says of a ball that is out of range, and of balls that it does not store.
-struct Refusals
-{
-    QString main;
-    QString extra;
-    QString all;
-};
-
-/// A page on which balls are typed.
-struct BallPage
-{
-    /// The group of the menu, its sub-option, and what is clicked then.
-    QString opened;
-    /// The arrays of the fields and of the discs, the button that stores, and where Enter leads from the last ball.
-    QString controls;
-    /// The elements of the balls in the order in which they are typed.
-    QString elements;
-    Refusals refusals;
-    /// Whether a refused field turns grey before its message.
-    bool greyFirst;
-
-    QString Fields() const { return controls.section(u' ', 0, 0); }
-    QString Field(QChar element) const { return Fields() + u'_' + element; }
-    QString Discs() const { return controls.section(u' ', 1, 1); }
-    QString Store() const { return controls.section(u' ', 2, 2); }
-};
-
-const QString Again = u"Error detected in the data that you entered.\r\nPlease re-check and press '%1' again."_s;
-const QString Equal = u"Two or more %1 have the same value,\r\nplease retry."_s;
 const QString MainRange = u"Ball values must be between 1 and 49"_s;
 const QString ThunderRange = u"Main ball values must be between 1 and 34"_s;
+const QString NewExtra = u"Thunderball value must be between 1 and 14"_s;
+const QString Again = u"Error detected in the data that you entered.\r\nPlease re-check and press '%1' again."_s;
+const QString Equal = u"Two or more %1 have the same value,\r\nplease retry."_s;
+const QString Replace = u"Are you sure you want to replace the old data with this new data?"_s;
+const QString NewMain = u"The new main draw data has been stored."_s;
+const QString NewThunder = u"The new Thunderball draw data has been stored."_s;
+const QString NewEntry = u"This entry has been stored."_s;
+const QString Changed = u"The changes have been stored."_s;
 
-const Refusals NewMain{MainRange, MainRange, Again.arg("Store")};
-const Refusals NewThunder{ThunderRange, "Thunderball value must be between 1 and 14", Again.arg("Store")};
-const Refusals MainDraw{MainRange, MainRange, Again.arg("Save Changes")};
-const Refusals ThunderDraw{"Balls must be between 1 and 34", "Thunderball must be between 1 and 14",
-                           Again.arg("Save Changes")};
-const Refusals MainEntry{MainRange, MainRange, Equal.arg("balls")};
-const Refusals ThunderEntry{ThunderRange, "Main ball values must be between 1 and 14", Equal.arg("main balls")};
-
-const BallPage Page6{"1 1", "F6MBall1 F6MBall F6Store F6Mmachine", "1234560", NewMain, true};
-const BallPage Page7{"1 2", "F7TBall1 F7TBall F7Store F7Store", "123450", NewThunder, false};
-const BallPage Page16{"2 3 F10maineditbutton", "F16number F16ball F16save F16machine", "1234560", MainDraw, true};
-const BallPage Page17{"2 3 F10thundereditbutton", "F17number F17ball F17save F17save", "123450", ThunderDraw, false};
-const BallPage Page18{"3 2", "F18ent F18ball F18store F18store", "123456", NewMain, true};
-const BallPage Page18T{"3 2 F18type", "F18ent F18ball F18store F18store", "123456", NewThunder, false};
-const BallPage Page20{"3 3 F13edit", "F20num F20ball F20store F20store", "123456", MainEntry, false};
-const BallPage Page20T{"3 3 F13typethunder F13edit", "F20num F20ball F20store F20store", "123456", ThunderEntry, false};
-
-/// The window with a draw and an entry of each game.
-class BallWindow : public TestWindow
+void Drop(QLineEdit* box, const QString& dropped)
 {
-public:
-    explicit BallWindow(const BallPage& ballPage) : page(ballPage)
-    {
-        const DaySet days{true, false, false, false, false, false, true};
-        StoreDraws(MainGame, {"2000-01-01,3,15,22,38,41,49,9,ARTHUR,4"});
-        StoreDraws(ThunderballGame, {"2000-01-01,3,15,22,30,34,14"});
-        AddUser(users, "Ann", 10);
-        AddEntry(entries, {1, 1, 1, {3, 15, 22, 38, 41, 49}, days});
-        AddEntry(entries, {2, 1, 2, {3, 15, 22, 30, 34, 14}, days});
-        Open();
-    }
-
-    /// Opens the page anew; on one that changes what is stored the first ball has the focus.
-    void Open()
-    {
-        const QStringList clicks = page.opened.split(u' ');
-        OpenPage(clicks[0].toInt(), clicks[1].toInt());
-        for (const QString& name : clicks.mid(2))
-            name == "F18type"_L1 ? Choose(name, 1) : Click(name);
-        if (page.Store() == "F18store"_L1)
-            Find(page.Field('1'))->setFocus(Qt::TabFocusReason);
-        QCOMPARE(FocusedName(), page.Field('1'));
-    }
-
-    /// Types the balls as a player does, going on with Enter; what is in a field is replaced.
-    void TypeBalls(const QString& balls)
-    {
-        for (const QString& ball : balls.split(u' ')) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
-            QTest::keyClicks(QApplication::focusWidget(), ball);
-            PressFocused(Qt::Key_Return);
-        }
-        QCOMPARE(FocusedName(), page.controls.section(u' ', 3));
-    }
-
-    QString Colours(QChar element) const
-    {
-        return ColoursOf(page.Discs(), element, QPalette::Window) + u' ' +
-               ColoursOf(page.Fields(), element, QPalette::Base) + u' ' +
-               ColoursOf(page.Fields(), element, QPalette::Text);
-    }
-
-    static QStringList StoredRows()
-    {
-        return TestFolder::StoredRows("ukmain") + TestFolder::StoredRows("ukthunder") +
-               TestFolder::StoredRows("entries");
-    }
-
-    const BallPage& page;
-};
+    QMimeData text;
+    text.setText(dropped);
+    QDragEnterEvent enter({}, Qt::CopyAction, &text, Qt::LeftButton, {});
+    QApplication::sendEvent(box, &enter);
+    QDropEvent drop({}, Qt::CopyAction, &text, Qt::LeftButton, {});
+    QApplication::sendEvent(box, &drop);
+}
 
 } // namespace
 
@@ -117,163 +35,167 @@ class BallPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Each case is an element, what is typed into it, and the colours of its ball and its digits.
-    void AcceptedFieldIsColoured()
+    /// Each accepted case is an element, what is typed into it, and the colours of its ball and its digits when it is
+    /// left. Each refused one is told, emptied and focused, and nothing else happens, whatever is done; ways and cases
+    /// take turns.
+    void FieldIsColouredOrRefused()
     {
-        using Row = std::pair<const BallPage*, const char*>;
-        for (const auto& [page, cases] :
-             {Row{&Page6, "1:7:#FFFFFF:#000000 0:49:#FFFF80:#000000 1:9.5:#80FFFF:#000000 2::#404040:#FFFFFF"},
-              {&Page7, "1:34:#000080:#FFFFFF 0:14:#FF0000:#000000 0:0.5:#FF0000:#000000"},
-              {&Page16, "3:39:#80FF80:#000000"},
-              {&Page18T, "6:0.5:#FF0000:#000000"},
-              {&Page20, "6:20:#FF8080:#000000"},
-              {&Page20T, "6:14:#FF0000:#000000 5::#404040:#FFFFFF"}}) {
-            BallWindow window(*page);
-            for (const QString& wanted : QString(cases).split(u' ')) {
-                const QStringList parts = wanted.split(u':');
-                window.Type(page->Field(wanted[0]), parts[1]);
-                window.Press(page->Field(wanted[0]), Qt::Key_Tab);
-                QCOMPARE(window.Colours(wanted[0]), QString("%1 %1 %2").arg(parts[2], parts[3]));
-            }
-        }
-    }
-
-    /// Each case is an element and what is typed into it.
-    void RefusedFieldIsToldEmptiedAndFocused()
-    {
-        using Row = std::pair<const BallPage*, const char*>;
-        for (const auto& [page, cases] : {Row{&Page6, "1:abc 0:50 6:49.5"},
-                                          {&Page7, "5:35 0:15 0:0"},
-                                          {&Page16, "1:50"},
-                                          {&Page17, "5:35 0:0.5"},
-                                          {&Page18, "6:50"},
-                                          {&Page18T, "5:35 6:15"},
-                                          {&Page20, "6:50 2:1.5"},
-                                          {&Page20T, "2:35 6:0.5"}}) {
-            BallWindow window(*page);
-            for (const QString& wanted : QString(cases).split(u' ')) {
-                const QChar element = wanted[0];
-                const QString field = page->Field(element);
-                window.Type(field, "7");
-                window.Press(field, Qt::Key_Tab);
-                const QString accepted = window.Colours(element);
-                const QString grey = page == &Page17 ? accepted : "#404040 #404040 #FFFFFF";
-                QString whileTold;
-                window.modals.WillPress(QMessageBox::Ok, [&] { whileTold = window.Colours(element); });
-                window.Type(field, wanted.mid(2));
-                window.Press(field, Qt::Key_Tab);
-                const bool extra = element == page->elements.back();
-                QCOMPARE(window.modals.TakeTexts(), QStringList{extra ? page->refusals.extra : page->refusals.main});
-                QCOMPARE(whileTold, page->greyFirst ? grey : accepted);
-                QCOMPARE(window.TextOf(field) + window.FocusedName(), field);
-                // The emptied field is left without a word.
-                window.PressFocused(Qt::Key_Tab);
-                QCOMPARE(window.Colours(element), grey);
-            }
-        }
-    }
-
-    /// A refused ball is told, emptied and focused, and nothing else happens, whatever is done instead of leaving it.
-    void RefusedBallIsStoppedInEveryWay()
-    {
-        for (const BallPage* page : {&Page6, &Page7, &Page16, &Page17, &Page18, &Page18T, &Page20, &Page20T}) {
+        using Row = std::tuple<const BallPage*, const char*, const char*, QString, QString>;
+        for (const auto& [page, accepted, refused, told, toldOfLast] :
+             {Row{&Page6, "1:9:#FFFFFF:#000000 0:49:#FFFF80:#000000 1:9.5:#80FFFF:#000000 2::#404040:#FFFFFF",
+                  "0:50 1:abc 6:49.5 1:0.5", MainRange, MainRange},
+              {&Page7, "1:34:#000080:#FFFFFF 0:14:#FF0000:#000000 0:0.5:#FF0000:#000000", "0:15 5:35 0:0", ThunderRange,
+               NewExtra},
+              {&Page16, "3:39:#80FF80:#000000", "0:50 1:0", MainRange, MainRange},
+              {&Page17, "1:34:#000080:#FFFFFF 1::#000080:#FFFFFF", "0:0.5 5:35", "Balls must be between 1 and 34",
+               "Thunderball must be between 1 and 14"},
+              {&Page18, "6:1:#FFFFFF:#000000", "6:50", MainRange, MainRange},
+              {&Page18T, "6:0.5:#FF0000:#000000", "6:15 5:35", ThunderRange, NewExtra},
+              {&Page20, "6:20:#FF8080:#000000", "6:50 2:1.5", MainRange, MainRange},
+              {&Page20T, "6:14:#FF0000:#000000 5::#404040:#FFFFFF", "6:0.5 2:35", ThunderRange,
+               "Main ball values must be between 1 and 14"}}) {
             BallWindow window(*page);
             const QStringList before = BallWindow::StoredRows();
-            const QString field = page->Field(page->elements.back());
-            auto* box = window.Find<QLineEdit>(field);
+            for (const QString& wanted : QString(accepted).split(u' ')) {
+                const QStringList parts = wanted.split(u':');
+                window.Type(page->Field(wanted[0]), parts[1]);
+                window.PressFocused(Qt::Key_Tab);
+                QCOMPARE(window.Colours(wanted[0]), QString("%1 %1 %2").arg(parts[2], parts[3]));
+            }
             const auto* store = window.Find<QPushButton>(page->Store());
-            for (const QString way : {"click", "letter", "menu", "ahead", "drop", "escape"}) {
-                // Only a page that is laid over another is left by Escape.
-                if (way == "escape"_L1 && !page->opened.contains("edit"_L1))
-                    continue;
+            QStringList ways{"Tab", store->shortcut().toString(), "Alt+G", "ahead", "click", "drop"};
+            // Only a page that is laid over another is left by Escape.
+            if (page->Edits())
+                ways.append("Escape");
+            for (int turn = 0; turn < ways.size(); ++turn) {
+                const QStringList turns = QString(refused).split(u' ');
+                const QString wanted = turns[turn % turns.size()];
+                const QString field = page->Field(wanted[0]);
+                auto* box = window.Find<QLineEdit>(field);
                 window.Open();
-                window.Type(field, way == "drop"_L1 ? "" : "99");
-                window.modals.WillPress(QMessageBox::Ok);
-                if (way == "drop"_L1) {
-                    window.Press(field, Qt::Key_Backtab, Qt::ShiftModifier);
-                    QMimeData text;
-                    text.setText("99");
-                    QDragEnterEvent enter({}, Qt::CopyAction, &text, Qt::LeftButton, {});
-                    QApplication::sendEvent(box, &enter);
-                    QDropEvent drop({}, Qt::CopyAction, &text, Qt::LeftButton, {});
-                    QApplication::sendEvent(box, &drop);
-                }
-                if (way == "drop"_L1 || way == "click"_L1)
-                    window.Click(page->Store());
-                else if (way == "escape"_L1)
-                    window.Press(field, Qt::Key_Escape);
-                else if (way != "ahead"_L1)
-                    window.Press(field, way == "menu"_L1 ? Qt::Key_G : static_cast<Qt::Key>(store->shortcut()[0].key()),
-                                 Qt::AltModifier);
-                for (int press = 0; way == "ahead"_L1 && press < 2; ++press)
-                    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-                QTRY_VERIFY2(window.modals.AllCame() && box->text().isEmpty(), qPrintable(field + way));
+                window.Type(field, ways[turn] == "drop" ? "" : "7");
+                window.Press(field, Qt::Key_Tab);
+                const QString coloured = window.Colours(wanted[0]);
+                const QString grey = page == &Page17 ? coloured : "#404040 #404040 #FFFFFF";
+                QString whileTold;
+                window.modals.WillPress(QMessageBox::Ok, [&] { whileTold = window.Colours(wanted[0]); });
+                if (ways[turn] == "drop")
+                    Drop(box, wanted.mid(2));
+                else
+                    window.Type(field, wanted.mid(2));
+                window.Leave(ways[turn]);
+                QTRY_VERIFY2(window.modals.AllCame() && box->text().isEmpty(), qPrintable(field + ways[turn]));
+                QCOMPARE(window.modals.TakeTexts(), {wanted[0] == page->elements.back() ? toldOfLast : told});
+                QCOMPARE(whileTold, page->greyFirst ? grey : coloured);
                 QCOMPARE(window.Window().focusWidget()->objectName(), field);
-                QCOMPARE(window.modals.TakeTexts(), QStringList{page->refusals.extra});
                 QVERIFY(!store->isDown());
+                // The emptied field is left without a word.
+                window.Press(field, Qt::Key_Tab);
+                QCOMPARE(window.Colours(wanted[0]), grey);
             }
             QCOMPARE(BallWindow::StoredRows(), before);
         }
     }
 
-    void WhatIsNoDrawAndNoEntryIsNotStored()
+    /// Each row tells what is refused, what is typed then, how it is seen when the page says that it is stored, and the
+    /// row that is stored. A page that adds is ready for the next one then; another is left.
+    void BallsAreRefusedOrStoredInOrder()
     {
-        using Row = std::pair<const BallPage*, const char*>;
-        for (const auto& [page, cases] : {Row{&Page6, "1 2 3 4 5 6 6|1 2  4 5 6 7|1 2 3 4 5 6 7.5"},
-                                          {&Page7, "1 2 3 4 5 0.5|1 2 3 3 5 6"},
-                                          {&Page16, "1 2 3 4 5 6 4"},
-                                          {&Page17, "1 2 3 3 5 6"},
-                                          {&Page18, "1 2 3 4 5 5|1 2 3 4 5 "},
-                                          {&Page18T, "1 2 3 4 5 0.5|1 2 3 4 4 5"},
-                                          {&Page20, "5 3 4 2 1 5|  1 2 5 6"},
-                                          {&Page20T, "5 3 5 2 1 5"}}) {
+        using Row = std::tuple<const BallPage*, const char*, QString, const char*, QString, const char*, QString>;
+        const QString grey = "#404040 #404040 #404040";
+        const QString again = Again.arg("Store");
+        const QString againChanged = Again.arg("Save Changes");
+        for (const auto& [page, refused, why, typed, seen, stored, told] :
+             {Row{&Page6, "1 2 3 4 5 6 6|1 2  4 5 6 7|1 2 3 4 5 6 7.5", again, "40 3 27 9 33 1 12 G 2",
+                  "       " + grey, "3,2026-11-21,Sat,1,3,9,27,33,40,12,GUINEVERE,2", NewMain},
+              {&Page6, "1 2 3 4 5 6 4", again, "1 2 3 4 5 6 7 merlin ", "       " + grey,
+               "3,2026-11-21,Sat,1,2,3,4,5,6,7,merlin,", NewMain},
+              {&Page7, "1 2 3 4 5 0.5|1 2 3 3 5 6", again, "30 2 15 7 21 2", "      " + grey,
+               "3,2026-11-21,Sat,2,7,15,21,30,2", NewThunder},
+              {&Page16, "1 2 3 4 5 6 4", againChanged, "30 2 17 45 8 11 9 XII 9a",
+               "2 8 11 17 30 45 9 #FFFFFF #80FF80 #FFFFFF", "1,2000-01-01,Sat,2,8,11,17,30,45,9,XII,9a",
+               Replace + "|The edited main draw data has been stored."},
+              {&Page17, "1 2 3 3 5 6", againChanged, "30 2 17 8 11 2", "2 8 11 17 30 2 #000080 #000080 #FF0000",
+               "1,2000-01-01,Sat,2,8,11,17,30,2", Replace + "|The edited thunderball draw data has been stored."},
+              {&Page18, "1 2 3 4 5 5|1 2 3 4 5 ", again, "40 3 17 25 9 33", "3 9 17 25 33 40 #FFFFFF #80FF80 #FFFF80",
+               "3,1,1,3,9,17,25,33,40,-1,0,0,0,0,0,-1", NewEntry},
+              {&Page18T, "1 2 3 4 5 0.5|1 2 3 4 4 5", again, "30 2 15 7 21 2", "2 7 15 21 30 2 #000080 #000080 #FF0000",
+               "3,1,2,2,7,15,21,30,2,-1,0,0,0,0,0,-1", NewEntry},
+              {&Page20, "5 3 4 2 1 5|  1 2 5 6", Equal.arg("balls"), "40 3 22 38 41 9",
+               "3 9 22 38 40 41 #FFFFFF #FFFF80 #FFFF80", "1,1,1,3,9,22,38,40,41,-1,0,0,0,0,0,-1", Changed},
+              {&Page20T, "5 3 5 2 1 5", Equal.arg("main balls"), "34 30 22 15 3 3",
+               "3 15 22 30 34 3 #000080 #000080 #FF0000", "2,1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1", Changed}}) {
             BallWindow window(*page);
             const QStringList before = BallWindow::StoredRows();
-            for (const QString& typed : QString(cases).split(u'|')) {
-                window.Find(page->Field('1'))->setFocus(Qt::TabFocusReason);
-                window.TypeBalls(typed);
-                QCOMPARE(window.Click(page->Store(), {QMessageBox::Ok}), QStringList{page->refusals.all});
+            for (const QString& balls : QString(refused).split(u'|')) {
+                window.TypeBalls(balls);
+                QCOMPARE(window.Click(page->Store(), {QMessageBox::Ok}), {why});
                 QCOMPARE(BallWindow::StoredRows(), before);
                 // The editor of entries has put them into order before it compares them.
-                QStringList shown = typed.split(u' ');
+                QStringList shown = balls.split(u' ');
                 if (page->Store() == "F20store"_L1)
                     shown.sort();
-                QCOMPARE(window.TextsOf(page->Fields(), page->elements), shown.join(u' '));
+                QCOMPARE(window.Texts(), shown.join(u' '));
+            }
+            if (told == NewMain || told == NewThunder)
+                window.ChooseDate({2026, 11, 21});
+            window.TypeBalls(typed);
+            if (told == NewEntry) {
+                QCOMPARE(window.Click("F18store", {QMessageBox::Ok}),
+                         {"You must specify at least ONE draw day. Please retry."});
+                QCOMPARE(window.Seen(), seen);
+                window.Click("F18day_0");
+                window.Click("F18day_6");
+            }
+            if (told.startsWith(Replace))
+                window.modals.WillPress(QMessageBox::Yes);
+            QString whileTold;
+            window.modals.WillPress(QMessageBox::Ok, [&] { whileTold = window.Seen(); });
+            window.Click(page->Store());
+            QCOMPARE(window.modals.TakeTexts().join(u'|'), told);
+            QCOMPARE(whileTold, seen);
+            QVERIFY2(BallWindow::StoredRows().contains(stored), qPrintable(stored));
+            QCOMPARE(window.IsShown(page->Store()), !page->Edits());
+            if (page->Edits()) {
+                const QString shown = GridDriver(window, page->Control(4)).Row(0, 2);
+                QCOMPARE(shown, seen.section(u' ', 0, page->elements.size() - 1).replace(u' ', u','));
+            } else {
+                QCOMPARE(window.Seen().trimmed(), grey);
+                QCOMPARE(window.FocusedName(), page->Field('1'));
             }
         }
     }
 
-    /// The numbers are seen in their order, and in their colours, when the page says that they are stored.
-    void ChangesAreStoredInOrder()
+    /// Without a button the prompt is closed by its frame.
+    void SecondDrawOfADateIsAskedFor()
     {
-        const QString sure = "Are you sure you want to replace the old data with this new data?";
-        const QString mainStored = "The edited main draw data has been stored.";
-        const QString thunderStored = "The edited thunderball draw data has been stored.";
-        const QString entryStored = "The changes have been stored.";
-        using Row = std::tuple<const BallPage*, const char*, const char*, QStringList, const char*>;
-        for (const auto& [page, typed, seen, messages, row] :
-             {Row{&Page16, "30 2 17 45 8 11 9", "2 8 11 17 30 45 9 #FFFFFF #80FF80 #FFFF80",
-                  QStringList{sure, mainStored}, "1,2000-01-01,Sat,2,8,11,17,30,45,9,ARTHUR,4"},
-              Row{&Page17, "30 2 17 8 11 2", "2 8 11 17 30 2 #000080 #000080 #FF0000", QStringList{sure, thunderStored},
-                  "1,2000-01-01,Sat,2,8,11,17,30,2"},
-              Row{&Page20, "40 3 22 38 41 9", "3 9 22 38 40 41 #FFFFFF #FFFF80 #FFFF80", QStringList{entryStored},
-                  "1,1,1,3,9,22,38,40,41,-1,0,0,0,0,0,-1"},
-              Row{&Page20T, "34 30 22 15 3 3", "3 15 22 30 34 3 #000080 #000080 #FF0000", QStringList{entryStored},
-                  "2,1,2,3,15,22,30,34,3,-1,0,0,0,0,0,-1"}}) {
+        const QString first = "1,2000-01-01,Sat,3,15,22,38,41,49,9,ARTHUR,4";
+        const QString second = "2,1999-12-25,Sat,3,15,22,38,41,49,9,ARTHUR,4";
+        const QString typed = "2000-01-01,Sat,11,12,13,14,15,16,17,,";
+        for (const auto& [page, button, told, rows] :
+             {std::tuple(&Page6, "Command1", NewMain, QStringList{first, second, "3," + typed}),
+              {&Page6, "Command2", NewMain, {"1," + typed, second}},
+              {&Page6, "Command3", "The data has NOT been stored.", {first, second}},
+              {&Page6, "", "The data has NOT been stored.", {first, second}},
+              {&Page7,
+               "Command2",
+               NewThunder,
+               {"1,2000-01-01,Sat,11,12,13,14,15,7", "2,1999-12-25,Sat,3,15,22,30,34,14"}}}) {
             BallWindow window(*page);
-            window.TypeBalls(typed);
-            if (messages.size() > 1)
-                window.modals.WillPress(QMessageBox::Yes);
-            QString shown;
-            window.modals.WillPress(QMessageBox::Ok, [&, on = page] {
-                shown = window.TextsOf(on->Fields(), on->elements) + u' ' +
-                        window.ColoursOf(on->Discs(), on == &Page17 ? "150" : "156", QPalette::Window);
-            });
-            window.Click(page->Store());
-            QCOMPARE(window.modals.TakeTexts(), messages);
-            QCOMPARE(shown, QString(seen));
-            QVERIFY(BallWindow::StoredRows().contains(row));
-            QVERIFY(!window.IsShown(page->Store()));
+            window.ChooseDate({2000, 1, 1});
+            window.TypeBalls(page == &Page6 ? "16 15 14 13 12 11 17" : "15 14 13 12 11 7");
+            window.modals.WillDo(
+                [pressed = QString(button), game = page == &Page6 ? "main" : "thunderball"](QDialog& prompt) {
+                    QCOMPARE(prompt.findChild<QLabel*>("Label1")->text(),
+                             QString("A %1 draw with this date already exists,\r\nwhat do you want to do?").arg(game));
+                    pressed.isEmpty() ? void(prompt.close()) : PressIn(prompt, pressed);
+                });
+            QCOMPARE(window.Click(page->Store(), {QMessageBox::Ok}), {told});
+            const Game& game = page == &Page6 ? MainGame : ThunderballGame;
+            QCOMPARE(TestFolder::StoredRows(QString::fromStdString(DrawTable(game).name)), rows);
+            QCOMPARE(DrawListOf(game).Count(), rows.size());
+            QVERIFY(window.IsShown(page->Store()));
+            QCOMPARE(window.TextOf(page->Field('1')), told.contains("NOT") ? "11" : "");
         }
     }
 };

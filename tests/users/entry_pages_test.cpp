@@ -1,0 +1,205 @@
+#include "support/grid_driver.h"
+#include "support/raw_file.h"
+
+namespace {
+
+const QString UpToLimit = u"This user is up to the spend limit%1\r\n"
+                          u"Go to 'User Details' to change the spend limit, or choose another user."_s;
+
+/// A page of entries with Ann, who has two entries of each game, the second with zeros, and Bob, who has a Main entry.
+class EntryPages : public TestWindow
+{
+public:
+    explicit EntryPages(int suboption, double limit = 10)
+    {
+        AddUser(users, "Ann", limit);
+        AddUser(users, "Bob", 10);
+        int number = 0;
+        for (const auto& [user, game, numbers] : {std::tuple(1, 1, EntryNumbers{3, 15, 22, 38, 41, 49}),
+                                                  {1, 1, {0, 15, 22, 38, 41, 49}},
+                                                  {1, 2, {3, 15, 22, 30, 34, 14}},
+                                                  {1, 2, {0, 15, 22, 30, 34, 0}},
+                                                  {2, 1, {1, 2, 3, 4, 5, 6}}})
+            AddEntry(entries, {++number, user, game, numbers, {true, false, false, false, false, false, true}});
+        OpenPage(3, suboption);
+    }
+
+    GridDriver Grid() { return {*this, "F13grid"}; }
+
+    void TypeEntry(const QString& numbers)
+    {
+        TypeInTurn("F18ent_1", numbers.split(u' '));
+        Click("F18selallday");
+    }
+
+    /// The numbers on the page that adds, and whether Thursday is ticked.
+    QString Added() const
+    {
+        return TextsOf("F18ent", "123456") + (Find<QCheckBox>("F18day_3")->isChecked() ? " Thursday" : "");
+    }
+};
+
+} // namespace
+
+class EntryPagesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ListsTheEntriesOfOneUserAndGame()
+    {
+        EntryPages window(3);
+        const GridDriver grid = window.Grid();
+        QVERIFY(grid.view->isColumnHidden(0) && grid.view->minimumSizeHint().width() > 200);
+        for (const auto& [key, option, lastHeading, rows] :
+             {std::tuple(Qt::Key_Up, "main", "Ball 6", "1,1,3,15,22,38,41,49 2,2,0,15,22,38,41,49"),
+              {Qt::Key_Up, "thunder", "Thunder", "3,1,3,15,22,30,34,14 4,2,0,15,22,30,34,0"},
+              {Qt::Key_Down, "thunder", "Thunder", ""},
+              {Qt::Key_Down, "main", "Ball 6", "5,1,1,2,3,4,5,6"}}) {
+            window.Press("F13user", key);
+            window.Click(QString("F13type") + option);
+            QStringList listed;
+            for (int row = 0; row < grid.Rows(); ++row)
+                listed.append(grid.Row(row));
+            QCOMPARE(listed.join(u' '), QString(rows));
+            QCOMPARE(grid.view->model()->headerData(7, Qt::Horizontal).toString(), QString(lastHeading));
+            QVERIFY(window.IsShown("F13grid") == !listed.isEmpty());
+            QVERIFY(window.IsShown("F13noentries") == listed.isEmpty());
+            if (!listed.isEmpty())
+                continue;
+            for (const char* action : {"view", "edit"})
+                QCOMPARE(window.Click(QString("F13") + action, {QMessageBox::Ok}),
+                         {QString("There are no entries to ") + action});
+            QCOMPARE(window.Click("F13delete", {}), QStringList());
+        }
+    }
+
+    /// With Yes the boxes are checked before the changes are stored.
+    void BackAsksWhetherToSave()
+    {
+        const QString range = u"Ball values must be between 1 and 49"_s;
+        for (const auto& [typed, answer, told, row] :
+             {std::tuple("", QMessageBox::Cancel, QString(), "3,15,22,38,41,49"),
+              {"", QMessageBox::No, {}, "3,15,22,38,41,49"},
+              {"", QMessageBox::Yes, u"The changes have been stored."_s, "0,3,15,22,38,41"},
+              {"-5", QMessageBox::Yes, range, "3,15,22,38,41,49"}}) {
+            EntryPages window(3);
+            window.Click("F13edit");
+            window.Find<QLineEdit>("F20num_6")->setText(typed);
+            window.modals.WillPress(answer);
+            if (!told.isEmpty())
+                window.modals.WillPress(QMessageBox::Ok);
+            window.Click("F20back");
+            QCOMPARE(window.modals.TakeTexts().mid(1).join(u'|'), told);
+            QCOMPARE(window.IsShown("Frame_20"), told == range || answer == QMessageBox::Cancel);
+            QCOMPARE(TestFolder::StoredRows("entries").value(0).section(u',', 3, 8), QString(row));
+            if (told == range)
+                QCOMPARE(window.FocusedName() + window.TextOf("F20num_6"), QString("F20num_6"));
+        }
+    }
+
+    void StoredZeroHasItsColoursAndIsLeftWithoutAWord()
+    {
+        EntryPages window(3);
+        for (const auto& [option, colours] :
+             {std::pair("F13typemain", "#FFFFFF #FFFF80"), {"F13typethunder", "#000080 #FF0000"}}) {
+            window.Click(option);
+            window.Grid().Click(1);
+            window.Click("F13edit");
+            window.PressFocused(Qt::Key_Tab);
+            QCOMPARE(window.ColoursOf("F20ball", "16", QPalette::Window), QString(colours));
+            window.Find("F20num_1")->setFocus();
+            QCOMPARE(window.Click("F20back", {QMessageBox::No}), {"Do you want to save the changes to this entry"});
+            window.Click("F13view");
+            QCOMPARE(window.ColoursOf("F19ball", "16", QPalette::Window), QString(colours));
+            QCOMPARE(window.ColoursOf("F19day", "016", QPalette::WindowText), QString("#000000 #808080 #000000"));
+            window.Click("F19back");
+        }
+    }
+
+    void WhatAnotherCopyHasDeletedIsNotShown()
+    {
+        EntryPages window(3);
+        RunSql(UserDataPath, {}, "DELETE FROM entries WHERE EntryId = 1");
+        QCOMPARE(window.Click("F13edit", {QMessageBox::Ok}), {"An unexpected error has occured,\r\nplease try again."});
+        // The editor that has not shown an entry yet can be typed in and left.
+        window.Type("F20num_1", "12");
+        window.PressFocused(Qt::Key_Tab);
+        QCOMPARE(window.ColoursOf("F20num", "13", QPalette::Base), QString("#80FFFF #404040"));
+        window.Click("F20back", {QMessageBox::No});
+        // The entries of the user chosen before do not stand in for those of one that is gone.
+        RunSql(UserDataPath, {}, "DELETE FROM users WHERE UserId = 2");
+        window.Press("F13user", Qt::Key_Down);
+        QVERIFY(!window.IsShown("F13grid") && window.IsShown("F13noentries"));
+    }
+
+    void LimitIsKept()
+    {
+        EntryPages window(2, 5);
+        window.TypeEntry("1 2 3 4 5 6");
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok, QMessageBox::Ok}),
+                 (QStringList{"This entry has been stored.", UpToLimit.arg(".")}));
+        window.TypeEntry("1 2 3 4 5 7");
+        QCOMPARE(window.Click("F18store", {QMessageBox::Ok}), {UpToLimit.arg(", so this entry has NOT been stored.")});
+        QCOMPARE(window.Added(), QString("1 2 3 4 5 7 Thursday"));
+        window.Choose("F18user", 1);
+        QCOMPARE(window.TextsOf({"F18userdata_0", "F18userdata_1"}),
+                 QString("This user has 1 entries stored.|Your limit is 10 entries."));
+        window.Click("F18store", {QMessageBox::Ok});
+        QCOMPARE(TestFolder::StoredRows("entries").mid(5),
+                 (QStringList{"6,1,1,1,2,3,4,5,6,-1,-1,-1,-1,-1,-1,-1", "7,2,1,1,2,3,4,5,7,-1,-1,-1,-1,-1,-1,-1"}));
+        window.modals.WillPress(QMessageBox::Ok);
+        window.Choose("F18user", 0);
+        QCOMPARE(window.modals.TakeTexts(), {UpToLimit.arg(".")});
+    }
+
+    /// What another copy does to the users meanwhile never leads an entry to the wrong user, to nobody, or over a
+    /// limit.
+    void AnotherCopysChangesOfUsersAreNoticed()
+    {
+        EntryPages window(2);
+        window.Choose("F18user", 1);
+        window.TypeEntry("1 2 3 4 5 6");
+        for (const auto& [change, told] :
+             {std::pair("UPDATE users SET SpendLimit = 1 WHERE UserId = 2", "the user's spend limit"),
+              {"DELETE FROM users WHERE UserId = 2", "another copy"}}) {
+            RunSql(UserDataPath, {}, change);
+            QVERIFY(window.Click("F18store", {QMessageBox::Ok})
+                        .value(0)
+                        .startsWith(QString("The entry could not be stored, because ") + told));
+        }
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1 2 3 4 5"));
+        QCOMPARE(window.Added(), QString("1 2 3 4 5 6 Thursday"));
+        window.Choose("F18user", 0);
+        window.modals.WillPress(QMessageBox::Ok);
+        window.Choose("F18user", 1);
+        QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be chosen, because another copy"));
+        QCOMPARE(window.Find<QComboBox>("F18user")->currentText(), QString("Ann"));
+    }
+
+    void OtherGameEmptiesTheBoxes()
+    {
+        EntryPages window(2);
+        const QString typed = "1 2 3 4 5 6";
+        const QString empty(5, u' ');
+        const std::pair<std::function<void()>, QString> steps[] = {
+            {[&] { window.TypeEntry(typed); }, typed + " Thursday|Ball 6"},
+            {[&] { window.Choose("F18type", 0); }, typed + " Thursday|Ball 6"},
+            {[&] { window.OpenPage(3, 2); }, typed + "|Ball 6"},
+            {[&] { window.Click("F18day_3"); }, typed + " Thursday|Ball 6"},
+            {[&] { window.Choose("F18type", 1); }, empty + "|Thunderball"},
+            {[&] { window.TypeEntry(typed); }, typed + " Thursday|Thunderball"},
+            {[&] { window.Click("F18reset"); }, empty + " Thursday|Thunderball"},
+            {[&] { window.Click("F18clearday"); }, empty + "|Thunderball"},
+            {[&] { window.OpenPage(3, 2); }, empty + "|Ball 6"}};
+        for (const auto& [step, shown] : steps) {
+            step();
+            QCOMPARE(window.Added() + u'|' + window.TextOf("F18blab_6"), shown);
+        }
+        window.Click("F18reset");
+        QCOMPARE(window.FocusedName(), QString("F18ent_1"));
+    }
+};
+
+TAVENOR_TEST(EntryPagesTest)
+#include "entry_pages_test.moc"

@@ -1,0 +1,270 @@
+#include "support/grid_driver.h"
+#include "support/raw_file.h"
+
+#include "base/dates.h"
+
+#include <QClipboard>
+#include <QScrollBar>
+
+namespace {
+
+/// A grid of draws or entries, with the pages on which its rows are shown and edited.
+struct GridPage
+{
+    /// The group of the menu; the page is its third.
+    int group;
+    QString grid;
+    /// The names of the buttons, with "%1" for what they do, and that of the label in place of an empty grid.
+    QString buttons;
+    QString none;
+    QString table;
+    /// The arrays of the numbers on the page of details and in the editor, the editor's last one, and its button.
+    QString shown;
+    QString edited;
+    QString save;
+    /// What is asked before one row is deleted, and before several.
+    QString one;
+    QString many;
+    /// What has the focus when the grid was emptied.
+    QString next;
+
+    QString Button(const char* action) const { return buttons.arg(action); }
+    bool OfDraws() const { return group == 2; }
+    void Run(const QString& sql) const
+    {
+        RunSql(OfDraws() ? DrawDataPath : UserDataPath, OfDraws() ? DrawConnect : "", sql.arg(table).toStdString());
+    }
+};
+
+const QString Sure = u"Are you sure you want to\r\ndelete %1?"_s;
+const GridPage Pages[] = {{2, "F10Grid1", "F10main%1button", "Label_0", "ukmain", "F14number_1", "F16number_0",
+                           "F16save", Sure.arg("this main draw"), Sure.arg("these main draws"), "F10Grid2"},
+                          {2, "F10Grid2", "F10thunder%1button", "Label_1", "ukthunder", "F15number_1", "F17number_0",
+                           "F17save", Sure.arg("this thunderball draw"), Sure.arg("these thunderball draws"),
+                           "Frame_10"},
+                          {3, "F13grid", "F13%1", "F13noentries", "entries", "F19num_1", "F20num_6", "F20store",
+                           "Are you sure you want\r\nto delete this entry?", Sure.arg("these entries"), "F13delete"}};
+
+/// The window with five draws of each game, a week apart, and five entries. The first number of row r of each grid is
+/// 5 - r, the last one 10 or 11.
+class GridWindow : public TestWindow
+{
+public:
+    GridWindow()
+    {
+        AddUser(users, "Ann", 10);
+        for (int number = 1; number <= 5; ++number) {
+            const QString date = QDate(2026, 1, 3).addDays(qint64{7} * number).toString(Qt::ISODate);
+            StoreDraws(MainGame, {QString("%1,%2,6,7,8,9,10,11,ARTHUR,%2").arg(date).arg(number)});
+            StoreDraws(ThunderballGame, {QString("%1,%2,6,7,8,9,10").arg(date).arg(number)});
+            AddEntry(entries, {number, 1, 1, {6.0 - number, 6, 7, 8, 9, 10}, {true}});
+        }
+    }
+
+    GridDriver Open(const GridPage& page)
+    {
+        OpenPage(page.group, 3);
+        return {*this, page.grid};
+    }
+
+    /// The first numbers of the stored rows, in ascending order, with a star where the last one has become 12.
+    static QString Stored(const GridPage& page)
+    {
+        QStringList numbers;
+        for (const QString& row : TestFolder::StoredRows(page.table))
+            numbers.append(row.section(u',', 3, 3) + (row.contains(",12") ? "*" : ""));
+        numbers.sort();
+        return numbers.join(u' ');
+    }
+};
+
+} // namespace
+
+class GridPagesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ColumnsShareTheWidth()
+    {
+        GridWindow window;
+        window.Open(Pages[0]);
+        for (const int width : {1500, 1131}) {
+            window.Window().resize(width, 720);
+            QApplication::processEvents();
+            for (const auto& [name, last, lastPart] : {std::tuple("F10Grid1", 8, 9.3), {"F10Grid2", 7, 4.65}}) {
+                const auto* view = window.Find<GridView>(name);
+                const double available = view->contentsRect().width() - view->verticalScrollBar()->sizeHint().width();
+                for (const auto& [column, part] : {std::pair(0, 7.0), {1, 11.3}, {2, 9.2}, {last, lastPart}})
+                    QVERIFY(qAbs(view->columnWidth(column) - available / part) <= 1);
+            }
+        }
+    }
+
+    /// The focus of an emptied grid stays on the page: in the menu Enter would leave it.
+    void SelectedRowsAreDeleted()
+    {
+        for (const auto& [way, from, to, left] :
+             {std::tuple("click", 1, 3, "1 5"), {"drag", 3, 2, "1 4 5"}, {"keys", 4, 0, ""}}) {
+            GridWindow window;
+            for (const GridPage& page : Pages) {
+                GridDriver grid = window.Open(page);
+                grid.Select(way, from, to);
+                window.modals.WillPress(QMessageBox::Yes);
+                if (page.OfDraws())
+                    window.modals.WillPress(QMessageBox::Ok);
+                grid.Press(Qt::Key_Delete);
+                QCOMPARE(window.modals.TakeTexts().join(u'|'), page.many + (page.OfDraws() ? "|Deleted" : ""));
+                QCOMPARE(GridWindow::Stored(page), QString(left));
+                const bool empty = *left == '\0';
+                QCOMPARE(grid.Selected(), QString(empty ? "-1--1" : "0-0"));
+                QCOMPARE(window.FocusedName(), empty ? page.next : page.grid);
+                QVERIFY(window.IsShown(page.grid) != empty && window.IsShown(page.none) == empty);
+                for (const char* action : {"view", "edit", "delete"})
+                    QCOMPARE(window.Find(page.Button(action))->isEnabled(), !empty || !page.OfDraws());
+            }
+        }
+    }
+
+    void OneRowIsSelectedToBeOpenedAndNoneIsDeletedWithoutAYes()
+    {
+        GridWindow window;
+        for (const GridPage& page : Pages) {
+            GridDriver grid = window.Open(page);
+            QCOMPARE(grid.Selected(), QString("0-0"));
+            grid.Drag(4, 3);
+            for (const char* action : {"view", "edit"})
+                QCOMPARE(window.Click(page.Button(action), {QMessageBox::Ok}), {"Select only ONE draw."});
+            QTest::mouseClick(grid.view->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              QPoint(30, grid.view->viewport()->height() - 2));
+            QCOMPARE(grid.Selected(), QString("3-4"));
+            grid.Press(Qt::Key_Home);
+            QCOMPARE(window.Click(page.Button("delete"), {QMessageBox::No, QMessageBox::Ok}),
+                     QStringList({page.one, "Data delete has been aborted."}));
+            grid.Press(Qt::Key_End, Qt::ShiftModifier);
+            QCOMPARE(grid.Selected(), QString("0-4"));
+            // A tool for assistance takes the selection away.
+            grid.view->clearSelection();
+            QCOMPARE(window.Click(page.Button("delete"), {}), QStringList());
+            if (page.OfDraws())
+                QCOMPARE(window.Click(page.Button("view"), {}), QStringList());
+            QCOMPARE(GridWindow::Stored(page), QString("1 2 3 4 5"));
+        }
+    }
+
+    void RowsAreCopiedAsTheyAreShown()
+    {
+        GridWindow window;
+        GridDriver grid = window.Open(Pages[1]);
+        grid.Drag(4, 3);
+        grid.Press(Qt::Key_C, Qt::ControlModifier);
+        const QString row = "%1\tSat\t%2\t6\t7\t8\t9\t10\n";
+        QCOMPARE(QApplication::clipboard()->text(),
+                 row.arg(ShortDate(QDate(2026, 1, 17))).arg(2) + row.arg(ShortDate(QDate(2026, 1, 10))).arg(1));
+    }
+
+    void RowsAreOpenedByMouseAndKeysAndComeBack()
+    {
+        GridWindow window;
+        for (const GridPage& page : Pages) {
+            GridDriver grid = window.Open(page);
+            grid.Click(3);
+            QTest::mouseDClick(grid.view->viewport(), Qt::LeftButton, Qt::NoModifier, grid.Middle(3));
+            QCOMPARE(window.TextOf(page.shown), QString("2"));
+            window.PressFocused(Qt::Key_Escape);
+            grid.Click(1);
+            grid.Press(Qt::Key_Return);
+            QCOMPARE(window.TextOf(page.shown), QString("4"));
+            window.PressFocused(Qt::Key_Escape);
+            QVERIFY(!window.IsShown(page.shown));
+            QCOMPARE(grid.Selected() + window.FocusedName(), "1-1" + page.grid);
+        }
+    }
+
+    /// A row is the row that was chosen, also where another tool has given three rows one number, and taken those of
+    /// the others away.
+    void ChosenRowIsTheOneThatIsUsed()
+    {
+        GridWindow window;
+        window.modals.WillAlwaysDo([](QDialog&) {});
+        for (const GridPage& page : Pages) {
+            page.Run(QString("UPDATE %1 SET %2 = CASE WHEN Ball1 > 3 THEN NULL ELSE 7 END")
+                         .arg("%1", page.OfDraws() ? "DrawId" : "EntryId"));
+            GridDriver grid = window.Open(page);
+            for (const int row : {0, 1, 3}) {
+                grid.Click(row);
+                window.Click(page.Button("view"));
+                QCOMPARE(window.TextOf(page.shown).toInt(), 5 - row);
+                window.PressFocused(Qt::Key_Escape);
+            }
+            window.Click(page.Button("edit"));
+            window.Type(page.edited, "12");
+            window.Click(page.save);
+            QCOMPARE(GridWindow::Stored(page), QString("1 2* 3 4 5"));
+            grid.Select("click", 1, 2);
+            grid.Press(Qt::Key_Delete);
+            QCOMPARE(GridWindow::Stored(page), QString("1 2* 5"));
+        }
+    }
+
+    /// The rows of the grid keep their meaning when another copy has changed the table under them.
+    void AnotherCopysChangesHitNoOtherRow()
+    {
+        GridWindow window;
+        for (const GridPage& page : Pages) {
+            GridDriver grid = window.Open(page);
+            page.Run("DELETE FROM %1 WHERE Ball1 = 2");
+            grid.Click(2);
+            window.Click(page.Button("view"));
+            QCOMPARE(window.TextOf(page.shown), QString("3"));
+            window.PressFocused(Qt::Key_Escape);
+            grid.Click(3);
+            const QString told = window.Click(page.Button("view"), {QMessageBox::Ok}).value(0);
+            QVERIFY(told.startsWith(
+                page.OfDraws() ? "The draw could not be shown, because another copy of the program has deleted it "
+                               : "An unexpected error has occured,\r\nplease try again."));
+            QCOMPARE(window.IsShown(page.shown), !page.OfDraws());
+            window.OpenPage(page.group, 3);
+            window.Click(page.Button("edit"));
+            page.Run("DELETE FROM %1 WHERE Ball1 = 5");
+            if (page.OfDraws())
+                window.modals.WillPress(QMessageBox::Yes);
+            QVERIFY(window.Click(page.save, {QMessageBox::Ok}).last().contains(" could not be "));
+            QVERIFY(window.IsShown(page.edited));
+            QCOMPARE(GridWindow::Stored(page), QString("1 3 4"));
+        }
+    }
+
+    void NoDrawIsChangedOrLeftWithoutAYes()
+    {
+        const QString lost = "All changes will be lost, are you sure you want to continue?";
+        GridWindow window;
+        window.Open(Pages[0]).Click(1);
+        window.Click("F10maineditbutton");
+        // A click selects the whole text, so that typing replaces it; Reset brings the stored draw back.
+        for (const bool resets : {true, false}) {
+            QTest::mouseClick(window.Find("F16number_2"), Qt::LeftButton);
+            QApplication::processEvents();
+            QTest::keyClicks(window.Find("F16number_2"), "47");
+            window.Find<QComboBox>("F16machine")->setEditText("X");
+            QCOMPARE(window.TextOf("F16number_2"), QString("47"));
+            if (resets)
+                window.Click("F16reset");
+            else
+                QCOMPARE(window.Click("F16save", {QMessageBox::No, QMessageBox::Ok}).value(1),
+                         QString("New data has NOT been stored"));
+            QCOMPARE(window.TextOf("F16number_2") + window.Find<QComboBox>("F16machine")->currentText(),
+                     QString(resets ? "6ARTHUR" : "47X"));
+        }
+        QCOMPARE(window.Click("F16back", {QMessageBox::No}), {lost});
+        QVERIFY(window.IsShown("Frame_16") && window.IsShown("Frame_10"));
+        window.modals.WillPress(QMessageBox::Yes);
+        window.PressFocused(Qt::Key_Escape);
+        QCOMPARE(window.modals.TakeTexts(), {lost});
+        QVERIFY(!window.IsShown("Frame_16"));
+        QCOMPARE(GridWindow::Stored(Pages[0]), QString("1 2 3 4 5"));
+    }
+};
+
+TAVENOR_TEST(GridPagesTest)
+#include "grid_pages_test.moc"
