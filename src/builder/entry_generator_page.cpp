@@ -126,7 +126,6 @@ void EntryGeneratorPage::TypeChosen()
 void EntryGeneratorPage::OptionChosen()
 {
     steps.ChooseOption();
-    state.NumbersChosen = false;
     ShowControls();
 }
 

@@ -16,7 +16,6 @@ NumberToggle::NumberToggle(int number) : QCheckBox(QString::number(number)), col
 {
     setObjectName(ElementName(u"n"_s, number));
     setAccessibleName(u"Number %1"_s.arg(number));
-    setFocusPolicy(Qt::ClickFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QCheckBox::toggled, this, &NumberToggle::TakeColours);
 }

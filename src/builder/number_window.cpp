@@ -72,7 +72,6 @@ QWidget* NumberWindow::BuildBoard()
         group->addButton(toggle);
         connect(toggle, &QCheckBox::toggled, this, &NumberWindow::UpdateSelectionCount);
     }
-    toggles.front()->setFocusPolicy(Qt::StrongFocus);
     return board;
 }
 

@@ -163,19 +163,11 @@ GridView::RowSpan GridView::SelectedRows() const
 void GridView::SelectRow(int row)
 {
     clearSelection();
-    const QModelIndex cell = model()->index(row, FirstShownColumn());
+    const QModelIndex cell = model()->index(row, horizontalHeader()->logicalIndexAt(0));
     setCurrentIndex(cell);
     if (cell.isValid())
         scrollTo(cell);
     HideCurrentCell(*this, !hasFocus());
-}
-
-int GridView::FirstShownColumn() const
-{
-    int column = 0;
-    while (column + 1 < model()->columnCount() && isColumnHidden(column))
-        ++column;
-    return column;
 }
 
 void GridView::CopySelectedRows() const
@@ -240,10 +232,8 @@ void GridView::initViewItemOption(QStyleOptionViewItem* option) const
 
 QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    if (model() != nullptr && model()->rowCount() > 0 && action == MoveHome)
-        return model()->index(0, FirstShownColumn());
-    if (model() != nullptr && model()->rowCount() > 0 && action == MoveEnd)
-        return model()->index(model()->rowCount() - 1, FirstShownColumn());
+    if (action == MoveHome || action == MoveEnd)
+        return model()->index(action == MoveHome ? 0 : model()->rowCount() - 1, horizontalHeader()->logicalIndexAt(0));
     return QTableView::moveCursor(action, modifiers);
 }
 

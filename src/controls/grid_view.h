@@ -54,7 +54,6 @@ private:
     /// The width of the widest text of a column.
     double TextWidth(int column) const;
     void TakeFont(double factor);
-    int FirstShownColumn() const;
     void CopySelectedRows() const;
 
     std::vector<double> shares;
