@@ -24,14 +24,6 @@ public:
             cells.append(Cell(row, column));
         return cells.join(u',');
     }
-    /// The headings from the given column on, joined by commas.
-    QString Headings(int fromColumn = 0) const
-    {
-        QStringList headings;
-        for (int column = fromColumn; column < view->model()->columnCount(); ++column)
-            headings.append(view->model()->headerData(column, Qt::Horizontal).toString());
-        return headings.join(u',');
-    }
     /// "first-last" of the selected rows.
     QString Selected() const
     {

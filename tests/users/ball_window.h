@@ -94,19 +94,6 @@ public:
         return Texts() + u' ' + ColoursOf(page.Control(1), u"15"_s + page.elements.back(), QPalette::Window);
     }
 
-    /// Leaves the field that has the focus by keys, by the mouse, or by keys that were typed ahead.
-    void Leave(const QString& way)
-    {
-        const QKeyCombination keys = QKeySequence(way)[0];
-        if (way == "click" || way == "drop")
-            Click(page.Store());
-        else if (way != "ahead")
-            PressFocused(keys.key(), keys.keyboardModifiers());
-        else
-            for (int press = 0; press < 2; ++press)
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    }
-
     static QStringList StoredRows()
     {
         return TestFolder::StoredRows("ukmain") + TestFolder::StoredRows("ukthunder") +

@@ -148,32 +148,25 @@ private Q_SLOTS:
         window.Click("F18store", {QMessageBox::Ok});
         QCOMPARE(TestFolder::StoredRows("entries").mid(5),
                  (QStringList{"6,1,1,1,2,3,4,5,6,-1,-1,-1,-1,-1,-1,-1", "7,2,1,1,2,3,4,5,7,-1,-1,-1,-1,-1,-1,-1"}));
-        window.modals.WillPress(QMessageBox::Ok);
-        window.Choose("F18user", 0);
-        QCOMPARE(window.modals.TakeTexts(), {UpToLimit.arg(".")});
-    }
-
-    /// What another copy does to the users meanwhile never leads an entry to the wrong user, to nobody, or over a
-    /// limit.
-    void AnotherCopysChangesOfUsersAreNoticed()
-    {
-        EntryPages window(2);
-        window.Choose("F18user", 1);
-        window.TypeEntry("1 2 3 4 5 6");
+        // What another copy does to the users never leads an entry to the wrong user, to nobody, or over a limit.
+        window.TypeEntry("1 2 3 4 5 8");
         for (const auto& [change, told] :
-             {std::pair("UPDATE users SET SpendLimit = 1 WHERE UserId = 2", "the user's spend limit"),
+             {std::pair("UPDATE users SET SpendLimit = 2 WHERE UserId = 2", "the user's spend limit"),
               {"DELETE FROM users WHERE UserId = 2", "another copy"}}) {
             RunSql(UserDataPath, {}, change);
             QVERIFY(window.Click("F18store", {QMessageBox::Ok})
                         .value(0)
                         .startsWith(QString("The entry could not be stored, because ") + told));
         }
-        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1 2 3 4 5"));
-        QCOMPARE(window.Added(), QString("1 2 3 4 5 6 Thursday"));
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1 2 3 4 5 6 7"));
+        QCOMPARE(window.Added(), QString("1 2 3 4 5 8 Thursday"));
+        window.modals.WillPress(QMessageBox::Ok);
         window.Choose("F18user", 0);
+        QCOMPARE(window.modals.TakeTexts(), {UpToLimit.arg(".")});
+        window.modals.WillPress(QMessageBox::Ok);
         window.modals.WillPress(QMessageBox::Ok);
         window.Choose("F18user", 1);
-        QVERIFY(window.modals.TakeTexts().value(0).startsWith("The user could not be chosen, because another copy"));
+        QVERIFY(window.modals.TakeTexts().value(1).startsWith("The user could not be chosen, because another copy"));
         QCOMPARE(window.Find<QComboBox>("F18user")->currentText(), QString("Ann"));
     }
 

@@ -1,10 +1,7 @@
 #include "support/grid_driver.h"
 #include "support/raw_file.h"
 
-#include "base/dates.h"
-
 #include <QClipboard>
-#include <QScrollBar>
 
 namespace {
 
@@ -67,6 +64,16 @@ public:
         return {*this, page.grid};
     }
 
+    /// Presses the Delete key and answers; what was said comes back.
+    QString Delete(const GridPage& page)
+    {
+        modals.WillPress(QMessageBox::Yes);
+        if (page.OfDraws())
+            modals.WillPress(QMessageBox::Ok);
+        Press(page.grid, Qt::Key_Delete);
+        return modals.TakeTexts().join(u'|');
+    }
+
     /// The first numbers of the stored rows, in ascending order, with a star where the last one has become 12.
     static QString Stored(const GridPage& page)
     {
@@ -85,22 +92,6 @@ class GridPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ColumnsShareTheWidth()
-    {
-        GridWindow window;
-        window.Open(Pages[0]);
-        for (const int width : {1500, 1131}) {
-            window.Window().resize(width, 720);
-            QApplication::processEvents();
-            for (const auto& [name, last, lastPart] : {std::tuple("F10Grid1", 8, 9.3), {"F10Grid2", 7, 4.65}}) {
-                const auto* view = window.Find<GridView>(name);
-                const double available = view->contentsRect().width() - view->verticalScrollBar()->sizeHint().width();
-                for (const auto& [column, part] : {std::pair(0, 7.0), {1, 11.3}, {2, 9.2}, {last, lastPart}})
-                    QVERIFY(qAbs(view->columnWidth(column) - available / part) <= 1);
-            }
-        }
-    }
-
     /// The focus of an emptied grid stays on the page: in the menu Enter would leave it.
     void SelectedRowsAreDeleted()
     {
@@ -110,11 +101,7 @@ private Q_SLOTS:
             for (const GridPage& page : Pages) {
                 GridDriver grid = window.Open(page);
                 grid.Select(way, from, to);
-                window.modals.WillPress(QMessageBox::Yes);
-                if (page.OfDraws())
-                    window.modals.WillPress(QMessageBox::Ok);
-                grid.Press(Qt::Key_Delete);
-                QCOMPARE(window.modals.TakeTexts().join(u'|'), page.many + (page.OfDraws() ? "|Deleted" : ""));
+                QCOMPARE(window.Delete(page), page.many + (page.OfDraws() ? "|Deleted" : ""));
                 QCOMPARE(GridWindow::Stored(page), QString(left));
                 const bool empty = *left == '\0';
                 QCOMPARE(grid.Selected(), QString(empty ? "-1--1" : "0-0"));
@@ -138,6 +125,10 @@ private Q_SLOTS:
             QTest::mouseClick(grid.view->viewport(), Qt::LeftButton, Qt::NoModifier,
                               QPoint(30, grid.view->viewport()->height() - 2));
             QCOMPARE(grid.Selected(), QString("3-4"));
+            grid.Press(Qt::Key_C, Qt::ControlModifier);
+            const int fromColumn = page.OfDraws() ? 0 : 1;
+            QCOMPARE(QApplication::clipboard()->text().replace(u'\t', u','),
+                     grid.Row(3, fromColumn) + u'\n' + grid.Row(4, fromColumn) + u'\n');
             grid.Press(Qt::Key_Home);
             QCOMPARE(window.Click(page.Button("delete"), {QMessageBox::No, QMessageBox::Ok}),
                      QStringList({page.one, "Data delete has been aborted."}));
@@ -150,17 +141,6 @@ private Q_SLOTS:
                 QCOMPARE(window.Click(page.Button("view"), {}), QStringList());
             QCOMPARE(GridWindow::Stored(page), QString("1 2 3 4 5"));
         }
-    }
-
-    void RowsAreCopiedAsTheyAreShown()
-    {
-        GridWindow window;
-        GridDriver grid = window.Open(Pages[1]);
-        grid.Drag(4, 3);
-        grid.Press(Qt::Key_C, Qt::ControlModifier);
-        const QString row = "%1\tSat\t%2\t6\t7\t8\t9\t10\n";
-        QCOMPARE(QApplication::clipboard()->text(),
-                 row.arg(ShortDate(QDate(2026, 1, 17))).arg(2) + row.arg(ShortDate(QDate(2026, 1, 10))).arg(1));
     }
 
     void RowsAreOpenedByMouseAndKeysAndComeBack()
@@ -181,43 +161,22 @@ private Q_SLOTS:
         }
     }
 
-    /// A row is the row that was chosen, also where another tool has given three rows one number, and taken those of
-    /// the others away.
+    /// A row is the row that was chosen, also where another tool has given three rows one number, taken those of the
+    /// others away, and deleted rows meanwhile.
     void ChosenRowIsTheOneThatIsUsed()
     {
         GridWindow window;
-        window.modals.WillAlwaysDo([](QDialog&) {});
         for (const GridPage& page : Pages) {
             page.Run(QString("UPDATE %1 SET %2 = CASE WHEN Ball1 > 3 THEN NULL ELSE 7 END")
                          .arg("%1", page.OfDraws() ? "DrawId" : "EntryId"));
             GridDriver grid = window.Open(page);
-            for (const int row : {0, 1, 3}) {
+            page.Run("DELETE FROM %1 WHERE Ball1 = 2");
+            for (const int row : {0, 1, 2}) {
                 grid.Click(row);
                 window.Click(page.Button("view"));
                 QCOMPARE(window.TextOf(page.shown).toInt(), 5 - row);
                 window.PressFocused(Qt::Key_Escape);
             }
-            window.Click(page.Button("edit"));
-            window.Type(page.edited, "12");
-            window.Click(page.save);
-            QCOMPARE(GridWindow::Stored(page), QString("1 2* 3 4 5"));
-            grid.Select("click", 1, 2);
-            grid.Press(Qt::Key_Delete);
-            QCOMPARE(GridWindow::Stored(page), QString("1 2* 5"));
-        }
-    }
-
-    /// The rows of the grid keep their meaning when another copy has changed the table under them.
-    void AnotherCopysChangesHitNoOtherRow()
-    {
-        GridWindow window;
-        for (const GridPage& page : Pages) {
-            GridDriver grid = window.Open(page);
-            page.Run("DELETE FROM %1 WHERE Ball1 = 2");
-            grid.Click(2);
-            window.Click(page.Button("view"));
-            QCOMPARE(window.TextOf(page.shown), QString("3"));
-            window.PressFocused(Qt::Key_Escape);
             grid.Click(3);
             const QString told = window.Click(page.Button("view"), {QMessageBox::Ok}).value(0);
             QVERIFY(told.startsWith(
@@ -225,13 +184,24 @@ private Q_SLOTS:
                                : "An unexpected error has occured,\r\nplease try again."));
             QCOMPARE(window.IsShown(page.shown), !page.OfDraws());
             window.OpenPage(page.group, 3);
-            window.Click(page.Button("edit"));
-            page.Run("DELETE FROM %1 WHERE Ball1 = 5");
-            if (page.OfDraws())
-                window.modals.WillPress(QMessageBox::Yes);
-            QVERIFY(window.Click(page.save, {QMessageBox::Ok}).last().contains(" could not be "));
-            QVERIFY(window.IsShown(page.edited));
-            QCOMPARE(GridWindow::Stored(page), QString("1 3 4"));
+            for (const int row : {1, 0}) {
+                grid.Click(row);
+                window.Click(page.Button("edit"));
+                window.Type(page.edited, "12");
+                if (row == 0)
+                    page.Run("DELETE FROM %1 WHERE Ball1 = 5");
+                if (page.OfDraws())
+                    window.modals.WillPress(QMessageBox::Yes);
+                const QString stored = window.Click(page.save, {QMessageBox::Ok}).last();
+                QCOMPARE(stored.contains(" could not be "), row == 0);
+                QCOMPARE(window.IsShown(page.edited), row == 0);
+            }
+            window.OpenPage(page.group, 3);
+            QCOMPARE(GridWindow::Stored(page), QString("1 3 4*"));
+            page.Run("DELETE FROM %1 WHERE Ball1 = 3");
+            grid.Select("click", 1, 2);
+            window.Delete(page);
+            QCOMPARE(GridWindow::Stored(page), QString("4*"));
         }
     }
 
@@ -241,23 +211,26 @@ private Q_SLOTS:
         GridWindow window;
         window.Open(Pages[0]).Click(1);
         window.Click("F10maineditbutton");
-        // A click selects the whole text, so that typing replaces it; Reset brings the stored draw back.
-        for (const bool resets : {true, false}) {
+        for (const auto& [button, told, shown] :
+             {std::tuple("F16reset", QString(), "6ARTHUR"),
+              {"F16save", "Are you sure you want to replace the old data with this new data?", "47X"},
+              {"F16back", lost, "47X"}}) {
+            // A click selects the whole text, so that typing replaces it.
             QTest::mouseClick(window.Find("F16number_2"), Qt::LeftButton);
             QApplication::processEvents();
             QTest::keyClicks(window.Find("F16number_2"), "47");
             window.Find<QComboBox>("F16machine")->setEditText("X");
-            QCOMPARE(window.TextOf("F16number_2"), QString("47"));
-            if (resets)
-                window.Click("F16reset");
-            else
-                QCOMPARE(window.Click("F16save", {QMessageBox::No, QMessageBox::Ok}).value(1),
-                         QString("New data has NOT been stored"));
+            if (!told.isEmpty())
+                window.modals.WillPress(QMessageBox::No);
+            if (button == "F16save"_L1)
+                window.modals.WillPress(QMessageBox::Ok);
+            window.Click(button);
+            QCOMPARE(window.modals.TakeTexts().join(u'|'),
+                     told + (button == "F16save"_L1 ? "|New data has NOT been stored" : ""));
             QCOMPARE(window.TextOf("F16number_2") + window.Find<QComboBox>("F16machine")->currentText(),
-                     QString(resets ? "6ARTHUR" : "47X"));
+                     QString(shown));
+            QVERIFY(window.IsShown("Frame_16") && window.IsShown("Frame_10"));
         }
-        QCOMPARE(window.Click("F16back", {QMessageBox::No}), {lost});
-        QVERIFY(window.IsShown("Frame_16") && window.IsShown("Frame_10"));
         window.modals.WillPress(QMessageBox::Yes);
         window.PressFocused(Qt::Key_Escape);
         QCOMPARE(window.modals.TakeTexts(), {lost});
