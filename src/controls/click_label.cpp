@@ -15,7 +15,6 @@ ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : QAbstractButto
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setAttribute(Qt::WA_Hover);
 }
 
 QSize ClickLabel::sizeHint() const

@@ -64,7 +64,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+    if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::DisplayRole)
         return columns.at(static_cast<size_t>(section)).heading;

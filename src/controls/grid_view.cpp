@@ -141,10 +141,8 @@ void GridView::TakeFont(double factor)
         font.setPointSizeF(font.pointSizeF() * factor);
         return font;
     };
-    if (const QFont cells = scaled(FontFor(TextRole::Body)); cells != font())
-        setFont(cells);
-    if (const QFont headings = scaled(FontFor(TextRole::Caption)); headings != horizontalHeader()->font())
-        horizontalHeader()->setFont(headings);
+    setFont(scaled(FontFor(TextRole::Body)));
+    horizontalHeader()->setFont(scaled(FontFor(TextRole::Caption)));
 }
 
 GridView::RowSpan GridView::SelectedRows() const

@@ -91,8 +91,6 @@ void Style::polish(QApplication* application)
 void Style::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr)
-        widget->setAttribute(Qt::WA_Hover);
     // The toolkit's own dialogs bring plain ones.
     if (qobject_cast<QPushButton*>(widget) != nullptr)
         widget->setFont(FontFor(TextRole::Strong));
@@ -221,6 +219,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return IndicatorSize;
+    case PM_ScrollBarExtent:
+        return Spacing::Between;
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return Spacing::Inside + 2;

@@ -34,7 +34,6 @@ void ApplyTheme(QPalette& palette)
     palette.setColor(QPalette::AlternateBase, theme.card);
     palette.setColor(QPalette::Highlight, theme.accent);
     palette.setColor(QPalette::HighlightedText, theme.onAccent);
-    palette.setColor(QPalette::Link, theme.accent);
     palette.setColor(QPalette::PlaceholderText, theme.secondaryText);
     palette.setColor(QPalette::ToolTipBase, theme.card);
     palette.setColor(QPalette::ToolTipText, theme.text);

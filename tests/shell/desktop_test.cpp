@@ -1,4 +1,3 @@
-#include "support/desktop.h"
 #include "support/test_window.h"
 
 #include "look/application.h"
@@ -9,10 +8,54 @@
 #include <QDBusConnection>
 #include <QDBusVariant>
 #include <QFileDialog>
+#include <QProcess>
 #include <QScreen>
 #include <QWindow>
 
+#include <list>
+
 namespace {
+
+/// A virtual screen with a window manager and a session bus of its own, on which the application object that is made
+/// next shows its windows; it must outlive that object.
+class Desktop
+{
+public:
+    Desktop()
+    {
+        const QString size = qEnvironmentVariable("SCREEN") + "x24";
+        qputenv("DISPLAY", ':' + Start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-screen", "0", size}));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", Start("dbus-daemon", {"--session", "--nofork", "--print-address=1"}));
+        Start("openbox", {"--sm-disable", "--startup", "echo ready"});
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        // One whose dialogs have icons on their buttons.
+        qputenv("XDG_CURRENT_DESKTOP", "GNOME");
+        for (const char* ofTheRealDesktop : {"QT_QPA_PLATFORMTHEME", "WAYLAND_DISPLAY"})
+            qunsetenv(ofTheRealDesktop);
+    }
+    ~Desktop()
+    {
+        for (QProcess& server : servers) {
+            server.terminate();
+            server.waitForFinished();
+        }
+    }
+
+private:
+    /// Returns the first line that a server writes, by which it says that it is ready.
+    QByteArray Start(const QString& program, const QStringList& arguments)
+    {
+        QProcess& server = servers.emplace_front();
+        server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        server.start(program, arguments);
+        while (!server.canReadLine())
+            if (!server.waitForReadyRead(20000))
+                qFatal("%s did not start", qPrintable(program));
+        return server.readLine().trimmed();
+    }
+
+    std::list<QProcess> servers;
+};
 
 /// The desktop's portal, as far as it tells which colours are preferred.
 class FakePortal : public QObject
@@ -65,21 +108,13 @@ QStringList NotReached(QWidget& window)
             seen = seen.translated(inner->pos()) & inner->parentWidget()->rect();
         // Of a grid or a chart a part is enough; it scrolls.
         constexpr int part = 120;
-        if (seen.width() < control->width() || seen.height() < qMin(control->height(), part))
-            hidden.append(QString("%1 cannot be reached, %2 of its %3 lines are seen")
-                              .arg(control->objectName())
-                              .arg(seen.height())
-                              .arg(control->height()));
+        if (seen.width() < qMax(control->width(), control->minimumSizeHint().width()) ||
+            seen.height() < qMin(control->height(), part))
+            hidden.append(QString("%1 cannot be reached, or lacks room").arg(control->objectName()));
     }
     if (before != nullptr)
         before->setFocus();
     return hidden;
-}
-
-QSize ScreenSize()
-{
-    const QList<QByteArray> sides = qgetenv("SCREEN").split('x');
-    return {sides.first().toInt(), sides.last().toInt()};
 }
 
 } // namespace
@@ -103,21 +138,24 @@ private Q_SLOTS:
         const Walk walk(window, [&](const QString& name, QWidget& shown) {
             // The window manager places a window and gives it the focus in its own time. A window without controls,
             // such as the splash window, never gets it. A scaled size is rounded.
+            const auto check = [&](bool holds, const QString& fault) {
+                if (!holds)
+                    faults.append(name + ": " + fault);
+            };
+            // The window manager places a window and gives it the focus in its own time. A window without controls,
+            // such as the splash window, never gets it. A scaled size is rounded.
             const QRect room = window.screen()->availableGeometry().adjusted(-1, -1, 1, 1);
             const bool takesKeys = !shown.findChildren<QAbstractButton*>().isEmpty();
             QTest::qWait(50);
             shown.activateWindow();
-            if (!QTest::qWaitFor([&] { return shown.isActiveWindow() || !takesKeys; }))
-                faults.append(name + ": the window does not become active");
+            check(QTest::qWaitFor([&] { return shown.isActiveWindow() || !takesKeys; }), "does not become active");
             // Asked for before the window manager has made it, the frame of a new window is told wrongly for ever.
             const QMargins frame = window.windowHandle()->frameMargins();
-            if (!QTest::qWaitFor([&] { return room.contains(shown.geometry().marginsAdded(frame)); }))
-                faults.append(name + ": stands over the edge of the screen: " + QDebug::toString(shown.geometry()));
-            if (window.size() != opened)
-                faults.append(name + ": the window has changed its size");
+            check(QTest::qWaitFor([&] { return room.contains(shown.geometry().marginsAdded(frame)); }),
+                  "stands over the edge of the screen: " + QDebug::toString(shown.geometry()));
+            check(window.size() == opened, "the window has changed its size");
             if (qobject_cast<QFileDialog*>(&shown) == nullptr)
-                for (const QString& control : NotReached(shown))
-                    faults.append(name + ": " + control);
+                check(NotReached(shown).isEmpty(), NotReached(shown).join(", "));
         });
         walk.MainJob();
         walk.EverythingElse();
@@ -152,6 +190,29 @@ private Q_SLOTS:
         QCOMPARE(yes->grab().toImage(), quiet);
     }
 
+    void KeysOfTheDesktopLeadToAFieldThatShowsIt()
+    {
+        TestWindow window;
+        QProcess player;
+        player.start("xdotool", {"key", "--delay", "100", "alt+a", "Return", "4", "2", "Return"});
+        QTRY_COMPARE(window.FocusedName(), QString("F6MBall1_2"));
+        QVERIFY(player.waitForFinished());
+        QCOMPARE(window.TextOf("F6MBall1_1"), QString("42"));
+        const auto isRinged = [&window](const QString& field) {
+            const QWidget& ball = *window.Find(field)->parentWidget();
+            const QImage picture = window.Window()
+                                       .screen()
+                                       ->grabWindow(window.Window().winId())
+                                       .copy({ball.mapTo(&window.Window(), QPoint()), ball.size()})
+                                       .toImage();
+            int ring = 0;
+            for (int x = 0; x < picture.width(); ++x)
+                ring += picture.pixelColor(x, picture.height() / 2) == CurrentTheme().accent ? 1 : 0;
+            return ring > 0;
+        };
+        QTRY_VERIFY(isRinged("F6MBall1_2") && !isRinged("F6MBall1_1"));
+    }
+
     void TheWindowHasItsIconWithoutADesktopFile()
     {
         TestWindow window;
@@ -165,7 +226,7 @@ private Q_SLOTS:
 
 int main(int count, char** arguments)
 {
-    const Desktop desktop(ScreenSize());
+    const Desktop desktop;
     const auto application = MakeApplication(count, arguments);
     DesktopTest tests;
     return QTest::qExec(&tests, count, arguments);

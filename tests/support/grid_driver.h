@@ -25,11 +25,7 @@ public:
         return cells.join(u',');
     }
     /// "first-last" of the selected rows.
-    QString Selected() const
-    {
-        const GridView::RowSpan rows = view->SelectedRows();
-        return u"%1-%2"_s.arg(rows.first).arg(rows.last);
-    }
+    QString Selected() const { return u"%1-%2"_s.arg(view->SelectedRows().first).arg(view->SelectedRows().last); }
     void Click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, Middle(row));
@@ -37,8 +33,6 @@ public:
     void Drag(int from, int to)
     {
         QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, Middle(from));
-        for (int row = from; row != to; row += from < to ? 1 : -1)
-            QTest::mouseMove(view->viewport(), Middle(row));
         QTest::mouseMove(view->viewport(), Middle(to));
         QTest::mouseRelease(view->viewport(), Qt::LeftButton, Qt::NoModifier, Middle(to));
     }
@@ -47,10 +41,8 @@ public:
     /// Selects rows in one of the ways: "click" (with Shift), "drag" or "keys", from one row to another.
     void Select(const QString& way, int from, int to)
     {
-        if (way == "drag"_L1) {
-            Drag(from, to);
-            return;
-        }
+        if (way == "drag"_L1)
+            return Drag(from, to);
         Click(from);
         if (way == "click"_L1)
             Click(to, Qt::ShiftModifier);

@@ -4,7 +4,8 @@
 #include "balls/ball_disc.h"
 #include "look/button.h"
 #include "look/control_painting.h"
-#include "look/style.h"
+#include "look/theme.h"
+#include "shell/menu_column.h"
 #include "shell/page_area.h"
 
 #include <QAbstractItemView>
@@ -25,6 +26,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -49,14 +51,19 @@ bool IsOneOf(const QWidget* widget)
     return ((qobject_cast<const Kinds*>(widget) != nullptr) || ...);
 }
 
-bool IsInSight(const QWidget& widget)
+bool IsWholeInSight(const QWidget& widget)
 {
-    return !widget.visibleRegion().isEmpty();
+    return widget.visibleRegion().boundingRect() == widget.rect();
 }
 
 bool Fits(const QSize& needed, const QSize& given)
 {
     return needed.width() <= given.width() && needed.height() <= given.height();
+}
+
+QString ReadText(const QWidget& widget)
+{
+    return widget.property(IsOneOf<QComboBox>(&widget) ? "currentText" : "text").toString();
 }
 
 bool CellsFit(const QAbstractItemView& view)
@@ -78,17 +85,10 @@ bool CellsFit(const QAbstractItemView& view)
 
 bool TextFits(const QWidget& widget)
 {
-    constexpr QSize buttonEdges(12, 6);
     constexpr QSize arrow(40, 0);
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text().isEmpty() || (label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
-                                                             : Fits(label->sizeHint(), label->size()));
-    if (const auto* button = qobject_cast<const QPushButton*>(&widget))
-        return Fits(button->fontMetrics().size(0, button->text()), button->size() - buttonEdges);
-    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
-        return Fits(edit->fontMetrics().size(0, edit->text()), edit->size());
-    if (const auto* list = qobject_cast<const QComboBox*>(&widget))
-        return Fits(list->fontMetrics().size(0, list->currentText()), list->size() - arrow);
+    if (IsOneOf<QLineEdit, QComboBox>(&widget))
+        return Fits(widget.fontMetrics().size(0, ReadText(widget)),
+                    IsOneOf<QComboBox>(&widget) ? widget.size() - arrow : widget.size());
     if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget); view != nullptr && !CellsFit(*view))
         return false;
     if (const auto* area = qobject_cast<const QAbstractScrollArea*>(&widget);
@@ -105,82 +105,59 @@ bool IsCut(const QWidget& widget)
     return !outer->rect().contains(widget.geometry()) && !IsOneOf<QScrollArea>(outer->parentWidget());
 }
 
-bool MayOverlap(const QWidget& widget)
+bool Overlap(const QWidget& one, const QWidget& other)
 {
     // A page lies over the others; a frame that is drawn around a control lets the mouse through.
-    return IsOneOf<PageArea>(widget.parentWidget()) || widget.testAttribute(Qt::WA_TransparentForMouseEvents);
+    const auto may = [](const QWidget& widget) {
+        return IsOneOf<PageArea>(widget.parentWidget()) || widget.testAttribute(Qt::WA_TransparentForMouseEvents);
+    };
+    return one.parentWidget() == other.parentWidget() && one.geometry().intersects(other.geometry()) && !may(one) &&
+           !may(other);
 }
 
-double Luminance(QRgb colour)
+double Luminance(const QColor& colour)
 {
-    const auto linear = [](int channel) {
-        const double share = channel / 255.0;
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+    return 0.2126 * std::pow(colour.redF(), 2.2) + 0.7152 * std::pow(colour.greenF(), 2.2) +
+           0.0722 * std::pow(colour.blueF(), 2.2);
 }
 
 double Contrast(QRgb first, QRgb second)
 {
-    const double one = Luminance(first);
-    const double other = Luminance(second);
-    return (qMax(one, other) + 0.05) / (qMin(one, other) + 0.05);
+    const auto [darker, lighter] = std::minmax({Luminance(first), Luminance(second)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// How much the strongest colour of a part of a picture stands out from its commonest one.
-double StrongestContrast(const QImage& picture, const QRect& part)
+/// How much the strongest colour of a picture stands out from its commonest one.
+double StrongestContrast(const QImage& picture)
 {
-    const qreal scale = picture.devicePixelRatio();
-    const QRect pixels = QRect(part.topLeft() * scale, part.size() * scale) & picture.rect();
     QHash<QRgb, int> counts;
-    for (int y = pixels.top(); y <= pixels.bottom(); ++y)
-        for (int x = pixels.left(); x <= pixels.right(); ++x)
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
             ++counts[picture.pixel(x, y)];
-    QRgb ground = 0;
-    for (auto count = counts.cbegin(); count != counts.cend(); ++count)
-        if (count.value() > counts.value(ground))
-            ground = count.key();
+    const QRgb ground = std::max_element(counts.cbegin(), counts.cend()).key();
     double strongest = 1;
     for (auto count = counts.cbegin(); count != counts.cend(); ++count)
         strongest = qMax(strongest, Contrast(count.key(), ground));
     return strongest;
 }
 
-/// How many pixels outside of a part stand out in one picture from what they are in the other.
-int ChangedAround(const QRectF& part, const QImage& before, const QImage& after)
+/// What encloses all that has the colour of the ring in one picture and another, well told from it, in the other.
+QRect RingIn(const QImage& picture, const QImage& other, const QRect& inner, QRgb ring)
 {
-    const qreal scale = before.devicePixelRatio();
-    int changed = 0;
-    for (int y = 0; y < before.height(); ++y)
-        for (int x = 0; x < before.width(); ++x)
-            if (before.pixel(x, y) != after.pixel(x, y) && !part.contains(QPointF(x, y) / scale) &&
-                Contrast(before.pixel(x, y), after.pixel(x, y)) >= OutlineContrast)
-                ++changed;
-    return changed;
+    QRect enclosing;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixel(x, y) == ring && !inner.contains(x, y) &&
+                Contrast(ring, other.pixel(x, y)) >= OutlineContrast)
+                enclosing |= QRect(x, y, 1, 1);
+    return enclosing;
 }
 
-/// The text of a control where the player reads it; the title of a screen is told above the screens.
-QString ReadText(const QWidget& widget)
+/// Whether a control is filled with the colour in which others are ringed; its own ring is seen by the gap inside it.
+bool IsFilled(const QWidget& widget)
 {
-    return IsOneOf<ScreenButton>(&widget)
-               ? QString()
-               : widget.property(IsOneOf<QComboBox>(&widget) ? "currentText" : "text").toString();
-}
-
-/// Where the rows of a column are seen. A single figure may be too fine to show its full colour.
-QRect ColumnPlace(const QAbstractItemView& view, int column)
-{
-    QRect place;
-    for (int row = 1; row < qMin(view.model()->rowCount(), LookedAtRows); ++row)
-        place |= view.visualRect(view.model()->index(row, column)) & view.viewport()->rect();
-    return place.translated(PlaceOf(*view.viewport()).topLeft());
-}
-
-/// Whether nothing but an outline tells the player where the control is.
-bool HasOutline(const QWidget& widget)
-{
-    return (IsOneOf<QLineEdit>(&widget) && !widget.property(BareProperty).toBool()) ||
-           IsOneOf<QComboBox, QCheckBox, QRadioButton, QPushButton, QAbstractSpinBox>(&widget);
+    const QVariant told = widget.property(AccentProperty);
+    return (told.isValid() ? told : widget.property("default")).toBool();
 }
 
 /// Whether a widget lies on a page that is under another one.
@@ -206,14 +183,9 @@ void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& f
     // The calendar keeps its chosen day as the current cell.
     if (state.focused && !owner->hasFocus() && !IsOneOf<QCalendarWidget>(owner->parentWidget()))
         faults.append(what + " has no focus");
-    if (state.focusable && told.text(QAccessible::Name).trimmed().isEmpty())
-        faults.append(what + " has no name");
     if (const auto* list = qobject_cast<QComboBox*>(widget);
         list != nullptr && !list->isEditable() && told.relations(QAccessible::Label).isEmpty())
         faults.append(what + " is not labelled");
-    if (told.role() == QAccessible::Button && IsOneOf<QAbstractButton>(widget) &&
-        !IsOneOf<QCalendarWidget>(widget->parentWidget()->parentWidget()) && widget->focusPolicy() == Qt::NoFocus)
-        faults.append(what + " is no button");
     for (int child = 0; child < qMin(told.childCount(), LookedAtRows * 10); ++child)
         if (QAccessibleInterface* inner = told.child(child))
             FindReaderFaults(*inner, owner, faults);
@@ -241,31 +213,22 @@ bool TakesTab(const QWidget& widget)
     return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr;
 }
 
-QStringList ScreenReaderFaults(QWidget& window)
-{
-    QStringList faults;
-    FindReaderFaults(*QAccessible::queryAccessibleInterface(&window), &window, faults);
-    return faults;
-}
-
 QStringList LayoutFaults(QWidget& window)
 {
     QStringList faults;
-    const QList<QWidget*> shown = ShownWidgets(window);
+    QList<QWidget*> shown = ShownWidgets(window);
+    shown.removeIf([](const QWidget* widget) { return widget->visibleRegion().isEmpty(); });
     for (QWidget* widget : shown) {
-        if (!IsInSight(*widget))
-            continue;
         if (!TextFits(*widget) || IsCut(*widget))
             faults.append("fit " + NameOf(*widget));
         for (QWidget* other : shown)
-            if (other < widget && other->parentWidget() == widget->parentWidget() && !MayOverlap(*widget) &&
-                !MayOverlap(*other) && IsInSight(*other) && other->geometry().intersects(widget->geometry()))
+            if (other < widget && Overlap(*widget, *other))
                 faults.append("overlap " + NameOf(*widget) + " and " + NameOf(*other));
     }
     // The toolkit's own message box is as large as its message and has nothing that would grow.
-    if (!IsOneOf<QMessageBox>(&window) &&
-        (window.maximumWidth() < QWIDGETSIZE_MAX || window.maximumHeight() < QWIDGETSIZE_MAX))
+    if (!IsOneOf<QMessageBox>(&window) && window.maximumSize() != QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX))
         faults.append("fixed " + NameOf(window));
+    FindReaderFaults(*QAccessible::queryAccessibleInterface(&window), &window, faults);
     return faults;
 }
 
@@ -274,23 +237,26 @@ QStringList ContrastFaults(QWidget& window)
     QStringList faults;
     const QImage picture = window.grab().toImage();
     for (QWidget* widget : ShownWidgets(window)) {
-        if (!widget->isEnabled() || widget->visibleRegion().boundingRect() != widget->rect())
+        if (!widget->isEnabled() || !IsWholeInSight(*widget))
             continue;
-        if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
-            for (int column = 0; column < view->model()->columnCount(); ++column)
-                if (const QRect cells = ColumnPlace(*view, column);
-                    !cells.isEmpty() && StrongestContrast(picture, cells) < TextContrast)
-                    faults.append(QString("contrast column %1 of %2").arg(column).arg(NameOf(*view)));
+        const auto check = [&](const QRect& place, double least, const QString& what) {
+            if (!place.isEmpty() && StrongestContrast(picture.copy(place & picture.rect())) < least)
+                faults.append("contrast " + what + " of " + NameOf(*widget));
+        };
         const QRect place = PlaceOf(*widget);
-        QRect inside = place.adjusted(4, 2, -4, -2);
+        QRect text = place.adjusted(4, 2, -4, -2);
         if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && !label->wordWrap())
-            inside = QStyle::alignedRect(Qt::LeftToRight, label->alignment(),
-                                         label->fontMetrics().size(0, label->text()), place);
-        if (!ReadText(*widget).trimmed().isEmpty() && StrongestContrast(picture, inside) < TextContrast)
-            faults.append("contrast " + NameOf(*widget));
-        const QRect edge(place.left() - 1, place.center().y(), 8, 1);
-        if (HasOutline(*widget) && StrongestContrast(picture, edge) < OutlineContrast)
-            faults.append("contrast outline of " + NameOf(*widget));
+            text = QStyle::alignedRect(Qt::LeftToRight, label->alignment(), label->fontMetrics().size(0, label->text()),
+                                       place);
+        const auto* view = qobject_cast<const QAbstractItemView*>(widget);
+        // The title of a screen is told above the screens.
+        if ((!ReadText(*widget).trimmed().isEmpty() && !IsOneOf<ScreenButton>(widget)) ||
+            (view != nullptr && view->model()->rowCount() > 0))
+            check(text, TextContrast, "text");
+        // Nothing but an outline tells the player where these are.
+        if (IsOneOf<QLineEdit, QComboBox, QCheckBox, QRadioButton, QPushButton, QAbstractSpinBox>(widget) &&
+            !widget->property(BareProperty).toBool())
+            check({place.left() - 1, place.center().y(), 8, 1}, OutlineContrast, "outline");
     }
     return faults;
 }
@@ -304,24 +270,29 @@ QStringList FocusFaults(QWidget& window)
     window.activateWindow();
     QApplication::processEvents();
     for (QWidget* widget : ShownWidgets(window)) {
-        if (!TakesTab(*widget) || widget->visibleRegion().boundingRect() != widget->rect())
+        if (!TakesTab(*widget) || !IsWholeInSight(*widget))
             continue;
         // In a field and a list the cursor and the selection change too. The ring of a field on a ball is the ball's.
         constexpr int ring = 4;
         const bool onBall = IsOneOf<BallDisc>(widget->parentWidget());
         const QWidget& ringed = onBall ? *widget->parentWidget() : *widget;
-        const QRect place = PlaceOf(ringed).adjusted(-ring, -ring, ring, ring) & window.rect();
+        const QRect place = PlaceOf(ringed) & window.rect();
         const int edge = onBall ? 0 : ring;
         const QRect inner = IsOneOf<QLineEdit, QAbstractItemView>(widget)
                                 ? PlaceOf(*widget).adjusted(edge, edge, -edge, -edge).translated(-place.topLeft())
                                 : QRect();
+        const QColor colour =
+            IsOneOf<MenuColumn>(widget->parentWidget()) ? CurrentTheme().menuText : CurrentTheme().accent;
         window.setFocus(forAWhile);
-        const QImage without = window.grab(place).toImage();
+        QImage without = window.grab(place).toImage();
+        const bool filled = IsFilled(*widget);
         widget->setFocus(forAWhile);
-        const QImage with = window.grab(place).toImage();
-        // Half of a ring of one pixel, for a ring may take the place of an outline that is nearly as strong.
-        const QSize needed = ringed.size().boundedTo(ringed.sizeHint());
-        if (ChangedAround(inner, without, with) < (needed.width() + needed.height()) * with.devicePixelRatio())
+        QImage with = window.grab(place).toImage();
+        if (filled)
+            with.swap(without);
+        // A ball leaves some room around its ring.
+        const QSize least = ringed.size().boundedTo(ringed.sizeHint()) - QSize(12, 12);
+        if (!Fits(least, RingIn(with, without, inner, colour.rgb()).size()))
             faults.append("ring " + NameOf(*widget));
     }
     if (focused != nullptr)

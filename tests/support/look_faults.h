@@ -12,14 +12,12 @@ QList<QWidget*> ShownWidgets(const QWidget& window);
 /// Whether the Tab key reaches a widget that is shown.
 bool TakesTab(const QWidget& widget);
 
-/// "fit", "overlap" and "fixed": whether texts and controls have room.
+/// "fit", "overlap" and "fixed": whether texts and controls have room. "told": what a screen reader would tell wrongly,
+/// such as a page that is covered or a focus that is elsewhere.
 QStringList LayoutFaults(QWidget& window);
 
-/// "contrast": the colours of the window as it is painted.
+/// "contrast": the colours of the window as it is painted, at the scale of 1.
 QStringList ContrastFaults(QWidget& window);
 
-/// "ring": the controls that do not show the focus, one after the other.
+/// "ring": the controls that do not show the focus, one after the other, at the scale of 1.
 QStringList FocusFaults(QWidget& window);
-
-/// "told": what a screen reader would tell wrongly, such as a field without a name or a focus that is elsewhere.
-QStringList ScreenReaderFaults(QWidget& window);

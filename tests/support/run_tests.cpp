@@ -6,21 +6,11 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <map>
 
-namespace {
-
-std::map<QString, RegisteredTest::Run>& RegisteredTests()
+RegisteredTests& AllTests()
 {
-    static std::map<QString, RegisteredTest::Run> tests;
+    static RegisteredTests tests;
     return tests;
-}
-
-} // namespace
-
-RegisteredTest::RegisteredTest(const char* name, Run run)
-{
-    RegisteredTests().emplace(name, run);
 }
 
 /// Runs every class of tests of the program, or the one that the first argument names; the other arguments are the test
@@ -34,18 +24,14 @@ int main(int count, char** arguments)
     const QApplication application(count, arguments);
     QApplication::setStyle(new Style);
     QStringList rest = QApplication::arguments();
-    const auto chosen = RegisteredTests().find(rest.value(1));
-    if (chosen != RegisteredTests().end()) {
+    const QString chosen = rest.value(1);
+    if (AllTests().contains(chosen))
         rest.removeAt(1);
-        return chosen->second(rest);
-    }
-    if (rest.value(1) == "-classes") {
-        for (const auto& [name, run] : RegisteredTests())
-            std::puts(qPrintable(name));
-        return 0;
-    }
     int failures = 0;
-    for (const auto& [name, run] : RegisteredTests())
-        failures += run(rest);
+    for (const auto& [name, run] : AllTests())
+        if (chosen == "-classes")
+            std::puts(qPrintable(name));
+        else if (chosen == name || !AllTests().contains(chosen))
+            failures += run(rest);
     return failures;
 }

@@ -2,17 +2,14 @@
 
 #include <QTest>
 
-/// A class of tests that the program runs. TAVENOR_TEST at the end of a file names the file's class.
-class RegisteredTest
-{
-public:
-    using Run = int (*)(const QStringList& arguments);
+#include <map>
 
-    RegisteredTest(const char* name, Run run);
-};
+/// The classes of tests of the program, by their names. TAVENOR_TEST at the end of a file adds the file's class.
+using RegisteredTests = std::map<QString, int (*)(const QStringList& arguments)>;
+RegisteredTests& AllTests();
 
 #define TAVENOR_TEST(TestClass)                                                                                        \
-    static const RegisteredTest registered##TestClass(#TestClass, [](const QStringList& arguments) {                   \
+    static const auto registered##TestClass = AllTests().emplace(#TestClass, [](const QStringList& arguments) {        \
         TestClass tests;                                                                                               \
         return QTest::qExec(&tests, arguments);                                                                        \
     });

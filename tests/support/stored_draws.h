@@ -13,8 +13,7 @@ inline void StoreDraws(const Game& game, const QStringList& draws)
     Transaction transaction(DrawDb, "The draws of the test could not be stored");
     for (const QString& text : draws) {
         const QStringList fields = text.split(u',');
-        EnteredDraw draw;
-        draw.date = QDate::fromString(fields[0], Qt::ISODate);
+        EnteredDraw draw{QDate::fromString(fields[0], Qt::ISODate), {}, {}, {}};
         for (int slot = 0; slot < game.BallCount(); ++slot)
             draw.balls.at(static_cast<size_t>(slot)) = fields[slot + 1].toDouble();
         draw.machine = fields.value(game.BallCount() + 1);

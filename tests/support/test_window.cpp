@@ -1,16 +1,19 @@
 #include "support/test_window.h"
 
-#include "base/texts.h"
+#include "records/engine.h"
+#include "support/file_bytes.h"
 #include "utilities/start_and_end.h"
 
 #include <QDir>
 #include <QListView>
 
+#include <sqlite3.h>
+
 using namespace Qt::StringLiterals;
 
 ModalWindows::ModalWindows()
 {
-    connect(&timer, &QTimer::timeout, this, &ModalWindows::Look);
+    timer.callOnTimeout([this] { Look(); });
     timer.start(2);
 }
 
@@ -19,11 +22,11 @@ void ModalWindows::WillPress(QMessageBox::StandardButton button, std::function<v
     expected.emplace_back([button, look = std::move(look)](QDialog& dialog) {
         if (look)
             look();
-        auto* box = qobject_cast<QMessageBox*>(&dialog);
-        if (box == nullptr || box->button(button) == nullptr)
-            return false;
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-        return true;
+        const auto* box = qobject_cast<QMessageBox*>(&dialog);
+        QAbstractButton* wanted = box == nullptr ? nullptr : box->button(button);
+        if (wanted != nullptr)
+            QTest::mouseClick(wanted, Qt::LeftButton);
+        return wanted != nullptr;
     });
 }
 
@@ -36,11 +39,6 @@ void ModalWindows::WillDo(std::function<void(QDialog&)> action)
         // A check that failed in the middle leaves the window open for ever.
         return !dialog.isVisible() || !QTest::currentTestFailed();
     });
-}
-
-QList<SeenBox> ModalWindows::TakeSeen()
-{
-    return std::exchange(seen, {});
 }
 
 QStringList ModalWindows::TakeTexts()
@@ -57,27 +55,24 @@ void ModalWindows::Look()
     if (dialog == nullptr || answered.contains(dialog) || !dialog->isVisible())
         return;
     answered.append(dialog);
-    if (const auto* box = qobject_cast<QMessageBox*>(dialog))
-        seen.append({box->windowTitle(), box->text(), box->icon(), box->standardButton(box->defaultButton()),
-                     box->textFormat()});
-    if (expected.empty() && always) {
-        if (auto* box = qobject_cast<QMessageBox*>(dialog))
+    const auto* box = qobject_cast<QMessageBox*>(dialog);
+    if (box != nullptr)
+        seen.append({box->windowTitle(), box->text(), box->icon(), box->textFormat()});
+    if (!expected.empty()) {
+        const auto action = std::move(expected.front());
+        expected.pop_front();
+        if (action(*dialog))
+            return;
+    } else if (always) {
+        if (box != nullptr)
             box->buttons().constFirst()->click();
         else
             always(*dialog);
         return;
     }
-    std::function<bool(QDialog&)> action;
-    if (!expected.empty()) {
-        action = std::move(expected.front());
-        expected.pop_front();
-    }
-    if (!action || !action(*dialog)) {
-        ++unforeseen;
-        qWarning("Not foreseen: %s",
-                 qPrintable(dialog->windowTitle() + u' ' + (seen.isEmpty() ? QString() : seen.last().text)));
-        dialog->reject();
-    }
+    ++unforeseen;
+    qWarning("Not foreseen: %s", qPrintable(dialog->windowTitle() + ' ' + (box == nullptr ? QString() : box->text())));
+    dialog->reject();
 }
 
 TestFolder::TestFolder(Content content)
@@ -116,24 +111,15 @@ QStringList TestFolder::StoredRows(const QString& table)
     const QTemporaryDir copies;
     const QString copy = copies.filePath(u"copy"_s);
     QFile::copy(QString::fromStdString((ofUsers ? UserDataPath : DrawDataPath).string()), copy);
-    Database database;
-    database.Open(copy.toStdString(), ofUsers ? std::string() : DrawConnect);
-    TableLayout layout;
-    for (const TableLayout& known : {DrawTable(MainGame), DrawTable(ThunderballGame), DrawList(MainGame),
-                                     DrawList(ThunderballGame), LinksTable(), UsersTable(), EntriesTable()})
-        if (QString::fromStdString(known.name) == table)
-            layout = known;
-    RecordSet set;
-    set.Open(database, layout);
+    const Engine engine = OpenGuarded(copy.toStdString(), ofUsers ? std::string() : DrawConnect,
+                                      BytesOf(copy).first(SaltBytes).toStdString(), "The rows could not be read");
     QStringList rows;
-    for (set.MoveFirst(); !set.Eof(); set.MoveNext()) {
-        QStringList fields;
-        for (int position = 0; position < static_cast<int>(layout.columns.size()); ++position) {
-            const bool ofTexts = layout.columns[static_cast<size_t>(position)].type == "TEXT";
-            fields.append(ofTexts ? FromUtf8(set.Text(position)) : QString::number(set.Number(position), 'g', 17));
-        }
-        rows.append(fields.join(u','));
-    }
+    const auto append = [](void* to, int count, char** values, char** /*columns*/) {
+        const QStringList fields(values, values + count);
+        static_cast<QStringList*>(to)->append(fields.join(u','));
+        return 0;
+    };
+    sqlite3_exec(engine.get(), qPrintable("SELECT * FROM " + table), append, &rows, nullptr);
     return rows;
 }
 
@@ -169,11 +155,6 @@ void TestWindow::Settle()
         window->activateWindow();
         QApplication::processEvents();
     }
-}
-
-QString TestWindow::TextOf(const QString& name) const
-{
-    return Find(name)->property("text").toString();
 }
 
 QString TestWindow::TextsOf(const QStringList& names) const
@@ -255,25 +236,10 @@ void TestWindow::PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers)
     Settle();
 }
 
-QString TestWindow::FocusedName() const
-{
-    return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
-}
-
-QColor TestWindow::ColourOf(const QString& name, QPalette::ColorRole role) const
-{
-    return Find(name)->palette().color(role);
-}
-
 QString TestWindow::ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const
 {
     QStringList colours;
     for (const QChar element : elements)
         colours.append(ColourOf(array + u'_' + element, role).name().toUpper());
     return colours.join(u' ');
-}
-
-void PressIn(const QDialog& dialog, const QString& name)
-{
-    QTest::mouseClick(dialog.findChild<QWidget*>(name), Qt::LeftButton);
 }

@@ -32,16 +32,13 @@ struct SeenBox
     QString title;
     QString text;
     QMessageBox::Icon icon;
-    QMessageBox::StandardButton defaultButton;
     Qt::TextFormat format;
 };
 
 /// Answers the program's modal windows in the order in which the test foresees them. A window that nobody foresaw is
 /// noted and closed, so that a test fails instead of hanging.
-class ModalWindows : public QObject
+class ModalWindows
 {
-    Q_OBJECT
-
 public:
     ModalWindows();
 
@@ -55,7 +52,7 @@ public:
     void WillAlwaysDo(std::function<void(QDialog&)> action) { always = std::move(action); }
 
     /// The message boxes seen since this was last asked.
-    QList<SeenBox> TakeSeen();
+    QList<SeenBox> TakeSeen() { return std::exchange(seen, {}); }
     /// Their texts only.
     QStringList TakeTexts();
     /// Whether every foreseen window has come, and no other.
@@ -119,7 +116,7 @@ public:
             qFatal("There is no control named %s", qPrintable(name));
         return found;
     }
-    QString TextOf(const QString& name) const;
+    QString TextOf(const QString& name) const { return Find(name)->property("text").toString(); }
     /// The texts of several controls, with "|" between them.
     QString TextsOf(const QStringList& names) const;
     /// The texts of a control array's elements, with blanks between them; "1230" is element 1, 2, 3 and 0.
@@ -138,8 +135,11 @@ public:
     void OpenPage(int group, int suboption);
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    QString FocusedName() const;
-    QColor ColourOf(const QString& name, QPalette::ColorRole role) const;
+    QString FocusedName() const
+    {
+        return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
+    }
+    QColor ColourOf(const QString& name, QPalette::ColorRole role) const { return Find(name)->palette().color(role); }
     /// The same of a control array's elements, as "#RRGGBB" with blanks between them.
     QString ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const;
 
@@ -156,4 +156,7 @@ private:
 };
 
 /// Clicks a control of a dialog.
-void PressIn(const QDialog& dialog, const QString& name);
+inline void PressIn(const QDialog& dialog, const QString& name)
+{
+    QTest::mouseClick(dialog.findChild<QWidget*>(name), Qt::LeftButton);
+}
