@@ -27,11 +27,6 @@ public:
         qputenv("DISPLAY", ':' + Start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-screen", "0", size}));
         qputenv("DBUS_SESSION_BUS_ADDRESS", Start("dbus-daemon", {"--session", "--nofork", "--print-address=1"}));
         Start("openbox", {"--sm-disable", "--startup", "echo ready"});
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        // One whose dialogs have icons on their buttons.
-        qputenv("XDG_CURRENT_DESKTOP", "GNOME");
-        for (const char* ofTheRealDesktop : {"QT_QPA_PLATFORMTHEME", "WAYLAND_DISPLAY"})
-            qunsetenv(ofTheRealDesktop);
     }
     ~Desktop()
     {

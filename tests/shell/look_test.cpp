@@ -3,8 +3,6 @@
 #include "support/shown_pages.h"
 #include "support/test_window.h"
 
-#include "balls/ball_disc.h"
-#include "balls/ball_edit.h"
 #include "controls/grid_model.h"
 #include "controls/grid_view.h"
 #include "controls/label.h"
@@ -25,28 +23,6 @@ namespace {
 
 constexpr QSize SmallSize(1024, 720);
 constexpr QSize LargeSize(1500, 950);
-
-/// A dialog without a fault.
-struct PlantedDialog : QDialog
-{
-    PlantedDialog()
-    {
-        auto* rows = new QVBoxLayout(this);
-        ball->Carry(new BallEdit(ball));
-        list->addItem("Ann");
-        list->setFrameShape(QFrame::NoFrame);
-        for (QWidget* widget : std::initializer_list<QWidget*>{field, ball, caption, tick, list, store})
-            rows->addWidget(widget);
-        store->MakeAccent();
-    }
-
-    QLineEdit* field = new QLineEdit("12");
-    BallDisc* ball = new BallDisc("ball");
-    QLabel* caption = MakeLabel("A caption", TextRole::Body, "caption");
-    QCheckBox* tick = new QCheckBox("Tick");
-    QListWidget* list = new QListWidget;
-    Button* store = new Button("Store", "store");
-};
 
 void Repaint(QWidget& widget, QPalette::ColorRole role, const QColor& colour)
 {
@@ -90,31 +66,39 @@ private Q_SLOTS:
 
     void APlantedFaultIsFound()
     {
-        using Plant = void (*)(PlantedDialog&);
-        const std::pair<QString, Plant> rows[] = {
-            {"", [](PlantedDialog&) {}},
-            {"fit", [](PlantedDialog& dialog) { dialog.caption->setMaximumWidth(20); }},
-            {"fit", [](PlantedDialog& dialog) { dialog.field->setMaximumHeight(8); }},
-            {"overlap",
-             [](PlantedDialog& dialog) {
-                 dialog.layout()->removeWidget(dialog.caption);
-                 dialog.caption->move(dialog.tick->pos() - QPoint(0, 4));
-             }},
-            {"fixed", [](PlantedDialog& dialog) { dialog.setFixedSize(dialog.sizeHint()); }},
-            {"contrast text", [](PlantedDialog& dialog) { Repaint(*dialog.caption, QPalette::WindowText, "#808896"); }},
-            {"contrast outline",
-             [](PlantedDialog& dialog) { Repaint(*dialog.tick, QPalette::PlaceholderText, "#969696"); }},
-            {"ring", [](PlantedDialog& dialog) { Repaint(*dialog.tick, QPalette::Highlight, Qt::transparent); }},
-            {"ring", [](PlantedDialog& dialog) { Repaint(*dialog.ball, QPalette::Highlight, Qt::transparent); }},
-            {"told", [](PlantedDialog& dialog) { dialog.list->setCurrentRow(0); }},
-            {"told", [](PlantedDialog& dialog) { dialog.layout()->addWidget(new QComboBox); }}};
-        for (const auto& [kind, plant] : rows) {
-            PlantedDialog dialog;
+        for (const QString kind :
+             {"", "fit", "overlap", "fixed", "contrast text", "contrast outline", "ring", "told"}) {
+            QDialog dialog;
+            auto* rows = new QVBoxLayout(&dialog);
+            auto* field = new QLineEdit("12");
+            QLabel* caption = MakeLabel("A caption", TextRole::Body, "caption");
+            auto* tick = new QCheckBox("Tick");
+            auto* list = new QListWidget;
+            list->addItem("Ann");
+            list->setFrameShape(QFrame::NoFrame);
+            auto* store = new Button("Store", "store");
+            store->MakeAccent();
+            for (QWidget* widget : std::initializer_list<QWidget*>{field, caption, tick, list, store})
+                rows->addWidget(widget);
             dialog.show();
-            plant(dialog);
+            if (kind == "fit")
+                caption->setMaximumWidth(20);
+            else if (kind == "overlap") {
+                rows->removeWidget(store);
+                store->move(caption->pos());
+            } else if (kind == "fixed")
+                dialog.setFixedSize(dialog.sizeHint());
+            else if (kind == "contrast text")
+                Repaint(*caption, QPalette::WindowText, "#808896");
+            else if (kind == "contrast outline")
+                Repaint(*tick, QPalette::PlaceholderText, "#969696");
+            else if (kind == "ring")
+                Repaint(*tick, QPalette::Highlight, Qt::transparent);
+            else if (kind == "told")
+                list->setCurrentRow(0);
             QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-            QStringList faults = LayoutFaults(dialog) + ContrastFaults(dialog);
-            // This moves the focus, and so comes last.
+            QStringList faults = LayoutFaults(dialog);
+            faults += ContrastFaults(dialog);
             faults += FocusFaults(dialog);
             QVERIFY2(kind.isEmpty() == faults.isEmpty(), qPrintable(kind + ": " + faults.join('\n')));
             for (const QString& fault : faults)
@@ -144,21 +128,14 @@ private Q_SLOTS:
             QScrollBar bar(way);
             bar.setRange(0, 100);
             bar.setPageStep(50);
-            bar.resize(way == Qt::Horizontal ? QSize(300, bar.sizeHint().height())
-                                             : QSize(bar.sizeHint().width(), 300));
-            const QPoint middle = bar.rect().center();
+            bar.resize(way == Qt::Horizontal ? QSize(300, 12) : QSize(12, 300));
             const QPoint end = bar.rect().bottomRight() - QPoint(2, 2);
             QTest::mouseClick(&bar, Qt::LeftButton, {}, end);
             QCOMPARE(bar.value(), 50);
-            QTest::mousePress(&bar, Qt::LeftButton, {}, middle);
+            QTest::mousePress(&bar, Qt::LeftButton, {}, bar.rect().center());
             QTest::mouseMove(&bar, end);
             QTest::mouseRelease(&bar, Qt::LeftButton, {}, end);
             QCOMPARE(bar.value(), 100);
-            // The slider is thinner than the bar, and stands at its end now.
-            const QImage picture = bar.grab().toImage();
-            const QColor slider =
-                picture.pixelColor(way == Qt::Horizontal ? QPoint(290, middle.y()) : QPoint(middle.x(), 290));
-            QVERIFY(slider != picture.pixelColor(middle / 2) && slider != picture.pixelColor(end));
         }
     }
 
@@ -173,30 +150,30 @@ private:
         const bool byLayoutOnly = qEnvironmentVariableIsSet("LAYOUT_ONLY");
         ShownPages seen;
         QStringList faults;
-        const auto add = [&faults](const QString& name, const QStringList& found) {
-            for (const QString& fault : found)
-                faults.append(name + ": " + fault);
-        };
         const Walk walk(window, [&](const QString& name, QWidget& shown) {
-            const bool isFileDialog = qobject_cast<QFileDialog*>(&shown) != nullptr;
+            QStringList found;
             if (&shown == &window) {
                 window.resize(LargeSize);
                 QApplication::processEvents();
-                add(name, LayoutFaults(window));
+                found += LayoutFaults(window);
                 window.resize(SmallSize);
                 // A layout that turns a row into a column is heard of by what lies around it one turn later.
                 for (int turn = 0; turn < 3; ++turn)
                     QApplication::processEvents();
                 if (window.size() != SmallSize)
-                    add(name, {QString("fit %1 x %2").arg(window.width()).arg(window.height())});
+                    found.append(QString("fit %1 x %2").arg(window.width()).arg(window.height()));
             }
-            if (!isFileDialog)
-                add(name, LayoutFaults(shown));
-            if (byLayoutOnly)
-                return;
-            seen.TakeDown(name, shown);
-            if (!isFileDialog)
-                add(name, ContrastFaults(shown) + FocusFaults(shown));
+            const bool isOurs = qobject_cast<QFileDialog*>(&shown) == nullptr;
+            if (isOurs)
+                found += LayoutFaults(shown);
+            if (!byLayoutOnly)
+                seen.TakeDown(name, shown);
+            if (isOurs && !byLayoutOnly) {
+                found += ContrastFaults(shown);
+                found += FocusFaults(shown);
+            }
+            for (const QString& fault : found)
+                faults.append(name + ": " + fault);
         });
         walk.MainJob();
         walk.EverythingElse();

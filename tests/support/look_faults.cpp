@@ -160,16 +160,8 @@ bool IsFilled(const QWidget& widget)
     return (told.isValid() ? told : widget.property("default")).toBool();
 }
 
-/// Whether a widget lies on a page that is under another one.
-bool IsCovered(const QWidget& widget)
-{
-    const auto* area = widget.window()->findChild<PageArea*>();
-    return area != nullptr && area != &widget && area->isAncestorOf(&widget) &&
-           !area->FrontPage()->isAncestorOf(&widget);
-}
-
 /// Looks at what a screen reader finds in an object that is showing, and in all that it holds.
-void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& faults)
+void FindReaderFaults(QAccessibleInterface& told, const QWidget* owner, QStringList& faults)
 {
     const QAccessible::State state = told.state();
     if (state.invisible)
@@ -177,15 +169,17 @@ void FindReaderFaults(QAccessibleInterface& told, QWidget* owner, QStringList& f
     auto* widget = qobject_cast<QWidget*>(told.object());
     if (widget != nullptr)
         owner = widget;
-    const QString what = "told " + NameOf(*owner) + (widget == nullptr ? " part " + told.text(QAccessible::Name) : "");
-    if (!owner->isVisible() || IsCovered(*owner))
-        faults.append(what + " is not seen");
+    const auto* area = owner->window()->findChild<PageArea*>();
+    const bool isCovered =
+        area != nullptr && area != owner && area->isAncestorOf(owner) && !area->FrontPage()->isAncestorOf(owner);
+    if (!owner->isVisible() || isCovered)
+        faults.append("told " + NameOf(*owner) + " is not seen");
     // The calendar keeps its chosen day as the current cell.
     if (state.focused && !owner->hasFocus() && !IsOneOf<QCalendarWidget>(owner->parentWidget()))
-        faults.append(what + " has no focus");
+        faults.append("told " + NameOf(*owner) + " has no focus");
     if (const auto* list = qobject_cast<QComboBox*>(widget);
         list != nullptr && !list->isEditable() && told.relations(QAccessible::Label).isEmpty())
-        faults.append(what + " is not labelled");
+        faults.append("told " + NameOf(*owner) + " is not labelled");
     for (int child = 0; child < qMin(told.childCount(), LookedAtRows * 10); ++child)
         if (QAccessibleInterface* inner = told.child(child))
             FindReaderFaults(*inner, owner, faults);

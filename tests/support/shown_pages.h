@@ -114,19 +114,18 @@ public:
     void TakeDown(const QString& state, const QWidget& window)
     {
         const auto* area = window.findChild<PageArea*>();
-        if (area == nullptr) {
-            const bool isBox = qobject_cast<const QMessageBox*>(&window) != nullptr;
-            return Add(isBox ? "message_box_" + state : window.objectName(), state, LinesOf(window));
-        }
-        Add(area->FrontPage()->objectName(), state, LinesOf(*area->FrontPage()));
-        Add("menu", state, LinesOf(*window.findChild<MenuColumn*>()));
+        if (area == nullptr)
+            return Add(window.objectName().isEmpty() ? "message_box_" + state : window.objectName(), state, window);
+        Add(area->FrontPage()->objectName(), state, *area->FrontPage());
+        Add("menu", state, *window.findChild<MenuColumn*>());
     }
 
     QMap<QString, QStringList> files;
 
 private:
-    void Add(const QString& file, const QString& state, const QStringList& lines)
+    void Add(const QString& file, const QString& state, const QWidget& shown)
     {
+        const QStringList lines = LinesOf(shown);
         const QStringList before = std::exchange(last[file], lines);
         QStringList changed;
         for (const QString& line : lines)
