@@ -1,7 +1,6 @@
 #include "support/test_window.h"
 
 #include "records/engine.h"
-#include "support/file_bytes.h"
 #include "utilities/start_and_end.h"
 
 #include <QDir>
@@ -111,8 +110,9 @@ QStringList TestFolder::StoredRows(const QString& table)
     const QTemporaryDir copies;
     const QString copy = copies.filePath(u"copy"_s);
     QFile::copy(QString::fromStdString((ofUsers ? UserDataPath : DrawDataPath).string()), copy);
-    const Engine engine = OpenGuarded(copy.toStdString(), ofUsers ? std::string() : DrawConnect,
-                                      BytesOf(copy).first(SaltBytes).toStdString(), "The rows could not be read");
+    const Engine engine = OpenEngine(copy.toStdString(), SQLITE_OPEN_READONLY, "The rows could not be read");
+    const std::string password = PasswordOf(ofUsers ? std::string() : DrawConnect);
+    sqlite3_key(engine.get(), password.data(), static_cast<int>(password.size()));
     QStringList rows;
     const auto append = [](void* to, int count, char** values, char** /*columns*/) {
         const QStringList fields(values, values + count);
