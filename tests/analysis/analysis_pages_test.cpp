@@ -58,6 +58,11 @@ private Q_SLOTS:
     {
         for (const auto& [page, charts] : {std::pair(21, QList{1, 2, 3, 4, 5, 6}), {22, {21, 22, 23, 24}}}) {
             Menu menu(page);
+            QList<QImage> pictures;
+            for (int screen = 1; screen <= charts.size() + 1; ++screen) {
+                pictures.append(menu.Find(menu.ScreenName(screen))->grab().toImage());
+                QCOMPARE(pictures.indexOf(pictures.last()), screen - 1);
+            }
             // The other game's draws make no difference.
             StoreDraws(page == 21 ? ThunderballGame : MainGame, {"2026-11-21,1,2,3,4,5,6,7"});
             for (int screen = 1; screen <= charts.size(); ++screen)

@@ -59,14 +59,17 @@ private Q_SLOTS:
         }
     }
 
-    void TableMustBeATable()
+    void TableMustBeATableOfTheseColumns()
     {
         const std::string schema = "PRAGMA writable_schema = 1; UPDATE sqlite_master SET ";
         const std::string view = "CREATE VIEW users AS SELECT 1 AS UserId, 2 AS UserName, 3 AS SpendLimit;";
         const std::string search = "CREATE VIRTUAL TABLE users USING fts4(UserId, UserName, SpendLimit);";
         for (const std::string& sql :
              {view, view + schema + "type = 'table', rootpage = 2 WHERE name = 'users'", search,
-              search + schema + "rootpage = 2 WHERE name = 'users'",
+              search + schema + "rootpage = 2 WHERE name = 'users'", std::string(),
+              std::string("CREATE TABLE users(UserId, UserName)"),
+              std::string("CREATE TABLE users(UserName, UserId, SpendLimit)"),
+              std::string("CREATE TABLE users(UserId, UserName, SpendLimit, More)"),
               std::string("CREATE TABLE users(UserId, UserName, SpendLimit AS (UserId * 2))"),
               std::string("CREATE TABLE users(UserId, UserName, SpendLimit, More AS (hex(UserName)))"),
               std::string("CREATE TABLE users(UserId PRIMARY KEY, UserName, SpendLimit) WITHOUT ROWID")}) {
@@ -81,8 +84,8 @@ private Q_SLOTS:
         const ForeignFiles files(
             {},
             "DROP VIEW ukmainlist; CREATE VIEW ukmainlist(DrawId, \"Date\", Day, Ball1, Ball2, Ball3, Ball4, Ball5, "
-            "Ball6, Bonus, Machine, BallSet)"
-            " AS WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM more) SELECT n, n, n, n, n, "
+            "Ball6, Bonus, Machine, BallSet) AS WITH RECURSIVE more(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM more) "
+            "SELECT n, n, n, n, n, "
             "n, n, n, n, n, n, n FROM more; INSERT INTO ukmain(DrawId, \"Date\") VALUES (1, '2020-01-11'), "
             "(2, '2020-01-04'), (3, '2020-01-11'), (3, '2020-01-11'), (4, ''), (-5, '10'), (6, '\u00e9')");
         OpenDatabaseFiles();
@@ -140,6 +143,14 @@ private Q_SLOTS:
         QCOMPARE(ReadUser(users).name, QString("42"));
         QCOMPARE(ReadUser(users).spendLimit, 5.0);
         QCOMPARE(CloseAndCompactFiles(), QString());
+    }
+
+    void TextsThatTakeTooMuchMemoryAreRefused()
+    {
+        const ForeignFiles files("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 40)"
+                                 "INSERT INTO users SELECT i, hex(zeroblob(450000)) || i, 1 FROM n");
+        OpenDatabaseFiles();
+        QCOMPARE(FailureOf([] { (void)users.Count(); }).reason, QString("their texts are too long"));
     }
 
     void NoFileGrowsBeyondWhatCanBeOpened()

@@ -204,23 +204,6 @@ private Q_SLOTS:
         }
     }
 
-    void TableHasItsKindAndColumns()
-    {
-        Fixture f;
-        const QString missing = "it is missing in the file";
-        const QString other = "its columns are not as this program made them";
-        const std::pair<TableLayout, QString> rows[] = {
-            {{"letters", Numbers.columns}, missing},
-            {{"numberslist", Numbers.columns}, missing},
-            {{"numbers", Numbers.columns, "numbers", {0}}, missing},
-            {{"numbers", {{"Word", "TEXT"}, {"Number", "INTEGER"}}}, other},
-            {{"numbers", {{"Number", "INTEGER"}}}, other},
-            {{"numbers", {{"Number", ""}, {"Word", ""}, {"More", ""}}}, other},
-        };
-        for (const auto& [layout, reason] : rows)
-            QCOMPARE(FailureOf([&, tried = layout] { f.table.Open(f.database, tried); }).reason, reason);
-    }
-
     void CompactionKeepsRowsOrderKeyMarksAndRights()
     {
         Fixture f(Connect);
