@@ -111,7 +111,6 @@ void AnalysisPage::BuildScreens()
 void AnalysisPage::Prepare()
 {
     selectedScreen = 0;
-    loading->hide();
     shape->hide();
     for (QLabel* clickable : {title, label})
         clickable->unsetCursor();

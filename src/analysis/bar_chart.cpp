@@ -121,7 +121,6 @@ void BarChart::Paint(QPainter& painter) const
 
 void BarChart::mouseMoveEvent(QMouseEvent* event)
 {
-    QWidget::mouseMoveEvent(event);
     if (bars.empty())
         return;
     const QRectF plot = LayOutChart(bars, size()).plot;

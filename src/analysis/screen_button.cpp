@@ -28,7 +28,6 @@ ScreenButton::ScreenButton(const Game& drawGame, const AnalysisScreen& shownScre
     setText(screen.title);
     setAccessibleName(text());
     setAccessibleDescription(screen.description);
-    setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

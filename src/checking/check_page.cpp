@@ -14,7 +14,6 @@
 #include "store/open_databases.h"
 #include "users/choices.h"
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QHBoxLayout>
@@ -42,14 +41,11 @@ void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRad
     frame->setObjectName(frameName);
     // The options stand level with the list on the card beside them.
     frame->setMinimumHeight(QComboBox().sizeHint().height());
-    auto* group = new QButtonGroup(card);
     auto* row = new QHBoxLayout(frame);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Spacing::Between);
-    for (QRadioButton* option : options) {
-        group->addButton(option);
+    for (QRadioButton* option : options)
         row->addWidget(option);
-    }
     row->addStretch(1);
     card->Content()->addWidget(frame);
 }

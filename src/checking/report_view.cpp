@@ -12,7 +12,6 @@ ReportView::ReportView(QWidget* parent) : QTextEdit(parent)
 {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setUndoRedoEnabled(false);
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::AlternateBase);
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);

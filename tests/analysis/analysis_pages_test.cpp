@@ -18,12 +18,13 @@ public:
         QTest::mouseMove(Find(ScreenName(screen)), place);
         QApplication::processEvents();
     }
-    /// What the chart window says that an action opens; meanwhile the page tells that it loads.
+    /// What the chart window says that an action opens; meanwhile the page tells that it loads, and nothing moves.
     QString ChartOf(const std::function<void()>& action)
     {
         QString described = "no chart";
-        modals.WillDo([&](QDialog& dialog) {
-            described = IsShown(Name("loading")) ? dialog.findChild<QLabel*>("description")->text() : "not loading";
+        modals.WillDo([&, screen = Find(ScreenName(1)), place = Find(ScreenName(1))->geometry()](QDialog& dialog) {
+            const bool loads = IsShown(Name("loading")) && screen->geometry() == place;
+            described = loads ? dialog.findChild<QLabel*>("description")->text() : "not loading";
             PressIn(dialog, "back");
         });
         action();

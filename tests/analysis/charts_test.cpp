@@ -133,12 +133,15 @@ private Q_SLOTS:
                 const int axisEnd = layout.axisNumbers.back().text.toInt();
                 const qreal unit = (layout.lines.front() - layout.lines.back()) / axisEnd;
                 QVERIFY(layout.axisNumbers.front().text == "0" && layout.axisNumbers.size() <= 8);
+                int highest = 1;
                 for (size_t bar = 0; bar < chart.size(); ++bar) {
                     const auto& [label, colour, value] = chart[bar];
+                    highest = qMax(highest, value);
                     QCOMPARE(layout.labels[bar].text + layout.figures[bar].text, label + QString::number(value));
                     QVERIFY(value <= axisEnd && qAbs(layout.bars[bar].height() - value * unit) < 1);
                     QVERIFY(qAbs(layout.bars[bar].bottom() - layout.lines.front()) <= 1);
                 }
+                QVERIFY(layout.axisNumbers[layout.axisNumbers.size() - 2].text.toInt() < highest);
                 for (const auto& part : {layout.labels, layout.figures, layout.axisNumbers}) {
                     QRectF before;
                     for (const ChartText& text : part) {
