@@ -51,7 +51,6 @@ GridView::GridView(const QString& name, const QString& accessibleName, QWidget* 
     setShowGrid(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
-    setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ContiguousSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

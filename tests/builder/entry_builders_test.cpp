@@ -108,7 +108,7 @@ private Q_SLOTS:
             for (int place = 1; const int number : DrawDifferentNumbers(20, random))
                 ++counts[{place++, number}];
         QCOMPARE(counts.size(), size_t{21 * HighestNumber});
-        for (const auto& [number, count] : counts)
+        for (const auto& [place, count] : counts)
             QVERIFY(qAbs(count - draws / HighestNumber) < draws / HighestNumber / 5);
     }
 };

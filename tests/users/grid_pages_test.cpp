@@ -183,6 +183,14 @@ private Q_SLOTS:
                 page.OfDraws() ? "The draw could not be shown, because another copy of the program has deleted it "
                                : "An unexpected error has occured,\r\nplease try again."));
             QCOMPARE(window.IsShown(page.shown), !page.OfDraws());
+            if (!page.OfDraws()) {
+                // The editor that has not shown an entry yet can be typed in and left.
+                window.Click("F19back");
+                window.Click("F13edit", {QMessageBox::Ok});
+                window.Type("F20num_1", "12");
+                window.PressFocused(Qt::Key_Tab);
+                QCOMPARE(window.ColoursOf("F20num", "13", QPalette::Base), QString("#80FFFF #404040"));
+            }
             window.OpenPage(page.group, 3);
             for (const int row : {1, 0}) {
                 grid.Click(row);
