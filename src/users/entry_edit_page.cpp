@@ -38,7 +38,6 @@ void EntryEditPage::Prepare()
     F20num->Show(entry.numbers);
     F20num->Field(last)->setAccessibleName(ShownGame().BallCaption(last));
     F20day->SetDays(entry.days);
-    ShowInFront();
     F20num->FocusField(0);
 }
 

@@ -43,7 +43,6 @@ void EntryViewPage::Prepare()
     balls->Show(ShownGame(), entry.numbers);
     days = entry.days;
     ColourDays();
-    ShowInFront();
 }
 
 void EntryViewPage::changeEvent(QEvent* event)
