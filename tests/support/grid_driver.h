@@ -15,13 +15,12 @@ public:
     }
 
     int Rows() const { return view->model()->rowCount(); }
-    QString Cell(int row, int column) const { return view->model()->index(row, column).data().toString(); }
     /// The cells of a row, joined by commas, from the given column on.
     QString Row(int row, int fromColumn = 0) const
     {
         QStringList cells;
         for (int column = fromColumn; column < view->model()->columnCount(); ++column)
-            cells.append(Cell(row, column));
+            cells.append(view->model()->index(row, column).data().toString());
         return cells.join(u',');
     }
     /// "first-last" of the selected rows.

@@ -113,12 +113,22 @@ private Q_SLOTS:
         }
     }
 
-    void OneRowIsSelectedToBeOpenedAndNoneIsDeletedWithoutAYes()
+    void GridIsWorkedByMouseAndKeys()
     {
         GridWindow window;
         for (const GridPage& page : Pages) {
             GridDriver grid = window.Open(page);
             QCOMPARE(grid.Selected(), QString("0-0"));
+            grid.Click(3);
+            QTest::mouseDClick(grid.view->viewport(), Qt::LeftButton, Qt::NoModifier, grid.Middle(3));
+            QCOMPARE(window.TextOf(page.shown), QString("2"));
+            window.PressFocused(Qt::Key_Escape);
+            grid.Click(1);
+            grid.Press(Qt::Key_Return);
+            QCOMPARE(window.TextOf(page.shown), QString("4"));
+            window.PressFocused(Qt::Key_Escape);
+            QVERIFY(!window.IsShown(page.shown));
+            QCOMPARE(grid.Selected() + window.FocusedName(), "1-1" + page.grid);
             grid.Drag(4, 3);
             for (const char* action : {"view", "edit"})
                 QCOMPARE(window.Click(page.Button(action), {QMessageBox::Ok}), {"Select only ONE draw."});
@@ -140,24 +150,6 @@ private Q_SLOTS:
             if (page.OfDraws())
                 QCOMPARE(window.Click(page.Button("view"), {}), QStringList());
             QCOMPARE(GridWindow::Stored(page), QString("1 2 3 4 5"));
-        }
-    }
-
-    void RowsAreOpenedByMouseAndKeysAndComeBack()
-    {
-        GridWindow window;
-        for (const GridPage& page : Pages) {
-            GridDriver grid = window.Open(page);
-            grid.Click(3);
-            QTest::mouseDClick(grid.view->viewport(), Qt::LeftButton, Qt::NoModifier, grid.Middle(3));
-            QCOMPARE(window.TextOf(page.shown), QString("2"));
-            window.PressFocused(Qt::Key_Escape);
-            grid.Click(1);
-            grid.Press(Qt::Key_Return);
-            QCOMPARE(window.TextOf(page.shown), QString("4"));
-            window.PressFocused(Qt::Key_Escape);
-            QVERIFY(!window.IsShown(page.shown));
-            QCOMPARE(grid.Selected() + window.FocusedName(), "1-1" + page.grid);
         }
     }
 
