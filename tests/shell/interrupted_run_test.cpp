@@ -11,8 +11,6 @@
 #include "utilities/database_file.h"
 #include "utilities/import.h"
 
-#include <QDir>
-
 #include <cerrno>
 #include <csignal>
 
@@ -28,15 +26,6 @@ constexpr int Stride = 1;
 #endif
 constexpr int BensEntries = 300;
 constexpr int Batch = 20;
-const QStringList TwoFiles{"drawdata.tv3", "userdata.tv3"};
-
-void CopyFiles(const QString& from, const QString& to)
-{
-    for (const QString& name : QDir(to).entryList(QDir::Files))
-        QFile::remove(QDir(to).filePath(name));
-    for (const QString& name : TwoFiles)
-        QFile::copy(QDir(from).filePath(name), QDir(to).filePath(name));
-}
 
 /// What players do from the start to the end; what was done and what failed is said.
 void Work(const std::filesystem::path& own, const Say& say)
@@ -100,8 +89,9 @@ private:
     static void NothingAcknowledgedIsLost(DiskFault fault, int error, int step)
     {
         const TestFolder folder(TestFolder::Content::Empty);
-        const QTemporaryDir before;
         const QTemporaryDir own;
+        const QTemporaryDir beforeAll;
+        const std::filesystem::path before = beforeAll.path().toStdString();
         const std::filesystem::path ownFolder = own.path().toStdString();
         OpenDatabaseFiles();
         StoreDraws(MainGame, {"2000-01-01,1,2,3,4,5,6,7,ARTHUR,1"});
@@ -109,14 +99,15 @@ private:
         AddUser(users, "Ben", BensEntries);
         StoreEntriesOfUser("Ben", std::vector<EntryRow>(BensEntries), {}, RaiseLimit::No);
         CloseDatabaseFiles();
-        CopyFiles(folder.Path({}), before.path());
+        std::filesystem::copy(ProgramDir, before);
         std::filesystem::copy(DrawDataPath, ownFolder / "good.tv3");
         RunSql(ownFolder / "good.tv3", DrawConnect, "UPDATE ukmain SET Machine = 'MERLIN'");
         int call = 1;
         int faults = 0;
         int acknowledged = 0;
         for (bool more = true; more; call += step * Stride, faults += more ? 1 : 0) {
-            CopyFiles(before.path(), folder.Path({}));
+            using Options = std::filesystem::copy_options;
+            std::filesystem::copy(before, ProgramDir, Options::overwrite_existing | Options::recursive);
             std::filesystem::remove(ownFolder / "copy.tv3");
             const Forked first = RunForked([&](const Say& say) {
                 PlanDiskFault(fault, call, error, {ProgramDir, ownFolder});
@@ -139,7 +130,7 @@ private:
             if (first.lines.contains("copied"))
                 InAnotherCopy(ownFolder / "copy.tv3", {}, UsersTable(),
                               [](RecordSet& copied) { QVERIFY(copied.Count() > 0); });
-            QVERIFY2(folder.Files() == TwoFiles, qPrintable(found));
+            QVERIFY2(folder.Files() == (QStringList{"drawdata.tv3", "userdata.tv3"}), qPrintable(found));
             if (!more)
                 QCOMPARE(first.lines.join(u' '), "opened draw batch user gone copied replaced none failed");
             // Only what is no part of storing, such as the syncing of a folder, may fail without a word.
