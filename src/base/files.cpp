@@ -34,7 +34,7 @@ void SyncFolder(const std::filesystem::path& folder)
 {
     // A folder that cannot be synced (some network disks) does not make the rename undone.
     const Descriptor directory(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.Number() >= 0)
+    if (directory.Number() != -1)
         ::fsync(directory.Number());
 }
 
@@ -42,7 +42,7 @@ void SyncFolder(const std::filesystem::path& folder)
 
 Descriptor::~Descriptor()
 {
-    if (descriptor >= 0)
+    if (descriptor != -1)
         ::close(descriptor);
 }
 
@@ -62,7 +62,7 @@ Descriptor OpenToRead(const std::filesystem::path& file)
     Descriptor opened(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat attributes = {};
     const std::string doing = "The file " + file.filename().string() + " could not be copied";
-    if (opened.Number() < 0 || ::fstat(opened.Number(), &attributes) != 0)
+    if (opened.Number() == -1 || ::fstat(opened.Number(), &attributes) != 0)
         throw Failure(doing, "it cannot be read", std::generic_category().message(errno));
     if (!S_ISREG(attributes.st_mode))
         throw Failure(doing, "it cannot be read", "not a regular file");
@@ -72,7 +72,7 @@ Descriptor OpenToRead(const std::filesystem::path& file)
 TemporaryFile::TemporaryFile(std::filesystem::path targetPath, std::filesystem::path file, int opened)
     : target(std::move(targetPath)), path(std::move(file)), descriptor(opened)
 {
-    if (opened < 0)
+    if (opened == -1)
         Fail(NotWritten(), errno);
 }
 
@@ -91,7 +91,7 @@ TemporaryFile TemporaryFile::Beside(const std::filesystem::path& target, const s
 
 TemporaryFile::~TemporaryFile()
 {
-    if (descriptor.Number() >= 0)
+    if (descriptor.Number() != -1)
         ::unlink(path.c_str());
 }
 
@@ -102,14 +102,15 @@ std::string TemporaryFile::NotWritten() const
 
 void TemporaryFile::CopyFrom(int source)
 {
-    std::array<char, 1 << 16> block{};
-    std::array<char, 1 << 16> written{};
+    constexpr std::size_t atOnce = 65536;
+    std::array<char, atOnce> block{};
+    std::array<char, atOnce> written{};
     for (off_t place = 0;;) {
         const ssize_t got = ::pread(source, block.data(), block.size(), place);
         if (got == 0)
             return;
-        const ssize_t put = got < 0 ? got : ::pwrite(Number(), block.data(), static_cast<size_t>(got), place);
-        if (put < 0)
+        const ssize_t put = got == -1 ? got : ::pwrite(Number(), block.data(), static_cast<size_t>(got), place);
+        if (put == -1)
             Fail(NotWritten(), errno);
         if (::pread(Number(), written.data(), static_cast<size_t>(put), place) != put ||
             !std::equal(block.begin(), block.begin() + put, written.begin()))

@@ -13,7 +13,7 @@ public:
     Descriptor(Descriptor&& other) noexcept;
     Descriptor& operator=(Descriptor&& other) noexcept;
 
-    /// Negative where nothing is open.
+    /// -1 where nothing is open.
     int Number() const { return descriptor; }
 
 private:
