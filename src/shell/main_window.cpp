@@ -13,7 +13,6 @@
 #include "shell/page_area.h"
 #include "utilities/start_and_end.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QScreen>
@@ -154,8 +153,7 @@ bool MainWindow::focusNextPrevChild(bool next)
     return true;
 }
 
-void MainWindow::closeEvent(QCloseEvent* event)
+void MainWindow::closeEvent(QCloseEvent* /*event*/)
 {
     CloseAndCompact();
-    event->accept();
 }

@@ -52,7 +52,6 @@ MenuColumn::MenuColumn(QWidget* parent)
         connect(label, &QAbstractButton::clicked, this, [this, number] { Q_EMIT SuboptionClicked(number); });
         suboptions.append(label);
     }
-    LayOut(0);
 }
 
 void MenuColumn::LayOut(int openGroup)

@@ -40,7 +40,6 @@ LinkLabel::LinkLabel(const QString& name) : ClickLabel({})
     QAccessible::installFactory(MakeAccessibleLinkLabel);
     setObjectName(name);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    TakeColour();
 }
 
 void LinkLabel::ShowText(const QString& text, bool asLink, const QString& caption)
