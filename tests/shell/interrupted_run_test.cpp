@@ -55,20 +55,17 @@ void Work(const std::filesystem::path& own, const Say& say)
 /// What the files hold of it: a thing is done wholly, or not, or only half.
 QStringList StoredFacts()
 {
-    QMap<QString, int> entriesOf;
-    for (const QString& entry : TestFolder::StoredRows("entries"))
-        ++entriesOf[entry.section(u',', 1, 1)];
-    const QStringList people = TestFolder::StoredRows("users");
-    const QStringList draws = TestFolder::StoredRows("ukmain");
-    const bool imported = draws.join(u',').contains("MERLIN");
+    ukmain.MoveFirst();
+    const bool imported = ukmain.Text(DrawField::Machine) == "MERLIN";
+    const int ofAnn = CountEntries(entries, 1);
+    const int ofBen = CountEntries(entries, 2);
     const auto fact = [](const char* done, bool none, bool whole) {
         return done + QString(none ? "=no" : whole ? "=yes" : "=half");
     };
-    return {fact("draw", draws.size() == 1 && !imported, draws.size() == 2 || imported),
-            fact("batch", entriesOf["1"] == 0, entriesOf["1"] == Batch),
-            fact("user gone", people.size() == 2 && entriesOf["2"] == BensEntries,
-                 people == QStringList{"1,Ann,20"} && entriesOf["2"] == 0),
-            fact("replaced", !imported, draws.size() == 1)};
+    return {fact("draw", ukmain.Count() == 1 && !imported, ukmain.Count() == 2 || imported),
+            fact("batch", ofAnn == 0, ofAnn == Batch),
+            fact("user gone", users.Count() == 2 && ofBen == BensEntries, users.Count() == 1 && ofBen == 0),
+            fact("replaced", !imported, ukmain.Count() == 1)};
 }
 
 } // namespace

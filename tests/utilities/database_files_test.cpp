@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
     }
 
-    void WhatTheSystemRefusesIsToldInWords()
+    void TemporaryFileIsThePlayersOwnOrToldInWords()
     {
         const ClosedFiles files;
         for (const auto& [name, reason] :
@@ -131,6 +131,8 @@ private Q_SLOTS:
               {"userdata.tv3/x", "the disk reported an error"},
               {std::string(256, 'n'), "its name is too long"}})
             QCOMPARE(ReasonOf([path = ProgramDir / name] { const TemporaryFile made(path); }), QString(reason));
+        const TemporaryFile made(ProgramDir / "new");
+        QCOMPARE(std::filesystem::status(made.Path()).permissions(), std::filesystem::perms{0600});
     }
 
     void BadFileIsNotTaken()
