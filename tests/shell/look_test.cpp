@@ -139,6 +139,20 @@ private Q_SLOTS:
         }
     }
 
+    /// Shaping a text of megabytes would take seconds.
+    void OfALongTextTheBeginningIsDrawn()
+    {
+        const auto draw = [](auto&& shown, int length) {
+            shown.addItem(QString(length, 'I'));
+            shown.resize(20000, 60);
+            return shown.grab().toImage();
+        };
+        const auto inList = [&draw](int length) { return draw(QListWidget(), length); };
+        const auto inBox = [&draw](int length) { return draw(QComboBox(), length); };
+        QVERIFY(inList(999) != inList(1000) && inList(1000) == inList(1001));
+        QVERIFY(inBox(999) != inBox(1000) && inBox(1000) == inBox(1001));
+    }
+
 private:
     static void LookAtAll(bool dark)
     {
