@@ -155,6 +155,17 @@ private Q_SLOTS:
             }
     }
 
+    void LongFigureIsReadFromTheBottomUpwards()
+    {
+        ShownChart shown(1);
+        const ChartLayout layout = LayOutChart(CountBars(FindChart(1), BallType::AllBalls), shown.Graph()->size());
+        QRect lastDigit = layout.figures.front().Place().toRect();
+        lastDigit.setHeight(4);
+        const QPoint place = shown.Graph()->mapTo(&shown.window, QPoint());
+        const QImage picture = shown.window.grab({place, shown.Graph()->size()}).toImage();
+        QVERIFY(layout.figures.front().turned && StrongestIn(picture, lastDigit) > 80);
+    }
+
     void BarsAndTextsCanBeSeenCopiedAndPointedAt()
     {
         ShownChart shown(2);
