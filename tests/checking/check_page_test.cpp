@@ -53,9 +53,7 @@ private Q_SLOTS:
     {
         // A thunderball that equals a main ball is no main match, nor the other way round.
         const std::tuple<int, std::array<double, 6>, QString> rows[] = {
-            {1, {11, 12, 13, 14, 15, 16}, "  0 main balls. "},
             {1, {7, 12, 13, 14, 15, 16}, "  0 main balls + bonus. "},
-            {1, {6, 12, 13, 14, 15, 16}, "  1 main ball. "},
             {1, {1, 2, 13, 14, 15, 7}, "  2 main balls + bonus. "},
             {1, {1, 2, 3, 14, 15, 16}, "  3 main balls. <<WIN>>"},
             {1, {1, 2, 3, 4, 5, 7}, "  5 main balls + bonus. <<WIN>>"},
