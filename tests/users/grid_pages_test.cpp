@@ -2,6 +2,7 @@
 #include "support/raw_file.h"
 
 #include <QClipboard>
+#include <QScrollBar>
 
 namespace {
 
@@ -92,6 +93,20 @@ class GridPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void ColumnsShareTheWidth()
+    {
+        GridWindow window;
+        window.Open(Pages[0]);
+        window.Window().resize(1131, 720);
+        QApplication::processEvents();
+        for (const auto& [name, last, lastPart] : {std::tuple("F10Grid1", 8, 9.3), {"F10Grid2", 7, 4.65}}) {
+            const auto* view = window.Find<GridView>(name);
+            const double available = view->contentsRect().width() - view->verticalScrollBar()->sizeHint().width();
+            for (const auto& [column, part] : {std::pair(0, 7.0), {1, 11.3}, {2, 9.2}, {last, lastPart}})
+                QVERIFY(qAbs(view->columnWidth(column) - available / part) <= 1);
+        }
+    }
+
     /// The focus of an emptied grid stays on the page: in the menu Enter would leave it.
     void SelectedRowsAreDeleted()
     {
