@@ -22,5 +22,8 @@ inline const char* const FirstUserFile = "first_user.tv3";
 /// Makes the files of a history in a folder, always the same ones for the same size.
 void MakeData(const DataSize& size, const std::filesystem::path& starter, const std::filesystem::path& folder);
 
+/// As many lines as a player may have built at once.
+inline constexpr int BuiltLines = 200;
+
 /// Lines as the entry generator builds them.
 std::vector<EntryRow> MakeLines(int count);

@@ -1,5 +1,6 @@
 #include "rows.h"
 
+#include "bench_data.h"
 #include "player.h"
 #include "shell/main_window.h"
 #include "store/open_databases.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr double FrameMilliseconds = 16;
 constexpr size_t ShownSteps = 10;
-constexpr int BuiltLines = 200;
 
 struct TimedStep
 {

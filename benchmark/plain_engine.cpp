@@ -16,7 +16,7 @@ struct Finalize
 };
 using Prepared = std::unique_ptr<sqlite3_stmt, Finalize>;
 
-bool Step(sqlite3_stmt* statement)
+bool TakeStep(sqlite3_stmt* statement)
 {
     const int code = sqlite3_step(statement);
     if (code != SQLITE_ROW && code != SQLITE_DONE)
@@ -73,7 +73,7 @@ std::int64_t PlainFile::ReadAll(const std::string& sql)
     const int columns = sqlite3_column_count(query.get());
     std::int64_t rows = 0;
     volatile std::int64_t read = 0;
-    for (; Step(query.get()); ++rows)
+    for (; TakeStep(query.get()); ++rows)
         for (int column = 0; column < columns; ++column)
             read = read + ReadField(query.get(), column);
     return rows;
@@ -83,7 +83,7 @@ std::vector<std::int64_t> PlainFile::FirstRow(const std::string& sql)
 {
     const Prepared query(Prepare(sql));
     std::vector<std::int64_t> row;
-    if (Step(query.get()))
+    if (TakeStep(query.get()))
         for (int column = 0; column < sqlite3_column_count(query.get()); ++column)
             row.push_back(sqlite3_column_int64(query.get(), column));
     return row;
@@ -102,7 +102,7 @@ void PlainFile::Insert(std::span<const EntryRow> entries)
             sqlite3_bind_int64(insert, ++parameter, static_cast<std::int64_t>(number));
         for (const bool day : entry.days)
             sqlite3_bind_int64(insert, ++parameter, day ? -1 : 0);
-        Step(insert);
+        TakeStep(insert);
         sqlite3_reset(insert);
     }
     Run("COMMIT");

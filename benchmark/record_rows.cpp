@@ -22,8 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int BuiltLines = 200;
-
 std::shared_ptr<PlainFile> OpenPlainly(const std::filesystem::path& file, const std::string& connect)
 {
     return std::make_shared<PlainFile>(file, connect.empty() ? std::string() : KeyOf(file, PasswordOf(connect)));
@@ -37,12 +35,12 @@ CheckedDraw NewestMainDraw()
 }
 
 /// Played entries, matches of main balls, matches of the bonus ball.
-using Counting = std::vector<std::int64_t>;
+using WinCounts = std::vector<std::int64_t>;
 
-Counting CompareAll(const CheckedDraw& draw)
+WinCounts CompareAll(const CheckedDraw& draw)
 {
     const auto day = static_cast<size_t>(DaySetIndex(draw.date));
-    Counting counting(3);
+    WinCounts counting(3);
     for (const EntryRow& entry : ReadAllEntries(entries)) {
         if (entry.drawType != MainGame.drawType || !entry.days.at(day))
             continue;

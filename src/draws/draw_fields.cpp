@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QComboBox* MakeList(const QString& name, const QString& accessibleName)
+QComboBox* MakeTypedList(const QString& name, const QString& accessibleName)
 {
     auto* list = new QComboBox;
     list->setObjectName(name);
@@ -56,8 +56,8 @@ DrawFields::DrawFields(const Game& drawGame, const BallFieldRule& rule, const Na
 
 void DrawFields::AddLists(const Names& names)
 {
-    machine = MakeList(names.machine, u"Machine"_s);
-    ballSet = MakeList(names.ballSet, u"Set of Balls"_s);
+    machine = MakeTypedList(names.machine, u"Machine"_s);
+    ballSet = MakeTypedList(names.ballSet, u"Set of Balls"_s);
     auto* form = new QGridLayout;
     form->setHorizontalSpacing(Spacing::Page);
     form->setVerticalSpacing(Spacing::Between);

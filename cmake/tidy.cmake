@@ -1,0 +1,38 @@
+# What clang-tidy reads: the files of several folders as one source, for nearly all of its time goes into the toolkit's
+# headers, once for each source. No two files of such a group may use one name for different things.
+set(sources)
+function(read_together name)
+  set(content "")
+  foreach(pattern ${ARGN})
+    file(GLOB files CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${pattern}/*.cpp")
+    foreach(file ${files})
+      # Several of them are programs.
+      string(MAKE_C_IDENTIFIER "${file}" main)
+      string(APPEND content "#define main Main${main}\n#include \"${file}\"\n#undef main\n")
+    endforeach()
+  endforeach()
+  file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/tidy/${name}.cpp" CONTENT "${content}" @ONLY)
+  list(APPEND sources "${CMAKE_BINARY_DIR}/tidy/${name}.cpp")
+  set(sources "${sources}" PARENT_SCOPE)
+endfunction()
+
+read_together(ground src/base src/game src/records src/store src/look src/controls src/balls)
+read_together(draws_to_analysis src/draws src/checking src/analysis)
+read_together(users_to_builder src/users src/builder src/utilities)
+read_together(shell src/shell tools packaging)
+read_together(benchmark benchmark)
+read_together(tests tests/base tests/records tests/checking tests/analysis tests/utilities)
+read_together(page_tests tests/draws tests/users tests/builder tests/tools)
+read_together(shell_tests tests/shell tests/support)
+
+add_library(read_by_tidy OBJECT EXCLUDE_FROM_ALL ${sources})
+set_target_properties(read_by_tidy PROPERTIES AUTOMOC OFF UNITY_BUILD OFF)
+target_link_libraries(read_by_tidy PRIVATE tavenor_test_support tavenor_walk sqlcipher_engine Qt6::DBus)
+foreach(folder benchmark tests)
+  get_property(targets DIRECTORY "${CMAKE_SOURCE_DIR}/${folder}" PROPERTY BUILDSYSTEM_TARGETS)
+  foreach(target ${targets})
+    target_include_directories(read_by_tidy PRIVATE "${CMAKE_BINARY_DIR}/${folder}/${target}_autogen/include")
+  endforeach()
+endforeach()
+target_compile_definitions(read_by_tidy PRIVATE TAVENOR_STARTER="" TAVENOR_APPROVED="" TAVENOR_PROGRAM=""
+  TAVENOR_MAKE_DATABASES="" TAVENOR_DATA="" BENCH_PLUGINS="" BENCH_PROGRAM="" BENCH_BARE_WINDOW="" BENCH_STARTER="")
