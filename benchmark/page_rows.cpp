@@ -115,7 +115,7 @@ Row GridsRow(MainWindow& window, Lists lists)
     };
     const bool onFile = lists == Lists::OnFile;
     return {onFile ? u"page 10 filled, lists read from the file"_s : u"page 10 filled again"_s,
-            onFile ? Bounds{1.5, 1.5} : Bounds{1.2, 0.8},
+            onFile ? Bounds{1.5, 1.5} : Bounds{2.2, 0.8},
             [&window, prepare] {
                 PageFrame* page = window.Page(10);
                 prepare();
