@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QMap>
 #include <QMessageBox>
 #include <QMetaEnum>
@@ -44,11 +43,11 @@ inline QString OwnColours(const QWidget& widget)
     const bool isField = widget.inherits("QLineEdit");
     const auto text = isField ? QPalette::Text : widget.foregroundRole();
     const auto ground = isField ? QPalette::Base : widget.backgroundRole();
-    const auto own = [&widget](QPalette::ColorRole role) { return widget.palette().color(role); };
-    const auto isOwn = [&](QPalette::ColorRole role) { return own(role) != QApplication::palette().color(role); };
-    return isOwn(text) || isOwn(ground)        ? own(text).name() + " on " + own(ground).name()
-           : text == QPalette::PlaceholderText ? "pale"
-                                               : QString();
+    const QPalette own = widget.palette();
+    const QPalette theme = QApplication::palette();
+    if (own.color(text) == theme.color(text) && own.color(ground) == theme.color(ground))
+        return text == QPalette::PlaceholderText ? "pale" : "";
+    return own.color(text).name() + " on " + own.color(ground).name();
 }
 
 /// A line that tells what a control is to those who see it, hear it and work it by keyboard.
@@ -90,9 +89,6 @@ inline QStringList LinesOf(const QWidget& shown)
                       Quoted(shown.isWindow() ? shown.windowTitle() : shown.accessibleName())};
     if (const auto* box = qobject_cast<const QMessageBox*>(&shown))
         lines.append(QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon()));
-    // What the toolkit's own window holds are the folders of the computer.
-    if (const auto* dialog = qobject_cast<const QFileDialog*>(&shown))
-        return lines << dialog->nameFilters() << dialog->selectedFiles().constLast().section('/', -1);
     QList<QWidget*> others = ShownWidgets(shown);
     for (QWidget* next = shown.nextInFocusChain(); next != &shown; next = next->nextInFocusChain())
         if (TakesTab(*next) && others.removeOne(next))
@@ -127,10 +123,8 @@ private:
     {
         const QStringList lines = LinesOf(shown);
         const QStringList before = std::exchange(last[file], lines);
-        QStringList changed;
-        for (const QString& line : lines)
-            if (!before.contains(line))
-                changed.append(line);
+        QStringList changed = lines;
+        changed.removeIf([&before](const QString& line) { return before.contains(line); });
         for (const QString& line : before)
             if (!lines.contains(line))
                 changed.append("- " + line.section('"', 0, 1));
