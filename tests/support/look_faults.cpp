@@ -51,11 +51,6 @@ bool IsOneOf(const QWidget* widget)
     return ((qobject_cast<const Kinds*>(widget) != nullptr) || ...);
 }
 
-bool IsWholeInSight(const QWidget& widget)
-{
-    return widget.visibleRegion().boundingRect() == widget.rect();
-}
-
 bool Fits(const QSize& needed, const QSize& given)
 {
     return needed.width() <= given.width() && needed.height() <= given.height();
@@ -85,10 +80,9 @@ bool CellsFit(const QAbstractItemView& view)
 
 bool TextFits(const QWidget& widget)
 {
-    constexpr QSize arrow(40, 0);
+    const QSize arrow(IsOneOf<QComboBox>(&widget) ? 40 : 0, 0);
     if (IsOneOf<QLineEdit, QComboBox>(&widget))
-        return Fits(widget.fontMetrics().size(0, ReadText(widget)),
-                    IsOneOf<QComboBox>(&widget) ? widget.size() - arrow : widget.size());
+        return Fits(widget.fontMetrics().size(0, ReadText(widget)), widget.size() - arrow);
     if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget); view != nullptr && !CellsFit(*view))
         return false;
     if (const auto* area = qobject_cast<const QAbstractScrollArea*>(&widget);
@@ -151,13 +145,6 @@ QRect RingIn(const QImage& picture, const QImage& other, const QRect& inner, QRg
                 Contrast(ring, other.pixel(x, y)) >= OutlineContrast)
                 enclosing |= QRect(x, y, 1, 1);
     return enclosing;
-}
-
-/// Whether a control is filled with the colour in which others are ringed; its own ring is seen by the gap inside it.
-bool IsFilled(const QWidget& widget)
-{
-    const QVariant told = widget.property(AccentProperty);
-    return (told.isValid() ? told : widget.property("default")).toBool();
 }
 
 /// Looks at what a screen reader finds in an object that is showing, and in all that it holds.
@@ -231,7 +218,7 @@ QStringList ContrastFaults(QWidget& window)
     QStringList faults;
     const QImage picture = window.grab().toImage();
     for (QWidget* widget : ShownWidgets(window)) {
-        if (!widget->isEnabled() || !IsWholeInSight(*widget))
+        if (!widget->isEnabled() || widget->visibleRegion().boundingRect() != widget->rect())
             continue;
         const auto check = [&](const QRect& place, double least, const QString& what) {
             if (!place.isEmpty() && StrongestContrast(picture.copy(place & picture.rect())) < least)
@@ -264,14 +251,13 @@ QStringList FocusFaults(QWidget& window)
     window.activateWindow();
     QApplication::processEvents();
     for (QWidget* widget : ShownWidgets(window)) {
-        if (!TakesTab(*widget) || !IsWholeInSight(*widget))
+        if (!TakesTab(*widget) || widget->visibleRegion().boundingRect() != widget->rect())
             continue;
         // In a field and a list the cursor and the selection change too. The ring of a field on a ball is the ball's.
-        constexpr int ring = 4;
         const bool onBall = IsOneOf<BallDisc>(widget->parentWidget());
         const QWidget& ringed = onBall ? *widget->parentWidget() : *widget;
         const QRect place = PlaceOf(ringed) & window.rect();
-        const int edge = onBall ? 0 : ring;
+        const int edge = onBall ? 0 : 4;
         const QRect inner = IsOneOf<QLineEdit, QAbstractItemView>(widget)
                                 ? PlaceOf(*widget).adjusted(edge, edge, -edge, -edge).translated(-place.topLeft())
                                 : QRect();
@@ -279,7 +265,9 @@ QStringList FocusFaults(QWidget& window)
             IsOneOf<MenuColumn>(widget->parentWidget()) ? CurrentTheme().menuText : CurrentTheme().accent;
         window.setFocus(forAWhile);
         QImage without = window.grab(place).toImage();
-        const bool filled = IsFilled(*widget);
+        // What is filled with the colour of the ring shows it by the gap inside.
+        const QVariant accent = widget->property(AccentProperty);
+        const bool filled = (accent.isValid() ? accent : widget->property("default")).toBool();
         widget->setFocus(forAWhile);
         QImage with = window.grab(place).toImage();
         if (filled)

@@ -3,7 +3,6 @@
 #include "records/engine.h"
 #include "utilities/start_and_end.h"
 
-#include <QDir>
 #include <QListView>
 
 #include <sqlite3.h>
@@ -14,25 +13,6 @@ ModalWindows::ModalWindows()
 {
     timer.callOnTimeout([this] { Look(); });
     timer.start(2);
-}
-
-void ModalWindows::WillPress(QMessageBox::StandardButton button, std::function<void()> look)
-{
-    expected.emplace_back([button, look = std::move(look)](QDialog& dialog) {
-        if (look)
-            look();
-        const auto* box = qobject_cast<QMessageBox*>(&dialog);
-        QVERIFY2(box != nullptr && box->button(button) != nullptr, "Another window was foreseen");
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-    });
-}
-
-QStringList ModalWindows::TakeTexts()
-{
-    QStringList texts;
-    for (const SeenBox& box : TakeSeen())
-        texts.append(box.text);
-    return texts;
 }
 
 void ModalWindows::Look()
@@ -63,9 +43,8 @@ TestFolder::TestFolder(Content content)
 {
     SetProgramDir(folder.path().toStdString());
     if (content == Content::Starter) {
-        for (const char* name : {"drawdata.tv3", "userdata.tv3"})
-            QFile::copy(QStringLiteral(TAVENOR_STARTER "/") + QLatin1String(name),
-                        folder.filePath(QLatin1String(name)));
+        for (const QString& name : {u"drawdata.tv3"_s, u"userdata.tv3"_s})
+            QFile::copy(QStringLiteral(TAVENOR_STARTER "/") + name, folder.filePath(name));
         return;
     }
     // One file serves all tests of a program, so that its key is derived once.
@@ -81,11 +60,6 @@ TestFolder::~TestFolder()
 {
     DrawDb.Close();
     UserDb.Close();
-}
-
-QStringList TestFolder::Files() const
-{
-    return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
 }
 
 QStringList TestFolder::StoredRows(const QString& table)
@@ -106,14 +80,6 @@ QStringList TestFolder::StoredRows(const QString& table)
     };
     sqlite3_exec(engine.get(), qPrintable("SELECT * FROM " + table), append, &rows, nullptr);
     return rows;
-}
-
-QString TestFolder::StoredNumbers(const QString& table)
-{
-    QStringList numbers;
-    for (const QString& row : StoredRows(table))
-        numbers.append(row.section(u',', 0, 0));
-    return numbers.join(u' ');
 }
 
 TestWindow::TestWindow(TestFolder::Content content) : files(content)
@@ -142,55 +108,6 @@ void TestWindow::Settle()
     }
 }
 
-QString TestWindow::TextsOf(const QStringList& names) const
-{
-    QStringList texts;
-    for (const QString& name : names)
-        texts.append(TextOf(name));
-    return texts.join(u'|');
-}
-
-QString TestWindow::TextsOf(const QString& array, const QString& elements) const
-{
-    QStringList texts;
-    for (const QChar element : elements)
-        texts.append(TextOf(array + u'_' + element));
-    return texts.join(u' ');
-}
-
-void TestWindow::Click(const QString& name)
-{
-    QTest::mouseClick(Find(name), Qt::LeftButton);
-    Settle();
-}
-
-QStringList TestWindow::Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers)
-{
-    for (const auto answer : answers)
-        modals.WillPress(answer);
-    Click(name);
-    return modals.TakeTexts();
-}
-
-void TestWindow::Type(const QString& name, const QString& text)
-{
-    auto* edit = Find<QLineEdit>(name);
-    QTest::mouseClick(edit, Qt::LeftButton);
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, text);
-}
-
-void TestWindow::TypeInTurn(const QString& firstField, const QStringList& texts)
-{
-    Type(firstField, texts.first());
-    PressFocused(Qt::Key_Return);
-    for (const QString& text : texts.mid(1)) {
-        QTest::keyClicks(QApplication::focusWidget(), text);
-        PressFocused(Qt::Key_Return);
-    }
-}
-
 void TestWindow::Choose(const QString& list, int item)
 {
     auto* combo = Find<QComboBox>(list);
@@ -201,30 +118,4 @@ void TestWindow::Choose(const QString& list, int item)
         QTest::keyClick(combo->view(), Qt::Key_Down);
     QTest::keyClick(combo->view(), Qt::Key_Return);
     Settle();
-}
-
-void TestWindow::OpenPage(int group, int suboption)
-{
-    Click(QString("Button%1").arg(group));
-    Click(QString("Suboption%1").arg(suboption));
-}
-
-void TestWindow::Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyClick(Find(name), key, modifiers);
-    Settle();
-}
-
-void TestWindow::PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    Settle();
-}
-
-QString TestWindow::ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const
-{
-    QStringList colours;
-    for (const QChar element : elements)
-        colours.append(ColourOf(array + u'_' + element, role).name().toUpper());
-    return colours.join(u' ');
 }

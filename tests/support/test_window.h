@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -43,7 +44,16 @@ public:
     ModalWindows();
 
     /// The next modal window is a message box, and this button of it is pressed, after a look at what it covers.
-    void WillPress(QMessageBox::StandardButton button, std::function<void()> look = {});
+    void WillPress(QMessageBox::StandardButton button, std::function<void()> look = {})
+    {
+        expected.emplace_back([button, look = std::move(look)](QDialog& dialog) {
+            if (look)
+                look();
+            const auto* box = qobject_cast<QMessageBox*>(&dialog);
+            QVERIFY2(box != nullptr && box->button(button) != nullptr, "Another window was foreseen");
+            QTest::mouseClick(box->button(button), Qt::LeftButton);
+        });
+    }
     /// The next modal window is a dialog of the program's own; the action works in it and closes it.
     void WillDo(std::function<void(QDialog&)> action) { expected.push_back(std::move(action)); }
 
@@ -54,7 +64,13 @@ public:
     /// The message boxes seen since this was last asked.
     QList<SeenBox> TakeSeen() { return std::exchange(seen, {}); }
     /// Their texts only.
-    QStringList TakeTexts();
+    QStringList TakeTexts()
+    {
+        QStringList texts;
+        for (const SeenBox& box : TakeSeen())
+            texts.append(box.text);
+        return texts;
+    }
     /// Whether every foreseen window has come.
     bool AllCame() const { return expected.empty(); }
 
@@ -80,16 +96,20 @@ public:
 
     explicit TestFolder(Content content);
     ~TestFolder();
-    TestFolder(const TestFolder&) = delete;
-    TestFolder& operator=(const TestFolder&) = delete;
 
     QString Path(const QString& file) const { return folder.filePath(file); }
-    QStringList Files() const;
+    QStringList Files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
 
     /// Every row of a table, as the file holds it, read by a connection of its own: fields joined by commas.
     static QStringList StoredRows(const QString& table);
     /// The number, which is the first field, of every row of a table, joined by blanks.
-    static QString StoredNumbers(const QString& table);
+    static QString StoredNumbers(const QString& table)
+    {
+        QStringList numbers;
+        for (const QString& row : StoredRows(table))
+            numbers.append(row.section(u',', 0, 0));
+        return numbers.join(u' ');
+    }
 
 private:
     QTemporaryDir folder;
@@ -102,8 +122,6 @@ class TestWindow
 public:
     explicit TestWindow(TestFolder::Content content = TestFolder::Content::Empty);
     ~TestWindow();
-    TestWindow(const TestWindow&) = delete;
-    TestWindow& operator=(const TestWindow&) = delete;
 
     MainWindow& Window() { return *window; }
     /// The control of that object name; the test fails where there is none.
@@ -117,30 +135,84 @@ public:
     }
     QString TextOf(const QString& name) const { return Find(name)->property("text").toString(); }
     /// The texts of several controls, with "|" between them.
-    QString TextsOf(const QStringList& names) const;
+    QString TextsOf(const QStringList& names) const
+    {
+        QStringList texts;
+        for (const QString& name : names)
+            texts.append(TextOf(name));
+        return texts.join(u'|');
+    }
     /// The texts of a control array's elements, with blanks between them; "1230" is element 1, 2, 3 and 0.
-    QString TextsOf(const QString& array, const QString& elements) const;
+    QString TextsOf(const QString& array, const QString& elements) const
+    {
+        QStringList texts;
+        for (const QChar element : elements)
+            texts.append(TextOf(array + u'_' + element));
+        return texts.join(u' ');
+    }
     bool IsShown(const QString& name) const { return Find(name)->isVisible(); }
-    void Click(const QString& name);
+    void Click(const QString& name)
+    {
+        QTest::mouseClick(Find(name), Qt::LeftButton);
+        Settle();
+    }
     /// Clicks a control and answers the message boxes that follow, in order; what they said comes back.
-    QStringList Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers);
+    QStringList Click(const QString& name, std::initializer_list<QMessageBox::StandardButton> answers)
+    {
+        for (const auto answer : answers)
+            modals.WillPress(answer);
+        Click(name);
+        return modals.TakeTexts();
+    }
     /// Clicks into a text field, replaces its text by typing, and leaves it alone.
-    void Type(const QString& name, const QString& text);
+    void Type(const QString& name, const QString& text)
+    {
+        auto* edit = Find<QLineEdit>(name);
+        QTest::mouseClick(edit, Qt::LeftButton);
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClicks(edit, text);
+    }
     /// Types the texts into the fields through which the Enter key leads, and presses it in the last one too.
-    void TypeInTurn(const QString& firstField, const QStringList& texts);
+    void TypeInTurn(const QString& firstField, const QStringList& texts)
+    {
+        Type(firstField, {});
+        for (const QString& text : texts) {
+            QTest::keyClicks(QApplication::focusWidget(), text);
+            PressFocused(Qt::Key_Return);
+        }
+    }
     /// Chooses an item of a list as a player does, also when it is chosen already.
     void Choose(const QString& list, int item);
     /// Chooses a group of the menu and one of its sub-options.
-    void OpenPage(int group, int suboption);
-    void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void OpenPage(int group, int suboption)
+    {
+        Click(QString("Button%1").arg(group));
+        Click(QString("Suboption%1").arg(suboption));
+    }
+    void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(Find(name), key, modifiers);
+        Settle();
+    }
+    void PressFocused(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        Settle();
+    }
     QString FocusedName() const
     {
         return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
     }
     QColor ColourOf(const QString& name, QPalette::ColorRole role) const { return Find(name)->palette().color(role); }
     /// The same of a control array's elements, as "#RRGGBB" with blanks between them.
-    QString ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const;
+    QString ColoursOf(const QString& array, const QString& elements, QPalette::ColorRole role) const
+    {
+        QStringList colours;
+        for (const QChar element : elements)
+            colours.append(ColourOf(array + u'_' + element, role).name().toUpper());
+        return colours.join(u' ');
+    }
 
     TestFolder files;
     ModalWindows modals;
