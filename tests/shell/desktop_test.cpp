@@ -160,6 +160,20 @@ private Q_SLOTS:
         }
     }
 
+    void ButtonsOfMessageBoxesLookLikeThoseOfThePages()
+    {
+        QMessageBox box(QMessageBox::NoIcon, {}, "Text", QMessageBox::Yes | QMessageBox::No);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QAbstractButton* yes = box.button(QMessageBox::Yes);
+        QCOMPARE(yes->font().weight(), int(QFont::DemiBold));
+        const QImage quiet = yes->grab().toImage();
+        QTest::keyPress(&box, Qt::Key_Alt);
+        QVERIFY(yes->grab().toImage() != quiet);
+        QTest::keyRelease(&box, Qt::Key_Alt);
+        QCOMPARE(yes->grab().toImage(), quiet);
+    }
+
     void KeysOfTheDesktopLeadToAFieldThatShowsIt()
     {
         TestWindow window;

@@ -3,6 +3,8 @@
 #include "support/shown_pages.h"
 #include "support/test_window.h"
 
+#include "controls/grid_model.h"
+#include "controls/grid_view.h"
 #include "look/theme.h"
 #include "walk.h"
 
@@ -80,6 +82,33 @@ private Q_SLOTS:
         QApplication::processEvents();
         narrow->move(list->geometry().center());
         QCOMPARE(kindsOfFaults(), QString("contrast, contrast, contrast, fit, fixed, overlap, ring, told"));
+    }
+
+    void AGridAsksForTheRoomOfWhatItShows()
+    {
+        GridModel model({{"Shown", 0.5}, {"Hidden, and longer than the others", 0}, {"Also shown", 0.5}});
+        GridModel same({{"Shown", 0.5}, {"Also shown", 0.5}});
+        GridView grid("grid", "Grid");
+        GridView other("other", "Other grid");
+        for (const auto& [view, rows] : {std::pair(&grid, &model), {&other, &same}}) {
+            view->setModel(rows);
+            view->SetColumnShares(rows->ColumnShares());
+        }
+        QCOMPARE(grid.minimumSizeHint(), other.minimumSizeHint());
+    }
+
+    /// Shaping a text of megabytes would take seconds.
+    void OfALongTextTheBeginningIsDrawn()
+    {
+        const auto draw = [](auto&& shown, int length) {
+            shown.addItem(QString(length, 'I'));
+            shown.resize(20000, 60);
+            return shown.grab().toImage();
+        };
+        const auto inList = [&draw](int length) { return draw(QListWidget(), length); };
+        const auto inBox = [&draw](int length) { return draw(QComboBox(), length); };
+        QVERIFY(inList(999) != inList(1000) && inList(1000) == inList(1001));
+        QVERIFY(inBox(999) != inBox(1000) && inBox(1000) == inBox(1001));
     }
 
     void EveryPageAndWindowInTheLight() { LookAtAll(false); }
