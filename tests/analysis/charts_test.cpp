@@ -91,18 +91,14 @@ private Q_SLOTS:
 
     void BallTypeChoosesPhraseAndCount()
     {
-        // What the words on the chart say of the chosen balls, and the first bar; the last one is of the main balls
-        // after another copy of the program has stored a draw.
-        const QStringList drawn{" drawn as a main ball, in", " drawn as a bonus ball, in", " drawn in"};
+        // What the words on the chart say of the chosen balls, and the first bar.
         for (const auto& [chart, phrases, firstBars] :
-             {std::tuple(1, drawn, QStringList{"1: 234", "1: 43", "1: 277", "1: 235"}),
-              {2, drawn, {"1 - 9: 2230", "1 - 9: 393", "1 - 9: 2623", "1 - 9: 2235"}},
+             {std::tuple(1, QStringList{" drawn as a main ball, in", " drawn as a bonus ball, in", " drawn in"},
+                         QStringList{"1: 234", "1: 43", "1: 277"}),
               {3,
                {" the main balls have been ", " the bonus ball has been ", " the lottery balls have been "},
-               {"Odd: 6354", "Odd: 1065", "Odd: 7419", "Odd: 6360"}},
-              {4,
-               {" drawn as a main ball.", " drawn as a bonus ball.", " drawn."},
-               {"1: 19", "1: 25", "1: 19", "1: 0"}}}) {
+               {"Odd: 6354", "Odd: 1065", "Odd: 7419"}},
+              {4, {" drawn as a main ball.", " drawn as a bonus ball.", " drawn."}, {"1: 19", "1: 25", "1: 19"}}}) {
             const ShownChart shown(chart);
             QCOMPARE(shown.window.focusWidget(), shown.BallTypes());
             for (const int type : {0, 1, 2}) {
@@ -110,11 +106,6 @@ private Q_SLOTS:
                 QVERIFY(shown.window.findChild<QLabel*>("description")->text().contains(phrases[type]));
                 QCOMPARE(shown.Bars().first(), firstBars[type]);
             }
-            InAnotherCopy(DrawDataPath, DrawConnect, DrawTable(MainGame), [](RecordSet& table) {
-                AddDraw(table, MainGame, {QDate(2026, 11, 21), {1, 3, 5, 7, 9, 11, 13}, {}, {}});
-            });
-            shown.BallTypes()->setCurrentIndex(0);
-            QCOMPARE(shown.Bars().first(), firstBars[3]);
         }
     }
 
@@ -132,38 +123,21 @@ private Q_SLOTS:
                 const ChartLayout layout = LayOutChart(chart, size);
                 const int axisEnd = layout.axisNumbers.back().text.toInt();
                 const qreal unit = (layout.lines.front() - layout.lines.back()) / axisEnd;
-                QVERIFY(layout.axisNumbers.front().text == "0" && layout.axisNumbers.size() <= 8);
-                int highest = 1;
                 for (size_t bar = 0; bar < chart.size(); ++bar) {
                     const auto& [label, colour, value] = chart[bar];
-                    highest = qMax(highest, value);
                     QCOMPARE(layout.labels[bar].text + layout.figures[bar].text, label + QString::number(value));
                     QVERIFY(value <= axisEnd && qAbs(layout.bars[bar].height() - value * unit) < 1);
-                    QVERIFY(qAbs(layout.bars[bar].bottom() - layout.lines.front()) <= 1);
                 }
-                QVERIFY(layout.axisNumbers[layout.axisNumbers.size() - 2].text.toInt() < highest);
                 for (const auto& part : {layout.labels, layout.figures, layout.axisNumbers}) {
                     QRectF before;
                     for (const ChartText& text : part) {
                         const QRectF place = text.Place();
                         QVERIFY2(QRectF(QPointF(), size).contains(place) && !place.intersects(before),
                                  qPrintable(text.text));
-                        QVERIFY2(text.font.pointSizeF() > 6, "too small to be read");
                         before = place;
                     }
                 }
             }
-    }
-
-    void LongFigureIsReadFromTheBottomUpwards()
-    {
-        ShownChart shown(1);
-        const ChartLayout layout = LayOutChart(CountBars(FindChart(1), BallType::AllBalls), shown.Graph()->size());
-        QRect lastDigit = layout.figures.front().Place().toRect();
-        lastDigit.setHeight(4);
-        const QPoint place = shown.Graph()->mapTo(&shown.window, QPoint());
-        const QImage picture = shown.window.grab({place, shown.Graph()->size()}).toImage();
-        QVERIFY(layout.figures.front().turned && StrongestIn(picture, lastDigit) > 80);
     }
 
     void BarsAndTextsCanBeSeenCopiedAndPointedAt()
@@ -186,8 +160,6 @@ private Q_SLOTS:
             for (const auto& part : {layout.labels, layout.figures, layout.axisNumbers})
                 for (const ChartText& text : part)
                     QVERIFY2(StrongestIn(picture, text.Place().toRect()) > 110, qPrintable(text.text));
-            // The white bar has an edge.
-            QVERIFY(StrongestIn(picture, QRect(qFloor(layout.bars[0].left()) - 1, feet[0].y(), 3, 1)) > 75);
         }
         for (const int bar : {0, 4, 2}) {
             QTest::mouseMove(shown.Graph(), feet[static_cast<size_t>(bar)]);

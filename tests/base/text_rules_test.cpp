@@ -51,10 +51,7 @@ private Q_SLOTS:
         for (const char* odd : {"2023-02-29", "1999-13-12", "1999-06-12 10:00", "1999--6-12", "", "yesterday!",
                                 "24-01-09", "2024-001-9", "2024-1-009", "2024-10", "20x4-01-09", "year-01-09"})
             QVERIFY2(!DateFromIso(odd).isValid() && StoredDateInWords(odd) == odd, odd);
-        QString days;
-        for (int day = 9; day <= 15; ++day)
-            days += ShortDayName(QDate(2024, 1, day));
-        QCOMPARE(days + StoredDateInWords("2000-02-05"), QString("TueWedThuFriSatSunMon5 February 2000"));
+        QCOMPARE(StoredDateInWords("2000-02-05"), QString("5 February 2000"));
     }
 };
 
