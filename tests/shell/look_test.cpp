@@ -6,8 +6,10 @@
 #include "controls/grid_model.h"
 #include "controls/grid_view.h"
 #include "look/theme.h"
+#include "shell/page_area.h"
 #include "walk.h"
 
+#include <QAccessible>
 #include <QFileDialog>
 #include <QVBoxLayout>
 
@@ -147,6 +149,7 @@ private:
         });
         walk.MainJob();
         walk.EverythingElse();
+        QCOMPARE(QAccessible::queryAccessibleInterface(window.findChild<PageArea*>())->childCount(), 1);
         for (auto page = seen.files.begin(); page != seen.files.end() && !dark; ++page)
             CompareApproved(page.key(), page.value());
     }
