@@ -49,7 +49,7 @@ void Work(const std::filesystem::path& own, const Say& say)
         if (const QString failed = CloseAndCompactFiles(); !failed.isEmpty())
             say("told: " + failed);
     }
-    say(DiskFaultCame() ? "a call failed" : "none failed");
+    say(DiskFaultCame ? "a call failed" : "none failed");
 }
 
 /// What the files hold of it: a thing is done wholly, or not, or only half.

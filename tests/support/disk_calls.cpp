@@ -14,13 +14,14 @@
 
 // Linked into a test program, these take the place of the system's own calls in all that the program and the engine do.
 
+bool DiskFaultCame = false;
+
 namespace {
 
 DiskFault Planned = DiskFault::Stop;
 int ChosenCall = 0;
 int CallsMade = 0;
 int Error = 0;
-bool Came = false;
 
 /// The bytes of a file as of its last sync.
 using Synced = std::shared_ptr<std::string>;
@@ -85,7 +86,7 @@ bool Fails(bool takesRoom = false)
         ::kill(::getpid(), SIGKILL);
     if (Planned == DiskFault::OneFailure ? CallsMade > ChosenCall : Error == ENOSPC && !takesRoom)
         return false;
-    Came = true;
+    DiskFaultCame = true;
     errno = Error;
     return true;
 }
@@ -106,12 +107,7 @@ void PlanDiskFault(DiskFault fault, int call, int error, const std::vector<std::
     ChosenCall = call;
     CallsMade = 0;
     Error = error;
-    Came = false;
-}
-
-bool DiskFaultCame()
-{
-    return Came;
+    DiskFaultCame = false;
 }
 
 extern "C" {
@@ -140,10 +136,7 @@ int fsync(int descriptor)
     return Fails() ? -1 : Sync(descriptor);
 }
 
-int fdatasync(int descriptor)
-{
-    return fsync(descriptor);
-}
+int fdatasync(int descriptor) __attribute__((alias("fsync")));
 
 int ftruncate64(int descriptor, off64_t length) noexcept
 {
@@ -158,9 +151,6 @@ ssize_t pwrite64(int descriptor, const void* bytes, size_t count, off64_t offset
     return ::syscall(SYS_pwrite64, descriptor, fails ? std::string(count, '\0').data() : bytes, count, offset);
 }
 
-ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset)
-{
-    return pwrite64(descriptor, bytes, count, offset);
-}
+ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset) __attribute__((alias("pwrite64")));
 
 } // extern "C"

@@ -21,4 +21,4 @@ enum class DiskFault
 void PlanDiskFault(DiskFault fault, int call, int error = 0, const std::vector<std::filesystem::path>& folders = {});
 
 /// Whether any call has failed.
-bool DiskFaultCame();
+extern bool DiskFaultCame;

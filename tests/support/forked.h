@@ -42,12 +42,7 @@ inline Forked RunForked(const std::function<void(const Say&)>& steps)
             const QByteArray bytes = line.toUtf8() + '\n';
             (void)!::write(ends[1], bytes.constData(), static_cast<size_t>(bytes.size()));
         };
-        try {
-            steps(say);
-        } catch (const std::exception& failure) {
-            say(u"thrown: "_s + QString::fromUtf8(failure.what()));
-            ::_exit(2);
-        }
+        steps(say);
         ::_exit(0);
     }
     ::close(ends[1]);

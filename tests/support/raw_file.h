@@ -13,8 +13,7 @@ inline void RunSql(const std::filesystem::path& file, const std::string& connect
     const std::string doing = "The test's own file could not be made";
     const Engine engine = OpenEngine(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, doing);
     const std::string password = PasswordOf(connect);
-    if (!password.empty())
-        sqlite3_key(engine.get(), password.data(), static_cast<int>(password.size()));
+    sqlite3_key(engine.get(), password.data(), static_cast<int>(password.size()));
     sqlite3_db_config(engine.get(), SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
     Execute(engine.get(), sql, doing);
 }
