@@ -18,6 +18,8 @@ std::function<void()> BeforeTheNextLook;
 /// One copy of the program: it opens, stores and ends again and again, and says which rows were stored.
 void UseFolder(unsigned seed, const Say& say)
 {
+    // No copy that another one forked has the time limit of that one.
+    ::alarm(60);
     std::mt19937 random(seed);
     for (int round = 0; round < 8; ++round) {
         OpenDatabaseFiles();
