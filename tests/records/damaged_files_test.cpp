@@ -165,7 +165,7 @@ bool EveryRuleWorks()
 /// Turns a bit of every eighth page that the engine has read and keeps in the clear, often in the page's head.
 void DamagePage(sqlite3_pcache* /*cache*/, sqlite3_pcache_page* page, int /*discard*/)
 {
-    static_cast<char*>(page->pBuf)[Below(Below(Page))] ^= static_cast<char>((Below(8) == 0 ? 1 : 0) << Below(8));
+    static_cast<quint8*>(page->pBuf)[Below(Below(Page))] ^= static_cast<quint8>((Below(8) == 0 ? 1 : 0) << Below(8));
 }
 
 } // namespace
@@ -224,7 +224,7 @@ int main(int count, char** arguments)
         most = std::max(most, taken);
         const bool works = walked.lines.value(1) == "worked"_L1;
         worked += works ? 1 : 0;
-        if (walked.signal != 0 || walked.code != 0 || taken > 256 * 1024 || (number == 0 && !works)) {
+        if (walked.signal != 0 || walked.code != 0 || taken > 256L * 1024 || (number == 0 && !works)) {
             ++failed;
             std::printf("Case %d, kind %d: %s, %ld KiB\n", number, kind, qPrintable(walked.Text()), taken);
         }
