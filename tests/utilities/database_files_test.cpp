@@ -170,8 +170,11 @@ private Q_SLOTS:
         otherCopy.Share(UserDataPath, "The other copy could not open the file");
         const QString copy = files.Own("copy.tv3");
         const auto theirBackup = TemporaryFile::Beside(copy.toStdString(), "userdata.tv3");
+        const QString theirs = files.folder.Path("userdata.tp2");
+        WriteBytes(theirs, "theirs");
         BackUp(UserDatabaseFile(), copy.toStdString());
-        QVERIFY(BytesOf(copy) == bytes && std::filesystem::exists(theirBackup.Path()));
+        QVERIFY(BytesOf(copy) == bytes && BytesOf(theirs) == "theirs");
+        QVERIFY(std::filesystem::exists(theirBackup.Path()));
         QCOMPARE(ReasonOf([&] { ImportFrom(copy); }),
                  QString("another copy of the program is using it, or it may not be changed"));
         QCOMPARE(files.Bytes()[1], bytes);
@@ -181,29 +184,37 @@ private Q_SLOTS:
 
     void UnfinishedChangeIsTakenBackBeforeTheFileIsReplaced()
     {
-        const ClosedFiles files;
-        const QString live = files.folder.Path("userdata.tv3");
-        const QString chosen = files.Own("chosen.tv3");
-        QFile::copy(live, chosen);
-        RunSql(chosen.toStdString(), {}, "UPDATE users SET UserName = 'New'");
-        // Another program is killed in the middle of a change that has reached the file already.
-        RunForked([](const Say&) {
-            const Engine engine = OpenEngine(UserDataPath, SQLITE_OPEN_READWRITE, "");
-            Execute(engine.get(),
-                    "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
-                    "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
-                    "");
-            ::kill(::getpid(), SIGKILL);
-        });
-        QVERIFY(QFile::exists(live + "-journal"));
-        Import import(UserDatabaseFile(), chosen.toStdString());
-        QVERIFY(!QFile::exists(live + "-journal"));
-        // Nobody opens a file whose import is not proved.
-        QCOMPARE(ReasonOf(OpenDatabaseFiles), QString("another program is using the file"));
-        import.Prove();
-        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
-        import.Complete();
-        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
+        // In the folder, or where a link in it leads to.
+        for (const bool link : {false, true}) {
+            const ClosedFiles files;
+            const QString live = files.folder.Path("userdata.tv3");
+            const QString real = link ? files.Own("real.tv3") : live;
+            const QString chosen = files.Own("chosen.tv3");
+            QFile::copy(live, chosen);
+            RunSql(chosen.toStdString(), {}, "UPDATE users SET UserName = 'New'");
+            if (link)
+                QVERIFY(QFile::rename(live, real) && QFile::link(real, live));
+            // Another program is killed in the middle of a change that has reached the file already.
+            RunForked([](const Say&) {
+                const Engine engine = OpenEngine(UserDataPath, SQLITE_OPEN_READWRITE, "");
+                Execute(engine.get(),
+                        "PRAGMA cache_size = 1; BEGIN; UPDATE users SET UserName = 'Half'; CREATE TABLE filler(a);"
+                        "INSERT INTO filler VALUES (zeroblob(100000)); INSERT INTO filler SELECT * FROM filler",
+                        "");
+                ::kill(::getpid(), SIGKILL);
+            });
+            QVERIFY(QFile::exists(real + "-journal"));
+            Import import(UserDatabaseFile(), chosen.toStdString());
+            QVERIFY(!QFile::exists(real + "-journal"));
+            // Nobody opens a file whose import is not proved.
+            if (!link)
+                QCOMPARE(ReasonOf(OpenDatabaseFiles), QString("another program is using the file"));
+            import.Prove();
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Old,1"});
+            import.Complete();
+            QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,New,1"});
+            QCOMPARE(QFileInfo(live).isSymLink(), link);
+        }
     }
 
     void CopyThatDiffersIsRefused()
