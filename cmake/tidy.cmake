@@ -34,5 +34,5 @@ foreach(folder benchmark tests)
     target_include_directories(read_by_tidy PRIVATE "${CMAKE_BINARY_DIR}/${folder}/${target}_autogen/include")
   endforeach()
 endforeach()
-target_compile_definitions(read_by_tidy PRIVATE TAVENOR_STARTER="" TAVENOR_APPROVED="" TAVENOR_PROGRAM=""
-  TAVENOR_MAKE_DATABASES="" TAVENOR_DATA="" BENCH_PLUGINS="" BENCH_PROGRAM="" BENCH_BARE_WINDOW="" BENCH_STARTER="")
+target_compile_definitions(read_by_tidy PRIVATE TAVENOR_STARTER="." TAVENOR_APPROVED="." TAVENOR_PROGRAM="."
+  TAVENOR_MAKE_DATABASES="." TAVENOR_DATA="." BENCH_PLUGINS="." BENCH_PROGRAM="." BENCH_BARE_WINDOW="." BENCH_STARTER=".")

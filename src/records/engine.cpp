@@ -149,7 +149,6 @@ Engine OpenEngine(const std::filesystem::path& file, int flags, const std::strin
     Engine engine(opened);
     if (code != SQLITE_OK)
         throw EngineFailure(opened, code, doing);
-    sqlite3_extended_result_codes(opened, 1);
     return engine;
 }
 

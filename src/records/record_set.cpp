@@ -61,7 +61,6 @@ void RecordSet::PutInOrder()
         return place < other;
     };
     std::vector<int> places;
-    places.reserve(static_cast<std::size_t>(rows->Count()));
     for (int place = rows->Places() - 1; place >= orderedPlaces; --place)
         places.push_back(place);
     // Most rows are added as time goes on, so that there is often nothing to sort.

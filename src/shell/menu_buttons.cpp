@@ -38,7 +38,6 @@ MenuButton::MenuButton(const QString& caption, const QString& name, Picture show
 {
     setObjectName(name);
     setText(caption);
-    setAccessibleName(caption);
     setFont(FontFor(TextRole::Strong));
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);

@@ -149,6 +149,7 @@ private:
         });
         walk.MainJob();
         walk.EverythingElse();
+        QCOMPARE(window.objectName(), QString("frmmain"));
         QCOMPARE(QAccessible::queryAccessibleInterface(window.findChild<PageArea*>())->childCount(), 1);
         for (auto page = seen.files.begin(); page != seen.files.end() && !dark; ++page)
             CompareApproved(page.key(), page.value());

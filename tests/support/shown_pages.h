@@ -71,7 +71,7 @@ inline QString LineOf(QWidget& widget)
     else if (view != nullptr && qobject_cast<const QCalendarWidget*>(view->parentWidget()) == nullptr)
         words.append(Listed(*view->model(), qobject_cast<const QTableView*>(view)));
     words.append(widget.property("shortcut").toString());
-    for (const char* state : {"checked", AccentProperty, "default"})
+    for (const char* state : {"checked", "readOnly", AccentProperty, "default"})
         words.append(widget.property(state).toBool() ? state : "");
     words << (widget.isEnabled() ? "" : "disabled") << OwnColours(widget);
     // The places in the menu are given in twips, of which ten make a pixel.
