@@ -43,7 +43,7 @@ inline QString OwnColours(const QWidget& widget)
     const bool isField = widget.inherits("QLineEdit");
     const auto text = isField ? QPalette::Text : widget.foregroundRole();
     const auto ground = isField ? QPalette::Base : widget.backgroundRole();
-    const QPalette own = widget.palette();
+    const QPalette& own = widget.palette();
     const QPalette theme = QApplication::palette();
     if (own.color(text) == theme.color(text) && own.color(ground) == theme.color(ground))
         return text == QPalette::PlaceholderText ? "pale" : "";
