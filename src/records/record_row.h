@@ -11,7 +11,7 @@
 /// row after another copy of the program has deleted it.
 struct Bookmark
 {
-    /// The engine's own number of the row, which it may give again, and the number that the row was given.
+    /// The engine's number of the row, which no copy gives again, though other tools may, and the row's first field.
     std::int64_t rowId = 0;
     double number = 0;
 

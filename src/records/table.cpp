@@ -2,6 +2,8 @@
 
 #include "base/failure.h"
 
+#include <chrono>
+#include <limits>
 #include <malloc.h>
 
 namespace {
@@ -98,18 +100,29 @@ std::shared_ptr<StoredRows> Table::ReadRows()
     return read;
 }
 
+/// Rises with the time, so that no copy of the program gives a row the number of one that another copy has deleted.
+std::int64_t Table::NextRowId() const
+{
+    using namespace std::chrono;
+    const std::int64_t now = duration_cast<microseconds>(system_clock::now().time_since_epoch()).count();
+    const std::int64_t last = rows->Places() == 0 ? 0 : rows->RowId(rows->Places() - 1);
+    return last < now ? now : last == std::numeric_limits<std::int64_t>::max() ? last : last + 1;
+}
+
 void Table::Insert(const std::vector<FieldValue>& fields)
 {
     if (!insertRow) {
-        std::string parameters;
+        std::string parameters = "?1";
         for (std::size_t column = 1; column <= layout.columns.size(); ++column)
-            parameters += (column == 1 ? "?" : ", ?") + std::to_string(column);
-        insertRow.emplace(
-            engine, "INSERT INTO " + Quoted(layout.name) + " (" + ColumnNames(layout) + ") VALUES (" + parameters + ")",
-            Doing("changed"));
+            parameters += ", ?" + std::to_string(column + 1);
+        insertRow.emplace(engine,
+                          "INSERT INTO " + Quoted(layout.name) + " (rowid, " + ColumnNames(layout) + ") VALUES (" +
+                              parameters + ")",
+                          Doing("changed"));
     }
+    insertRow->Bind(1, NextRowId());
     for (const FieldValue& field : fields)
-        BindField(*insertRow, field.position + 1, field);
+        BindField(*insertRow, field.position + 2, field);
     insertRow->Step();
     insertRow->Reset();
     rows->Add(sqlite3_last_insert_rowid(engine), fields);

@@ -40,6 +40,7 @@ private:
     std::string Doing(const char* failed) const { return "The table " + layout.name + " could not be " + failed; }
     std::string Selection() const;
     std::shared_ptr<StoredRows> ReadRows();
+    std::int64_t NextRowId() const;
 
     sqlite3* engine;
     TableLayout layout;

@@ -30,16 +30,17 @@ void MakeRoom(const UserRow& owner, int more, RaiseLimit raise)
 
 } // namespace
 
-void StoreEntry(EntryRow entry)
+void StoreEntry(const UserRow& owner, EntryRow entry)
 {
     const std::string doing = "The entry could not be stored";
     Transaction transaction(UserDb, doing);
     // Another copy of the program may have changed the user or its entries since the user was chosen.
-    if (!FindUserByNumber(users, entry.userId))
+    if (!users.MoveTo(owner.mark))
         throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
-    if (IsUpToLimit(CountEntries(entries, entry.userId), ReadUser(users).spendLimit))
+    if (IsUpToLimit(CountEntries(entries, owner.number), ReadUser(users).spendLimit))
         throw Failure(doing, "the user's spend limit no longer allows it", "changed by another copy");
     entry.number = entries.NextNumber();
+    entry.userId = owner.number;
     AddEntry(entries, entry);
     transaction.Commit();
 }

@@ -1,18 +1,12 @@
 #pragma once
 
-#include "game/entry_row.h"
-#include "records/record_row.h"
-
-#include <QString>
-
-#include <vector>
+#include "store/user_records.h"
 
 // Every change of the stored entries. Each function is one transaction, on disk when the function returns. All throw
 // Failure, and nothing has been changed then.
 
-/// Stores an entry under the next number for the user whose number it carries. Fails where the user is gone or is up to
-/// the spend limit by now.
-void StoreEntry(EntryRow entry);
+/// Stores an entry of the user under the next number. Fails where the user is gone or is up to the spend limit by now.
+void StoreEntry(const UserRow& owner, EntryRow entry);
 
 /// Writes numbers and days over the entry of this bookmark. Fails where there is none any more.
 void StoreEntryChanges(const Bookmark& mark, const EntryNumbers& numbers, const DaySet& days);

@@ -14,21 +14,23 @@ bool StoreNewUser(const QString& name, double spendLimit)
     return true;
 }
 
-void StoreUserChanges(std::int64_t userId, const QString& name, double spendLimit)
+void StoreUserChanges(const Bookmark& mark, const QString& name, double spendLimit)
 {
     const std::string doing = "The changes of the user could not be stored";
     Transaction transaction(UserDb, doing);
-    if (!FindUserByNumber(users, userId))
+    if (!users.MoveTo(mark))
         throw Failure(doing, "another copy of the program has deleted the user meanwhile", "no such user");
     ChangeUser(users, name, spendLimit);
     transaction.Commit();
 }
 
-void DeleteUserWithEntries(std::int64_t userId)
+void DeleteUserWithEntries(const UserRow& user)
 {
     Transaction transaction(UserDb, "The user could not be deleted");
-    DeleteUserEntries(entries, userId);
-    if (FindUserByNumber(users, userId))
+    // Its number may be another user's by now.
+    if (users.MoveTo(user.mark)) {
+        DeleteUserEntries(entries, user.number);
         users.Delete();
+    }
     transaction.Commit();
 }

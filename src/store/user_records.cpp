@@ -28,7 +28,7 @@ void SetNumbersAndDays(RecordSet& entries, const EntryNumbers& numbers, const Da
 UserRow ReadUser(const RecordRow& row)
 {
     return {row.WholePart(UserField::UserId), FromUtf8(row.Text(UserField::UserName)),
-            row.Number(UserField::SpendLimit)};
+            row.Number(UserField::SpendLimit), row.Mark()};
 }
 
 EntryRow ReadEntry(const RecordRow& row)
@@ -73,14 +73,6 @@ bool FindUserByName(RecordSet& users, const QString& name)
 {
     for (users.MoveFirst(); !users.Eof(); users.MoveNext())
         if (FromUtf8(users.Text(UserField::UserName)) == name)
-            return true;
-    return false;
-}
-
-bool FindUserByNumber(RecordSet& users, std::int64_t userId)
-{
-    for (users.MoveFirst(); !users.Eof(); users.MoveNext())
-        if (users.Row().WholePart(UserField::UserId) == userId)
             return true;
     return false;
 }

@@ -15,6 +15,7 @@ struct UserRow
     std::int64_t number = 0;
     QString name;
     double spendLimit = 0;
+    Bookmark mark = {};
 };
 
 UserRow ReadUser(const RecordRow& row);
@@ -29,9 +30,6 @@ RecordList ListEntriesOf(RecordSet& entries, std::int64_t userId, int drawType);
 
 /// Moves to the first user of exactly this name; false, and at the end, when there is none.
 bool FindUserByName(RecordSet& users, const QString& name);
-
-/// Moves to the first user of this number; false, and at the end, when there is none.
-bool FindUserByNumber(RecordSet& users, std::int64_t userId);
 
 /// How many entries the user has, of both games.
 int CountEntries(RecordSet& entries, std::int64_t userId);

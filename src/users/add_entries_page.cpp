@@ -172,7 +172,7 @@ void AddEntriesPage::F18store_Click()
         ShowMessage(u"You must specify at least ONE draw day. Please retry."_s);
         return;
     }
-    StoreEntry({0, selectedUser.number, game.drawType, F18ent->Typed<EntryNumbers>(), F18day->Days()});
+    StoreEntry(selectedUser, {0, 0, game.drawType, F18ent->Typed<EntryNumbers>(), F18day->Days()});
     ShowMessage(u"This entry has been stored."_s);
     F18user_Click();
     BeginEntry();

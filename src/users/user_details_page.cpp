@@ -206,7 +206,7 @@ void UserDetailsPage::F11storech_Click()
                     u"Change the maximum limit or delete some entries, then retry."_s);
         return;
     }
-    StoreUserChanges(selectedUser.number, name, limit);
+    StoreUserChanges(selectedUser.mark, name, limit);
     Prepare();
 }
 
@@ -218,7 +218,7 @@ void UserDetailsPage::F11deleteuser_Click()
     }
     if (!AskYesNo(u"Are you sure you want to delete this user"_s + Crlf + u"and all entries stored with it?"_s))
         return;
-    DeleteUserWithEntries(selectedUser.number);
+    DeleteUserWithEntries(selectedUser);
     Prepare();
 }
 

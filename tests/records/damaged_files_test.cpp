@@ -139,7 +139,7 @@ void ChangeRows()
     ukmain.MoveFirst();
     DeleteDraws(MainGame, {ukmain.Mark()});
     StoreNewUser("New", 5);
-    DeleteUserWithEntries(1);
+    DeleteUserWithEntries(ReadAllUsers(users).at(0));
 }
 
 /// Whether every rule works on the files. Each has its own time, after which the process is killed.

@@ -38,7 +38,7 @@ void Work(const std::filesystem::path& own, const Say& say)
     if (step("opened", OpenDatabaseFiles)) {
         step("draw", [] { StoreNewDraw(MainGame, {QDate(2020, 1, 4), {1, 2, 3, 4, 5, 6, 7}, "LANCELOT", "1"}); });
         step("batch", [] { StoreEntriesOfUser("Ann", std::vector<EntryRow>(Batch), {}, RaiseLimit::No); });
-        step("user gone", [] { DeleteUserWithEntries(2); });
+        step("user gone", [] { DeleteUserWithEntries(ReadAllUsers(users).at(1)); });
         CloseDatabaseFiles();
         step("copied", [&] { BackUp(UserDatabaseFile(), own / "copy.tv3"); });
         step("replaced", [&] {

@@ -1,5 +1,9 @@
+#include "support/failure_of.h"
 #include "support/raw_file.h"
 #include "support/test_window.h"
+
+#include "store/entry_changes.h"
+#include "store/user_changes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -128,6 +132,28 @@ private Q_SLOTS:
             users.MoveFirst();
             QVERIFY(ReadUser(users).name == longName && ReadUser(users).spendLimit == limit);
         }
+    }
+
+    void UserWhoWasGivenTheNumberOfAnotherOneIsNotTakenForThatOne()
+    {
+        const TestWindow window;
+        StoreNewUser("Carl", 5);
+        const UserRow carl = ReadAllUsers(users).at(0);
+        DeleteUserWithEntries(carl);
+        StoreNewUser("Dora", 5);
+        StoreEntriesOfUser("Dora", {EntryRow{}}, {}, RaiseLimit::No);
+        DeleteUserWithEntries(carl);
+        const QString gone = "another copy of the program has deleted the user meanwhile";
+        QCOMPARE(FailureOf([&] { StoreUserChanges(carl.mark, "Eve", 5); }).reason, gone);
+        QCOMPARE(FailureOf([&] { StoreEntry(carl, {}); }).reason, gone);
+        QCOMPARE(TestFolder::StoredRows("users"), QStringList{"1,Dora,5"});
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1"));
+        entries.MoveFirst();
+        const Bookmark first = entries.Mark();
+        DeleteEntries({first});
+        StoreEntriesOfUser("Dora", {EntryRow{}}, {}, RaiseLimit::No);
+        DeleteEntries({first});
+        QCOMPARE(TestFolder::StoredNumbers("entries"), QString("1"));
     }
 
     void DeletionTakesTheUserAndItsEntriesOnly()

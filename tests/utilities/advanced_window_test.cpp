@@ -16,7 +16,7 @@ public:
     {
         AddUser(users, QString(30000, u'x'), 5);
         AddUser(users, "Ann", 5);
-        DeleteUserWithEntries(1);
+        DeleteUserWithEntries(ReadAllUsers(users).at(0));
     }
 
     QString Live(const QString& kind) const { return files.Path(kind + "data.tv3"); }
