@@ -1,6 +1,5 @@
 #include "records/stored_rows.h"
 
-#include "base/failure.h"
 #include "base/numbers.h"
 
 #include <algorithm>
@@ -59,16 +58,13 @@ void NumberColumn::Shrink()
     std::visit([](auto& held) { held.shrink_to_fit(); }, numbers);
 }
 
-std::size_t TextColumn::PlaceOf(std::string_view text, std::size_t& room)
+std::size_t TextColumn::PlaceOf(std::string_view text)
 {
     // As many as a player has machines or sets of balls to choose from.
     constexpr std::size_t looked = 8;
     for (std::size_t place = ends.size(); place > 0 && place + looked > ends.size(); --place)
         if ((*this)[place - 1] == text)
             return place - 1;
-    if (text.size() > room)
-        throw Failure("The rows could not be held", "their texts are too long", "more than 32 MiB of text");
-    room -= text.size();
     bytes += text;
     ends.push_back(static_cast<std::uint32_t>(bytes.size()));
     return ends.size() - 1;
@@ -126,7 +122,7 @@ void StoredRows::Put(int place, int column, double number)
 void StoredRows::Put(int place, int column, std::string_view text)
 {
     auto& [cells, texts] = columns[Index(column)];
-    cells.Put(Index(place), texts ? static_cast<double>(texts->PlaceOf(text, textRoom)) : NumericValue(text));
+    cells.Put(Index(place), texts ? static_cast<double>(texts->PlaceOf(text)) : NumericValue(text));
 }
 
 void StoredRows::Shrink()

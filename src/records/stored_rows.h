@@ -40,9 +40,8 @@ public:
         const std::size_t begin = place == 0 ? 0 : ends[place - 1];
         return std::string_view(bytes).substr(begin, ends[place] - begin);
     }
-    /// Puts a text after the last one, unless it is one of the last ones; returns its place. Its bytes are taken from
-    /// `room`. Throws Failure where that is not enough.
-    std::size_t PlaceOf(std::string_view text, std::size_t& room);
+    /// Puts a text after the last one, unless it is one of the last ones; returns its place.
+    std::size_t PlaceOf(std::string_view text);
     void Shrink();
 
 private:
@@ -84,7 +83,7 @@ public:
 
     /// Puts a row without content after the last one, and returns its place.
     int Append(std::int64_t rowId);
-    /// Puts a field into a row. Throws Failure where there is no more room for texts.
+    /// Puts a field into a row.
     void Put(int place, int column, double number);
     void Put(int place, int column, std::string_view text);
     /// Gives back the memory that is kept for more rows.
@@ -121,7 +120,5 @@ private:
     std::vector<std::int64_t> rowIds;
     std::vector<char> deleted;
     int deletedCount = 0;
-    /// The program's own texts take some kilobytes; a file that claims much more must not take the computer's memory.
-    std::size_t textRoom = std::size_t{32} * 1024 * 1024;
     std::vector<Change> changes;
 };

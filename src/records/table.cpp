@@ -79,6 +79,8 @@ std::shared_ptr<StoredRows> Table::ReadRows()
     auto read = std::make_shared<StoredRows>(layout);
     const int columns = static_cast<int>(layout.columns.size());
     Statement query(engine, Selection(), Doing("read"));
+    // Rows of a crafted file may share one text, so that it holds far more of them than it has bytes.
+    std::size_t textRoom = std::size_t{64} * 1024 * 1024;
     while (query.Step()) {
         const std::int64_t rowId = query.WholeNumber(0);
         // Where a damaged page leads to others twice, a small file seems to have rows without end.
@@ -87,10 +89,15 @@ std::shared_ptr<StoredRows> Table::ReadRows()
                           "rows out of order");
         const int place = read->Append(rowId);
         for (int column = 0; column < columns; ++column) {
-            if (query.IsNumber(column + 1))
+            if (query.IsNumber(column + 1)) {
                 read->Put(place, column, query.Number(column + 1));
-            else
-                read->Put(place, column, query.Text(column + 1));
+                continue;
+            }
+            const std::string_view text = query.Text(column + 1);
+            if (text.size() > textRoom)
+                throw Failure(Doing("read"), "their texts are too long", "more than 64 MiB of text");
+            textRoom -= text.size();
+            read->Put(place, column, text);
         }
     }
     read->Shrink();

@@ -117,8 +117,11 @@ private Q_SLOTS:
 
     void WhatTakesTooMuchMemoryIsRefused()
     {
-        const ForeignFiles files("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 40)"
-                                 "INSERT INTO users SELECT i, hex(zeroblob(450000)) || i, 1 FROM n");
+        const ForeignFiles files("DROP TABLE users; CREATE TABLE users(UserId);"
+                                 "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 80)"
+                                 "INSERT INTO users SELECT i FROM n;"
+                                 "ALTER TABLE users ADD UserName DEFAULT '" +
+                                 std::string(900000, 'x') + "'; ALTER TABLE users ADD SpendLimit");
         OpenDatabaseFiles();
         QCOMPARE(FailureOf([] { (void)users.Count(); }).reason, QString("their texts are too long"));
         CloseDatabaseFiles();
