@@ -38,9 +38,9 @@ make_root() {
 
 in_dpkg() { dpkg --root="$root" --log=/dev/null "$@" >/dev/null; }
 
-# Runs the installed launcher as a player with an empty home; the arguments are settings for its environment. The call
-# becomes the program, so it is to be made in the background or in a subshell.
+# Runs a command as a player with an empty home; settings for its environment may stand before it. The call becomes the
+# command, so it is to be made in the background or in a subshell.
 as_player() {
     exec chroot --userspec="$player:$player" "$root" /usr/bin/env -i HOME=/home/player PATH=/usr/bin:/bin LC_ALL=C.UTF-8 \
-        QT_QPA_PLATFORM=offscreen "$@" /usr/bin/tavenor3
+        QT_QPA_PLATFORM=offscreen "$@"
 }
