@@ -6,8 +6,8 @@ void StoreNewDraw(const Game& game, const EnteredDraw& draw)
 {
     Transaction transaction(DrawDb, "The draw could not be stored");
     AddDraw(DrawsOf(game), game, draw);
-    transaction.Commit();
     DrawListOf(game).Requery();
+    transaction.Commit();
 }
 
 void OverwriteDrawOfDate(const Game& game, const EnteredDraw& draw)
@@ -18,8 +18,8 @@ void OverwriteDrawOfDate(const Game& game, const EnteredDraw& draw)
         OverwriteDraw(table, game, draw);
     else
         AddDraw(table, game, draw);
-    transaction.Commit();
     DrawListOf(game).Requery();
+    transaction.Commit();
 }
 
 void ChangeDraw(const Game& game, const Bookmark& mark, const EnteredDraw& draw)
@@ -37,6 +37,6 @@ void DeleteDraws(const Game& game, const std::vector<Bookmark>& marks)
     Transaction transaction(DrawDb,
                             marks.size() == 1 ? "The draw could not be deleted" : "The draws could not be deleted");
     DeleteRecords(DrawsOf(game), marks);
-    transaction.Commit();
     DrawListOf(game).Requery();
+    transaction.Commit();
 }
