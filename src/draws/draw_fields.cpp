@@ -23,8 +23,11 @@ QComboBox* MakeTypedList(const QString& name, const QString& accessibleName)
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
     list->lineEdit()->setAccessibleName(accessibleName);
-    // What differs from an item in its letters' case alone is a text of its own.
-    list->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    // What is begun in any case is completed as the item is written; what is typed to its end stays as it is typed.
+    QObject::connect(list->lineEdit(), &QLineEdit::textEdited, list, [list](const QString& typed) {
+        const bool isWhole = list->findText(typed, Qt::MatchFixedString) >= 0;
+        list->completer()->setCaseSensitivity(isWhole ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    });
     return list;
 }
 
@@ -35,6 +38,8 @@ void Refill(QComboBox* list, const Items& items, const QString& text)
     for (const QString& item : items)
         list->addItem(item);
     list->setCurrentIndex(-1);
+    // A text that is not touched is not taken for the item that differs from it in its case.
+    list->completer()->setCaseSensitivity(Qt::CaseSensitive);
     list->setEditText(text);
 }
 
