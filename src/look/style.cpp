@@ -73,6 +73,13 @@ bool IsBareView(const QWidget* widget)
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr && widget->property(BareProperty).toBool();
 }
 
+/// The frame of these is wide enough for the ring of the focus.
+bool HasRoomForRing(const QWidget* widget)
+{
+    return IsBareView(widget) ||
+           (qobject_cast<const QAbstractItemView*>(widget) != nullptr && widget->window()->windowType() != Qt::Popup);
+}
+
 } // namespace
 
 Style::Style() : QProxyStyle(u"fusion"_s) {}
@@ -142,10 +149,12 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         if (IsAccent(option, widget) && (option->state & State_Enabled))
             drawn.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
         QProxyStyle::drawControl(element, &drawn, painter, widget);
-    } else if (element == CE_ShapedFrame && IsBareView(widget)) {
+    } else if (element == CE_ShapedFrame && HasRoomForRing(widget)) {
         // In a view the selection may be hidden, whose colour is the ring's elsewhere.
         if (option->state & State_HasFocus)
             DrawFocusRing(painter, option->rect, QApplication::palette());
+        else if (!IsBareView(widget))
+            QProxyStyle::drawControl(element, option, painter, widget);
     } else if (element == CE_HeaderSection) {
         DrawHeaderSection(option, painter);
     } else if (element == CE_HeaderEmptyArea) {
@@ -228,7 +237,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ButtonShiftVertical:
         return 0;
     case PM_DefaultFrameWidth:
-        if (IsBareView(widget))
+        if (HasRoomForRing(widget))
             return RingWidth;
         // A drop-down list and a text area have one fine line; the fields' own panel brings its own room.
         return qobject_cast<const QLineEdit*>(widget) != nullptr ? Spacing::Inside : 1;
