@@ -1,3 +1,4 @@
+#include "support/look_faults.h"
 #include "support/test_window.h"
 
 #include "look/application.h"
@@ -139,9 +140,12 @@ private Q_SLOTS:
             QVERIFY2(window.size() == opened, qPrintable(name));
             QVERIFY2(!shown.windowIcon().isNull(), qPrintable(name));
             for (const auto* button : shown.findChildren<QPushButton*>())
-                QVERIFY2(button->icon().isNull(), qPrintable(name + ": " + button->text()));
+                QVERIFY2(button->icon().isNull() && button->font().weight() == QFont::DemiBold,
+                         qPrintable(name + ": " + button->text()));
             if (qobject_cast<QFileDialog*>(&shown) == nullptr)
                 QVERIFY2(NotReached(shown).isEmpty(), qPrintable(name + ": " + NotReached(shown)));
+            const QStringList withoutRing = shown.devicePixelRatio() == 1 ? FocusFaults(shown) : QStringList();
+            QVERIFY2(withoutRing.isEmpty(), qPrintable(name + ": " + withoutRing.join(", ")));
         });
         walk.MainJob();
         walk.EverythingElse();
@@ -150,14 +154,22 @@ private Q_SLOTS:
     void DarkIsFollowedAtTheStartAndWhenItChanges()
     {
         FakePortal portal;
+        TestWindow window;
         QVERIFY(!CurrentTheme().dark);
         const DesktopColours started;
         QVERIFY(CurrentTheme().dark);
         for (const uint scheme : {0U, 1U, 2U}) {
             portal.Prefer(scheme);
             QTRY_COMPARE(CurrentTheme().dark, scheme == 1);
-            QCOMPARE(QApplication::palette().color(QPalette::Window), CurrentTheme().page);
+            const QImage seen = window.Window().grab().toImage();
+            QCOMPARE(seen.pixelColor(1, 1), CurrentTheme().menu);
+            QCOMPARE(seen.pixelColor(seen.width() - 2, 1), CurrentTheme().page);
         }
+        // A desktop without a portal tells it by its palette.
+        QPalette ofDesktop(Qt::white, Qt::black);
+        ApplyTheme(ofDesktop);
+        QVERIFY(CurrentTheme().dark);
+        QApplication::setPalette(QPalette());
     }
 
     void ButtonsOfMessageBoxesLookLikeThoseOfThePages()

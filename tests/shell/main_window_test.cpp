@@ -1,6 +1,8 @@
 #include "support/file_bytes.h"
 #include "support/test_window.h"
 
+#include "controls/card.h"
+#include "look/theme.h"
 #include "records/key_store.h"
 #include "utilities/start_and_end.h"
 
@@ -81,13 +83,17 @@ private Q_SLOTS:
             PressKeys(window, keys);
             QCOMPARE(window.FocusedName(), QString(focused));
         }
+        // What is clicked vanishes with its page.
+        window.Click("Button2");
+        window.Click("lab_8");
+        QCOMPARE(window.FocusedName(), QString("Suboption2"));
     }
 
     void TheMainJobTakesFewKeys()
     {
         TestWindow window(TestFolder::Content::Starter);
         const QString line = " Return =15 Return =22 Return =38 Return =41 Return =44 Return";
-        int keys = PressKeys(window, "Alt+A Return =3" + line + " =7 Return =A Return =1 Return Return");
+        int keys = PressKeys(window, "Alt+A Return =3" + line + " =7 Return =a Return =1 Return Return");
         keys += PressKeys(window, "Alt+Y Return =Ann Return =10 Return Return Alt+N");
         for (const char* first : {"=3", "=4", "=5"})
             keys += PressKeys(window, first + line + " Alt+T Alt+S");
@@ -99,6 +105,62 @@ private Q_SLOTS:
         QCOMPARE(TestFolder::StoredRows("entries").size(), 3);
         QVERIFY(window.Find("F12text")->property("plainText").toString().contains("3>  5 main balls"));
         QVERIFY2(keys + messages <= 60, qPrintable(QString::number(keys + messages)));
+    }
+
+    /// Each row: what is clicked in turn, and a button that acts on the cards of the page.
+    void OnALargeScreenFormsKeepTheirMeasureAndPicturesGrow()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        AddEntry(entries, {1, 1, 1, {1, 2, 3, 4, 5, 6}, {true}});
+        QList<QSize> sizes;
+        for (const QSize& screen : {QSize(1024, 720), QSize(1920, 1080)}) {
+            window.Window().resize(screen);
+            for (const auto& [group, grown] : {std::pair(1, "F6MBall_1"), {5, "F21screen_1"}}) {
+                window.OpenPage(group, 1);
+                sizes.append(window.Find(grown)->size());
+            }
+            QCOMPARE(window.Find("F21screen_1")->x(), window.Find("F21title")->x());
+        }
+        for (const int place : {0, 1})
+            QVERIFY(sizes[place + 2].width() > sizes[place].width() &&
+                    sizes[place + 2].height() > sizes[place].height());
+        for (const char* row : {"Button1 Suboption1 F6Store", "Button1 Suboption2 F7Store",
+                                "Button2 Suboption3 F10maineditbutton F16save", "Button3 Suboption1 F11deleteuser",
+                                "Button3 Suboption2 F18store", "Button3 Suboption3 F13edit F20store",
+                                "Button5 Suboption2 F22screen_5 F24back", "Logo F0links F25back"}) {
+            QStringList names = QString(row).split(' ');
+            const QString action = names.takeLast();
+            for (const QString& name : names)
+                window.Click(name);
+            const QWidget& button = *window.Find(action);
+            QRect cards;
+            for (const Card* card : button.parentWidget()->findChildren<Card*>())
+                if (card->isVisible())
+                    cards |= QRect(card->mapTo(button.parentWidget(), QPoint()), card->size());
+            QCOMPARE(button.geometry().topRight(), cards.bottomRight() + QPoint(0, Spacing::Cards + 1));
+            QVERIFY2(cards.width() > 0 && cards.width() <= 960 && button.geometry().bottom() < 720, row);
+        }
+    }
+
+    void ControlsStandAsTheyBelongTogether()
+    {
+        TestWindow window(TestFolder::Content::Starter);
+        AddUser(users, "Ann", 10);
+        window.OpenPage(1, 1);
+        const auto place = [&window](const char* name) {
+            const QWidget& control = *window.Find(name);
+            return QRect(control.mapTo(&window.Window(), QPoint()), control.size());
+        };
+        const int gap = place("F6MBall_6").x() - place("F6MBall_5").x();
+        QVERIFY(place("F6MBall_0").x() - place("F6MBall_6").x() > gap);
+        QVERIFY(window.Find("F6Mmachine")->width() >= 28 * window.Find("F6Mmachine")->fontMetrics().averageCharWidth());
+        QCOMPARE(window.Find("Button1")->font().weight(), int(QFont::DemiBold));
+        window.OpenPage(3, 4);
+        QVERIFY(qAbs(place("F12typem").center().y() - place("F12user").center().y()) <= 1);
+        const QRect report = place("F12text");
+        window.Click("F12dateselect");
+        QVERIFY(window.IsShown("F12cal") && place("F12text") == report);
     }
 
     void ExitAsksFirstAndWhatFailsAtTheEndOrTheStartIsTold()

@@ -164,6 +164,8 @@ void FindReaderFaults(QAccessibleInterface& told, const QWidget* owner, QStringL
     // The calendar keeps its chosen day as the current cell.
     if (state.focused && !owner->hasFocus() && !IsOneOf<QCalendarWidget>(owner->parentWidget()))
         faults.append("told " + NameOf(*owner) + " has no focus");
+    if (widget != nullptr && TakesTab(*widget) && told.text(QAccessible::Name).isEmpty())
+        faults.append("told " + NameOf(*owner) + " has no name");
     if (const auto* list = qobject_cast<QComboBox*>(widget);
         list != nullptr && !list->isEditable() && told.relations(QAccessible::Label).isEmpty())
         faults.append("told " + NameOf(*owner) + " is not labelled");
