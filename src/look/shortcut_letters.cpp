@@ -3,6 +3,7 @@
 #include "look/button.h"
 
 #include <QApplication>
+#include <QLabel>
 
 #include <algorithm>
 
@@ -85,9 +86,10 @@ void ShowShortcutLetters(bool shown)
     if (shown == lettersAreShown)
         return;
     lettersAreShown = shown;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        for (auto* button : window->findChildren<QAbstractButton*>())
-            button->update();
+    // The toolkit's own labels have letters too.
+    for (QWidget* widget : QApplication::allWidgets())
+        if (qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QLabel*>(widget) != nullptr)
+            widget->update();
 }
 
 QString DrawnCaption(const QAbstractButton& button)
