@@ -36,6 +36,8 @@ DesktopColours::DesktopColours(QObject* parent) : QObject(parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
+    // Before this type is registered, a signal that carries it is not connected.
+    qRegisterMetaType<QDBusVariant>();
     bus.connect(Service, Path, Interface, u"SettingChanged"_s, this, SLOT(TakeSetting(QString, QString, QDBusVariant)));
     QDBusMessage question = QDBusMessage::createMethodCall(Service, Path, Interface, u"Read"_s);
     question.setArguments({Group, Key});

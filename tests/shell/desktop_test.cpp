@@ -11,9 +11,12 @@
 #include <QFileDialog>
 #include <QProcess>
 #include <QScreen>
+#include <QSocketNotifier>
 #include <QWindow>
 
+#include <cstdio>
 #include <list>
+#include <unistd.h>
 
 namespace {
 
@@ -22,12 +25,14 @@ namespace {
 class Desktop
 {
 public:
-    Desktop()
+    explicit Desktop(const QString& program)
     {
         const QString size = qEnvironmentVariable("SCREEN") + "x24";
         qputenv("DISPLAY", ':' + Start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-screen", "0", size}));
         qputenv("DBUS_SESSION_BUS_ADDRESS", Start("dbus-daemon", {"--session", "--nofork", "--print-address=1"}));
         Start("openbox", {"--sm-disable", "--startup", "echo ready"});
+        Start(program, {"portal"});
+        portal = &servers.front();
     }
     ~Desktop()
     {
@@ -35,6 +40,13 @@ public:
             server.terminate();
             server.waitForFinished();
         }
+    }
+
+    /// Has the portal tell which colours are preferred: 1 for dark.
+    void Prefer(uint scheme)
+    {
+        portal->write(QByteArray::number(scheme));
+        QVERIFY(portal->waitForBytesWritten());
     }
 
 private:
@@ -51,9 +63,13 @@ private:
     }
 
     std::list<QProcess> servers;
+    QProcess* portal;
 };
 
-/// The desktop's portal, as far as it tells which colours are preferred.
+Desktop* desktop;
+
+/// The desktop's portal, as far as it tells which colours are preferred: what this program does when it is started with
+/// the word "portal". It tells what it reads from its input.
 class FakePortal : public QObject
 {
     Q_OBJECT
@@ -65,13 +81,16 @@ public:
         bus.registerObject("/org/freedesktop/portal/desktop", this,
                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
         bus.registerService("org.freedesktop.portal.Desktop");
-    }
-
-    void Prefer(uint scheme)
-    {
-        preferred = scheme;
-        Q_EMIT SettingChanged("org.freedesktop.appearance", "contrast", QDBusVariant(1U));
-        Q_EMIT SettingChanged("org.freedesktop.appearance", "color-scheme", QDBusVariant(scheme));
+        connect(&input, &QSocketNotifier::activated, this, [this] {
+            char line[8] = {};
+            if (::read(0, line, sizeof line - 1) <= 0)
+                return QCoreApplication::quit();
+            preferred = QString(line).toUInt();
+            Q_EMIT SettingChanged("org.freedesktop.appearance", "contrast", QDBusVariant(1U));
+            Q_EMIT SettingChanged("org.freedesktop.appearance", "color-scheme", QDBusVariant(preferred));
+        });
+        std::puts("ready");
+        std::fflush(stdout);
     }
 
 public Q_SLOTS:
@@ -84,8 +103,9 @@ Q_SIGNALS:
     void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "portal");
-    uint preferred = 1;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QSocketNotifier input{0, QSocketNotifier::Read};
+    uint preferred = 0;
 };
 
 /// The controls of the window that are not wholly in sight when they have the focus, or lack the room that they need.
@@ -153,18 +173,21 @@ private Q_SLOTS:
 
     void DarkIsFollowedAtTheStartAndWhenItChanges()
     {
-        FakePortal portal;
         TestWindow window;
+        const auto seen = [&window](int x) { return window.Window().grab().toImage().pixelColor(x, 1); };
+        for (const uint scheme : {1U, 0U, 1U, 2U}) {
+            desktop->Prefer(scheme);
+            QTRY_COMPARE(CurrentTheme().dark, scheme == 1);
+            QTRY_COMPARE(seen(1), CurrentTheme().menu);
+            QTRY_COMPARE(seen(window.Window().width() - 2), CurrentTheme().page);
+        }
+        desktop->Prefer(1);
+        QTRY_VERIFY(CurrentTheme().dark);
+        SetDesktopPrefersDark(false);
         QVERIFY(!CurrentTheme().dark);
         const DesktopColours started;
         QVERIFY(CurrentTheme().dark);
-        for (const uint scheme : {0U, 1U, 2U}) {
-            portal.Prefer(scheme);
-            QTRY_COMPARE(CurrentTheme().dark, scheme == 1);
-            const QImage seen = window.Window().grab().toImage();
-            QCOMPARE(seen.pixelColor(1, 1), CurrentTheme().menu);
-            QCOMPARE(seen.pixelColor(seen.width() - 2, 1), CurrentTheme().page);
-        }
+        SetDesktopPrefersDark(false);
         // A desktop without a portal tells it by its palette.
         QPalette ofDesktop(Qt::white, Qt::black);
         ApplyTheme(ofDesktop);
@@ -210,7 +233,13 @@ private Q_SLOTS:
 
 int main(int count, char** arguments)
 {
-    const Desktop desktop;
+    if (count == 2 && QString(arguments[1]) == "portal") {
+        const QCoreApplication application(count, arguments);
+        const FakePortal portal;
+        return QCoreApplication::exec();
+    }
+    Desktop started(arguments[0]);
+    desktop = &started;
     const auto application = MakeApplication(count, arguments);
     DesktopTest tests;
     return QTest::qExec(&tests, count, arguments);
