@@ -155,6 +155,8 @@ void EntryGeneratorPage::F26choose_Click()
     NumberWindow(state, this).exec();
     steps.EndNumbers(state.NumbersChosen);
     ShowControls();
+    if (state.NumbersChosen)
+        card->F26go->setFocus(Qt::TabFocusReason);
 }
 
 int EntryGeneratorPage::ChosenOptionNumbers() const

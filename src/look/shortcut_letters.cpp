@@ -52,22 +52,28 @@ void GiveShortcutLetters(const QWidget& window)
 {
     QList<Button*> waiting;
     QString taken;
+    QString awaited;
     for (auto* button : window.findChildren<QAbstractButton*>()) {
+        auto* pushed = qobject_cast<Button*>(button);
+        // Where a default action may yet appear, its key must not do anything else meanwhile.
+        if (pushed != nullptr && pushed->isHidden() && pushed->parentWidget()->isVisible() && IsDefaultAction(*pushed))
+            awaited += pushed->text().left(1).toUpper();
         if (!button->isVisible() || !button->isEnabled())
             continue;
-        if (auto* pushed = qobject_cast<Button*>(button))
+        if (pushed != nullptr)
             waiting.insert(IsDefaultAction(*pushed) ? 0 : waiting.size(), pushed);
         else if (const QChar letter = LetterOf(*button); !letter.isNull())
             taken += letter;
     }
     for (Button* button : QList<Button*>(waiting)) {
-        const QString letters = FreeLetters(*button, taken);
+        const QString letters = FreeLetters(*button, taken + (IsDefaultAction(*button) ? QString() : awaited));
         if (!letters.startsWith(button->text().left(1).toUpper()) || letters.isEmpty())
             continue;
         SetShortcutLetter(*button, letters[0]);
         taken += letters[0];
         waiting.removeOne(button);
     }
+    taken += awaited;
     while (!waiting.isEmpty()) {
         // Whoever has fewest letters left to choose from goes first.
         const auto next =
@@ -98,7 +104,7 @@ QString DrawnCaption(const QAbstractButton& button)
     const qsizetype place = letter.isNull() ? -1 : button.text().indexOf(letter, 0, Qt::CaseInsensitive);
     // An ampersand of the caption itself stands for no mark.
     const auto plain = [](QString part) { return part.replace(u'&', u"&&"_s); };
-    if (!lettersAreShown || place < 0)
+    if (!lettersAreShown || place < 0 || !button.isActiveWindow())
         return plain(button.text());
     return plain(button.text().left(place)) + u'&' + plain(button.text().mid(place));
 }

@@ -54,6 +54,7 @@ public:
         modals.WillDo([&](QDialog& dialog) {
             told.append(dialog.findChild<QLabel*>("Label_0")->text());
             for (const QString& press : presses) {
+                QVERIFY(dialog.findChild<QPushButton*>("Selall")->shortcut() != QKeySequence("Alt+S"));
                 if (press == "close")
                     dialog.close();
                 else if (press != "?")
@@ -168,6 +169,7 @@ private Q_SLOTS:
                               "n_4", "n_3", "n_2", "n_1", "store"}),
                  QString("Select 8 numbers.|Your have 0 numbers selected.|Your have 1 number selected.|"
                          "Your have 49 numbers selected.|Your have 8 numbers selected. Store"));
+        QCOMPARE(window.FocusedName(), QString("F26go"));
         window.Do("go");
         const GridDriver grid = window.Grid();
         QStringList rows;
