@@ -3,6 +3,7 @@
 #include "base/dates.h"
 #include "checking/report_view.h"
 #include "controls/card.h"
+#include "controls/date_field.h"
 #include "controls/guard.h"
 #include "controls/keeping_room.h"
 #include "controls/label.h"
@@ -15,7 +16,6 @@
 #include "users/choices.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QHBoxLayout>
 #include <QRadioButton>
 
@@ -35,7 +35,7 @@ Card* MakeGroup(const QString& caption, const QString& captionName, const QStrin
     return card;
 }
 
-void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRadioButton*> options)
+QWidget* MakeOptions(const QString& frameName, std::initializer_list<QRadioButton*> options)
 {
     auto* frame = new QWidget;
     frame->setObjectName(frameName);
@@ -47,7 +47,7 @@ void AddOptions(Card* card, const QString& frameName, std::initializer_list<QRad
     for (QRadioButton* option : options)
         row->addWidget(option);
     row->addStretch(1);
-    card->Content()->addWidget(frame);
+    return frame;
 }
 
 } // namespace
@@ -61,20 +61,21 @@ CheckPage::CheckPage(PageSwitch& pageSwitch)
       F12typeb(MakeOption(u"Both"_s, u"F12typeb"_s)),
       F12datelatest(MakeOption(u"Latest Draw"_s, u"F12datelatest"_s)),
       F12dateselect(MakeOption(u"Select Date"_s, u"F12dateselect"_s)),
-      F12cal(new QDateEdit),
+      F12cal(new DateField(u"F12cal"_s, u"Date of the draw"_s)),
       F12text(new ReportView),
       F12clear(AddFooterButton(u"Clear"_s, u"F12clear"_s)),
       F12print(AddFooterButton(u"Print"_s, u"F12print"_s)),
       F12check(AddFooterDefault(u"Check Now"_s, u"F12check"_s))
 {
-    auto* who = new CardRow;
+    auto* who = new QHBoxLayout;
     who->setSpacing(Spacing::Between);
-    who->addWidget(MakeUserCard(), 1);
+    who->addWidget(MakeUserCard());
     who->addWidget(MakeTypeCard());
     auto* cards = new CardRow;
     cards->setSpacing(Spacing::Between);
-    cards->addLayout(who, 1);
+    cards->addLayout(who);
     cards->addWidget(MakeDateCard());
+    cards->addStretch(1);
     Body()->addLayout(cards);
 
     F12text->setObjectName(u"F12text"_s);
@@ -100,21 +101,20 @@ Card* CheckPage::MakeUserCard()
 Card* CheckPage::MakeTypeCard()
 {
     Card* card = MakeGroup(u"Draw Type"_s, u"F12label2"_s, QString());
-    AddOptions(card, u"F12frame1"_s, {F12typem, F12typet, F12typeb});
+    card->Content()->addWidget(MakeOptions(u"F12frame1"_s, {F12typem, F12typet, F12typeb}));
     card->Content()->addStretch(1);
     return card;
 }
 
 Card* CheckPage::MakeDateCard()
 {
-    F12cal->setObjectName(u"F12cal"_s);
-    F12cal->setAccessibleName(u"Date of the draw"_s);
-    F12cal->setCalendarPopup(true);
-    // With two digits of the year, what is typed could be the year of another century.
-    F12cal->setDisplayFormat(ShortDateFormat());
     Card* card = MakeGroup(u"Date"_s, u"F12label3"_s, u"F12shape2"_s);
-    AddOptions(card, u"F12frame2"_s, {F12datelatest, F12dateselect});
-    card->Content()->addWidget(KeepingRoom(F12cal));
+    auto* choice = new CardRow;
+    choice->setSpacing(Spacing::Inside);
+    choice->addWidget(MakeOptions(u"F12frame2"_s, {F12datelatest, F12dateselect}));
+    choice->addWidget(KeepingRoom(F12cal));
+    choice->addStretch(1);
+    card->Content()->addLayout(choice);
     card->Content()->addStretch(1);
     return card;
 }

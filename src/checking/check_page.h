@@ -4,9 +4,9 @@
 #include "controls/page_frame.h"
 
 class Card;
+class DateField;
 class PageSwitch;
 class QComboBox;
-class QDateEdit;
 class QRadioButton;
 class ReportView;
 
@@ -41,7 +41,7 @@ private:
     QRadioButton* F12typeb;
     QRadioButton* F12datelatest;
     QRadioButton* F12dateselect;
-    QDateEdit* F12cal;
+    DateField* F12cal;
     ReportView* F12text;
     Button* F12clear;
     Button* F12print;

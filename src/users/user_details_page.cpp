@@ -12,6 +12,7 @@
 #include "store/user_changes.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
@@ -25,7 +26,6 @@ QLineEdit* MakeBox(const QString& name)
 {
     auto* box = new QLineEdit;
     box->setObjectName(name);
-    box->setMaximumWidth(box->fontMetrics().averageCharWidth() * 48);
     return box;
 }
 
@@ -72,6 +72,7 @@ Card* UserDetailsPage::MakeListCard()
     F11list->setFrameShape(QFrame::NoFrame);
     F11list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     F11list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    F11list->installEventFilter(this);
     auto* card = new Card;
     card->Content()->addWidget(F11label1);
     card->Content()->addWidget(F11list, 1);
@@ -143,6 +144,19 @@ void UserDetailsPage::F11list_Click()
     F11seluser->setText(selectedUser.name);
     F11spend->setText(PlainNumber(selectedUser.spendLimit));
     F11entrycount->setText(PlainNumber(entryCount));
+}
+
+bool UserDetailsPage::eventFilter(QObject* watched, QEvent* event)
+{
+    // While no user is chosen, the toolkit would go on from the first one, which is not seen.
+    if (watched == F11list && event->type() == QEvent::KeyPress && SelectedLine() == nullptr && F11list->count() > 0) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Down || key == Qt::Key_Up) {
+            F11list->setCurrentRow(0);
+            return true;
+        }
+    }
+    return PageFrame::eventFilter(watched, event);
 }
 
 void UserDetailsPage::DropVanishedUser()

@@ -29,6 +29,8 @@ private:
         Edit
     };
 
+    /// The arrow keys choose the first user while none is chosen.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     Card* MakeListCard();
     Card* MakeUserCard();
     void ConnectHandlers();

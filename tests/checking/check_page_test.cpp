@@ -113,6 +113,10 @@ private Q_SLOTS:
         const QDate wanted(1999, 12, 31);
         date->setDate(QDate(2026, 1, 1));
         date->setFocus();
+        for (const auto& [key, foldsOut] : {std::pair(Qt::Key_F4, true), {Qt::Key_Escape, false}}) {
+            page.PressFocused(key);
+            QCOMPARE(QApplication::activePopupWidget() != nullptr, foldsOut);
+        }
         for (int place = 0; place < date->sectionCount(); ++place) {
             const auto section = date->sectionAt(place);
             date->setSelectedSection(section);

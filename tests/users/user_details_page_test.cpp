@@ -46,8 +46,9 @@ private Q_SLOTS:
         QCOMPARE(page.TextOf("F11label1"), QString("There are currently  3 users."));
         for (const char* button : {"F11edituser", "F11deleteuser"})
             QCOMPARE(page.Click(button, {QMessageBox::Ok}), {"Select a user first."});
+        page.Find("F11list")->setFocus(Qt::TabFocusReason);
         const std::pair<std::function<void()>, QString> steps[] = {
-            {[&] { page.Select(0); }, "Currently selected user|<i>Cid</i> & Co|10|3"},
+            {[&] { page.Press("F11list", Qt::Key_Down); }, "Currently selected user|<i>Cid</i> & Co|10|3"},
             {[&] { page.Press("F11list", Qt::Key_Down); }, "Currently selected user|Ann|10|0"},
             {[&] { page.Type("F11seluser", "x"); }, "Currently selected user|Ann|10|0"},
             {[&] { page.Click("F11adduser"); }, "New users name|||"},
