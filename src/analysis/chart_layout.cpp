@@ -50,7 +50,7 @@ QFont FontThatFits(const QStringList& texts, qreal columnWidth)
         return body;
     const QFont caption = FontFor(TextRole::Caption);
     const qreal widest = WidestOf(texts, caption);
-    const qreal room = columnWidth - 2;
+    const qreal room = columnWidth - Gap / 2;
     return widest <= room ? caption : Scaled(caption, room / widest * 0.99);
 }
 
@@ -108,7 +108,7 @@ ChartLayout LayOutChart(const std::vector<ChartBar>& bars, const QSizeF& size)
     const qreal column = plot.width() / static_cast<qreal>(bars.size());
     const QFont caption = FontFor(TextRole::Caption);
     const QFont labelFont = FontThatFits(labels, column);
-    const bool turned = WidestOf(figures, caption) > column - 2;
+    const bool turned = WidestOf(figures, caption) > column - Gap;
     const QFont figureFont = turned ? TurnedFont(column) : FontThatFits(figures, column);
     for (int bar = 0; bar < labels.size(); ++bar) {
         const qreal middle = plot.left() + column * (bar + 0.5);

@@ -12,7 +12,6 @@ namespace {
 
 constexpr qreal ShadowRoom = 3;
 constexpr qreal RingRoom = 3;
-constexpr int LargeWindowWidth = 1600;
 
 } // namespace
 
@@ -27,11 +26,13 @@ void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour)
     // The digits stand in the middle, so the middle keeps the ball's own colour and only the rim is shaded.
     QRadialGradient light(ball.center(), ball.width() / 2 * 1.15,
                           ball.topLeft() + QPointF(ball.width() * 0.33, ball.height() * 0.28));
-    light.setColorAt(0, colour.lightness() > 200 ? QColor(Qt::white) : colour.lighter(122));
+    light.setColorAt(0, colour.lightness() > 200 ? QColor(Qt::white) : Mixed(colour, Qt::white, 0.4));
     light.setColorAt(0.45, colour);
     light.setColorAt(1, colour.darker(116));
     painter.setBrush(light);
-    painter.setPen(QPen(QColor(0, 0, 0, CurrentTheme().dark ? 150 : 120), 1));
+    // A dark ball on a dark card is told from it by a light rim.
+    const bool sinks = CurrentTheme().dark && colour.lightness() < 100;
+    painter.setPen(QPen(sinks ? QColor(255, 255, 255, 90) : QColor(0, 0, 0, CurrentTheme().dark ? 150 : 120), 1));
     painter.drawEllipse(ball);
 }
 
@@ -64,7 +65,7 @@ void BallDisc::MakeCompact()
 QSize BallDisc::sizeHint() const
 {
     const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.1));
-    const double step = (compact ? 5.0 / 6 : 1) * (window()->width() >= LargeWindowWidth ? 4.0 / 3 : 1);
+    const double step = (compact ? 5.0 / 6 : 1) * (IsInLargeWindow(*this) ? 4.0 / 3 : 1);
     return QSize(side, side) * step;
 }
 

@@ -14,6 +14,7 @@ ClickLabel::ClickLabel(const QString& caption, QWidget* parent) : QAbstractButto
     setAccessibleName(caption);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+    setForegroundRole(QPalette::WindowText);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -30,7 +31,7 @@ void ClickLabel::paintEvent(QPaintEvent* /*event*/)
     QFont drawn = font();
     drawn.setUnderline(drawn.underline() || underMouse());
     painter.setFont(drawn);
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setPen(palette().color(foregroundRole()));
     const QRect line = rect().adjusted(Spacing::Inside, 0, -Spacing::Inside, 0);
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextShowMnemonic,
                      fontMetrics().elidedText(DrawnCaption(*this), Qt::ElideRight, line.width(), Qt::TextShowMnemonic));

@@ -2,8 +2,8 @@
 
 #include <QAbstractButton>
 
-/// A label that acts when it is clicked, or by Enter or Space when it has the focus. Its text colour is the WindowText
-/// role of its palette.
+/// A label that acts when it is clicked, or by Enter or Space when it has the focus. Its text has the colour
+/// of its foreground role.
 class ClickLabel : public QAbstractButton
 {
     Q_OBJECT

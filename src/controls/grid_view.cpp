@@ -18,6 +18,13 @@ namespace {
 
 constexpr int CellMargins = 2 * Spacing::Inside;
 
+QFont HeadingFont()
+{
+    QFont font = FontFor(TextRole::Caption);
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
+
 /// Draws a quiet line under each row, and leaves a cell that has a colour of its own that colour when it is selected.
 class RowLines : public QStyledItemDelegate
 {
@@ -57,14 +64,12 @@ GridView::GridView(const QString& name, const QString& accessibleName, QWidget* 
 
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2 * Spacing::Inside);
 
     QHeaderView* headings = horizontalHeader();
     headings->setSectionResizeMode(QHeaderView::Fixed);
     headings->setMinimumSectionSize(1);
     headings->setSectionsClickable(false);
     headings->setHighlightSections(false);
-    headings->setFont(FontFor(TextRole::Caption));
     connect(this, &QTableView::doubleClicked, this, &GridView::Opened);
 }
 
@@ -79,6 +84,8 @@ void GridView::LayOutColumns()
     const int available = contentsRect().width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     if (model() == nullptr || available <= 0)
         return;
+    const bool large = IsInLargeWindow(*this);
+    const double step = large ? 8.0 / 7 : 1;
     const auto columns = std::min(static_cast<size_t>(model()->columnCount()), shares.size());
     std::vector<double> texts(columns);
     double room = available;
@@ -87,13 +94,16 @@ void GridView::LayOutColumns()
     for (size_t column = 0; column < columns; ++column) {
         if (shares[column] == 0)
             continue;
-        texts[column] = TextWidth(static_cast<int>(column));
+        texts[column] = TextWidth(static_cast<int>(column)) * step;
         textsTogether += texts[column];
         room -= CellMargins;
         sharesSuffice = sharesSuffice && texts[column] + CellMargins <= available * shares[column];
     }
     const double factor = std::min(1.0, std::max(room, 1.0) / textsTogether);
-    TakeFont(sharesSuffice ? 1 : factor);
+    TakeFont((sharesSuffice ? 1 : factor) * step);
+    const int row = fontMetrics().height() + (large ? 3 : 2) * Spacing::Inside;
+    verticalHeader()->setDefaultSectionSize(row);
+    horizontalHeader()->setFixedHeight(row);
     int left = available;
     for (size_t column = 0; column < columns; ++column) {
         const double width =
@@ -117,7 +127,8 @@ QSize GridView::minimumSizeHint() const
     for (int column = 0; model() != nullptr && column < model()->columnCount(); ++column)
         if (!isColumnHidden(column))
             width += TextWidth(column) * smallestFactor + CellMargins;
-    return {qRound(width), QTableView::minimumSizeHint().height()};
+    constexpr int leastRows = 3;
+    return {qRound(width), (leastRows + 1) * verticalHeader()->defaultSectionSize()};
 }
 
 double GridView::TextWidth(int column) const
@@ -127,7 +138,7 @@ double GridView::TextWidth(int column) const
     const QFontMetricsF metrics(FontFor(TextRole::Strong));
     const int rows = model()->rowCount();
     const QString heading = model()->headerData(column, Qt::Horizontal).toString();
-    double widest = QFontMetricsF(FontFor(TextRole::Caption)).horizontalAdvance(heading);
+    double widest = QFontMetricsF(HeadingFont()).horizontalAdvance(heading);
     for (int row = 0; row < rows; row = row == looked ? std::max(rows - 1, row + 1) : row + 1)
         widest = std::max(widest, metrics.horizontalAdvance(model()->index(row, column).data().toString()));
     // A file may hold a text of any length; what does not fit its column is cut there.
@@ -141,7 +152,7 @@ void GridView::TakeFont(double factor)
         return font;
     };
     setFont(scaled(FontFor(TextRole::Body)));
-    horizontalHeader()->setFont(scaled(FontFor(TextRole::Caption)));
+    horizontalHeader()->setFont(scaled(HeadingFont()));
 }
 
 GridView::RowSpan GridView::SelectedRows() const

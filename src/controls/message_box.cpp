@@ -1,7 +1,10 @@
 #include "controls/message_box.h"
 
+#include "look/theme.h"
+
 #include <QApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -20,7 +23,7 @@ void KeepLinesWhole(QMessageBox& box)
     const QFontMetrics metrics = label->fontMetrics();
     const int natural = metrics.size(0, label->text()).width() + 2 * metrics.averageCharWidth();
     // Beside the text are the icon and the margins; a screen may be narrower than all of that.
-    constexpr int besideText = 120;
+    constexpr int besideText = 160;
     const int room = box.screen()->availableSize().width() - besideText;
     label->setMinimumWidth(qMax(0, qMin(room, qMin(natural, metrics.averageCharWidth() * 90))));
 }
@@ -32,6 +35,7 @@ QMessageBox::StandardButton Show(QMessageBox::Icon icon, const QString& title, c
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     KeepLinesWhole(box);
+    box.layout()->setContentsMargins(Spacing::Page, Spacing::Page, Spacing::Page, Spacing::Page);
     box.setDefaultButton(quietButton);
     box.setEscapeButton(quietButton);
     return static_cast<QMessageBox::StandardButton>(box.exec());

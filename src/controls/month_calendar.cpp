@@ -20,7 +20,7 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     setHorizontalHeaderFormat(ShortDayNames);
     setSelectedDate(QDate::currentDate());
     // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
-    setMinimumHeight(8 * qMax(25, fontMetrics().height() + Spacing::Inside));
+    setMinimumHeight(8 * (fontMetrics().height() + Spacing::Between));
     setAccessibleName(u"Draw date"_s);
     // Around its days the card is seen.
     setAutoFillBackground(false);

@@ -27,8 +27,13 @@ ScrollingContent::~ScrollingContent()
 
 void ScrollingContent::BringIntoView(QWidget* focused)
 {
-    if (focused != nullptr && widget()->isAncestorOf(focused))
-        ensureWidgetVisible(focused, Spacing::Cards, Spacing::Cards);
+    if (focused == nullptr || !widget()->isAncestorOf(focused))
+        return;
+    ensureWidgetVisible(focused, Spacing::Cards, Spacing::Cards);
+    // Of a grid the toolkit shows the current row alone.
+    const QPoint middle = focused->mapTo(widget(), focused->rect().center());
+    if (focused->height() + 2 * Spacing::Cards <= viewport()->height())
+        ensureVisible(middle.x(), middle.y(), 0, focused->height() / 2 + Spacing::Cards);
 }
 
 void ScrollingContent::resizeEvent(QResizeEvent* event)

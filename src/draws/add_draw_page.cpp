@@ -59,8 +59,8 @@ void AddDrawPage::BuildCards()
     drawCard->Content()->addWidget(fields);
     drawCard->Content()->addStretch(1);
     auto* cards = new CardRow;
-    cards->addWidget(dateCard);
-    cards->addWidget(drawCard, 1);
+    cards->addWidget(dateCard, 3);
+    cards->addWidget(drawCard, 7);
     Body()->addLayout(cards);
     MakeForm();
 }

@@ -117,8 +117,8 @@ DrawBrowserPage::DrawBrowserPage()
     draws->addWidget(thunderballSection);
     draws->addStretch(1);
     auto* columns = new CardRow;
-    columns->addWidget(dateCard, 0, Qt::AlignTop);
-    columns->addLayout(draws, 1);
+    columns->addWidget(dateCard, 3, Qt::AlignTop);
+    columns->addLayout(draws, 7);
     Body()->addLayout(columns);
     MakeForm();
     ConnectGuarded(F9Cal, &MonthCalendar::DateChosen, this, [this](QDate date) { FindDrawsOfDate(date); });

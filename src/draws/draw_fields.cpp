@@ -73,7 +73,7 @@ void DrawFields::AddLists(const Names& names)
         form->addWidget(list, row, 1);
         ++row;
     }
-    form->setColumnMinimumWidth(1, 28 * machine->fontMetrics().averageCharWidth());
+    form->setColumnMinimumWidth(1, qMax(220, 28 * machine->fontMetrics().averageCharWidth()));
     form->setColumnStretch(2, 1);
     static_cast<QVBoxLayout*>(layout())->addLayout(form);
     connect(balls, &BallFields::Completed, machine, [this] { machine->setFocus(Qt::TabFocusReason); });

@@ -51,7 +51,7 @@ QLayout* DrawGridSection::MakeButtons()
     edit = new Button(u"Edit"_s, name.arg(u"edit"_s));
     remove = new Button(u"Delete"_s, name.arg(u"delete"_s));
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(0, Spacing::Inside, 0, 0);
+    row->setContentsMargins(0, Spacing::Between, 0, 0);
     row->setSpacing(Spacing::Between);
     row->addStretch(1);
     for (Button* button : {view, edit, remove}) {

@@ -51,6 +51,11 @@ void DrawFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette
     FillRounded(painter, rect, Corner, QColor(), palette.color(QPalette::Highlight), 2);
 }
 
+void DrawSquareFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette)
+{
+    FillRounded(painter, rect, 1, QColor(), palette.color(QPalette::Highlight), 2);
+}
+
 void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* widget)
 {
     const QPalette& palette = option->palette;
@@ -76,7 +81,8 @@ void DrawFieldPanel(const QStyleOption* option, QPainter* painter)
     const bool focus = option->state & QStyle::State_HasFocus;
     const bool readOnly = option->state & QStyle::State_ReadOnly;
     const QPalette& palette = option->palette;
-    FillRounded(painter, option->rect, Corner, palette.color(readOnly ? QPalette::Window : QPalette::Base),
+    const QColor quiet = Mixed(palette.color(QPalette::AlternateBase), palette.color(QPalette::Mid), 0.4);
+    FillRounded(painter, option->rect, Corner, readOnly ? quiet : palette.color(QPalette::Base),
                 focus ? palette.color(QPalette::Highlight) : OutlineColour(palette), focus ? 2 : 1);
 }
 

@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListView>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -30,6 +31,8 @@ constexpr int ListLineHeight = 28;
 constexpr int IndicatorSize = 18;
 constexpr int ArrowWidth = 28;
 constexpr int RingWidth = 2;
+/// A ring of the focus and the gap between it and a mark that has its colour.
+constexpr int RingRoom = 4;
 
 /// A view without a frame gets one that is empty until the view has the focus.
 void MakeRoomForRing(QAbstractScrollArea& area)
@@ -152,7 +155,7 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     } else if (element == CE_ShapedFrame && HasRoomForRing(widget)) {
         // In a view the selection may be hidden, whose colour is the ring's elsewhere.
         if (option->state & State_HasFocus)
-            DrawFocusRing(painter, option->rect, QApplication::palette());
+            DrawSquareFocusRing(painter, option->rect, QApplication::palette());
         else if (!IsBareView(widget))
             QProxyStyle::drawControl(element, option, painter, widget);
     } else if (element == CE_HeaderSection) {
@@ -204,6 +207,20 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
               option->palette.color(QPalette::PlaceholderText));
 }
 
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    switch (element) {
+    case SE_CheckBoxIndicator:
+    case SE_CheckBoxContents:
+    case SE_RadioButtonIndicator:
+    case SE_RadioButtonContents:
+        return rect.translated(option->direction == Qt::LeftToRight ? RingRoom : -RingRoom, 0);
+    default:
+        return rect;
+    }
+}
+
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
                             const QWidget* widget) const
 {
@@ -230,6 +247,11 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         return IndicatorSize;
     case PM_ScrollBarExtent:
         return Spacing::Between;
+    case PM_FocusFrameHMargin:
+        // Beside the texts of a list, as beside that of a field.
+        if (qobject_cast<const QListView*>(widget) != nullptr)
+            return Spacing::Inside;
+        return QProxyStyle::pixelMetric(metric, option, widget);
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return Spacing::Inside + 2;
@@ -258,6 +280,9 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     switch (type) {
     case CT_PushButton:
         return {size.width() + 2 * Spacing::Between, qMax(size.height(), ControlHeight + 2)};
+    case CT_CheckBox:
+    case CT_RadioButton:
+        return {size.width() + 2 * RingRoom, qMax(size.height(), IndicatorSize + 2 * RingRoom)};
     case CT_LineEdit:
         if (widget != nullptr && widget->property(BareProperty).toBool())
             return size;
@@ -285,7 +310,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 {
     switch (hint) {
     case SH_UnderlineShortcut:
-        return AltIsHeld();
+        return AltIsHeld() && (widget == nullptr || widget->isActiveWindow());
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ComboBox_Popup:
     case SH_EtchDisabledText:

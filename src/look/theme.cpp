@@ -1,6 +1,7 @@
 #include "look/theme.h"
 
 #include <QApplication>
+#include <QWidget>
 
 #include <array>
 
@@ -56,6 +57,12 @@ void SetDesktopPrefersDark(bool prefersDark)
     // Has the style put the theme's colours into the desktop's palette anew.
     if (qApp != nullptr)
         QApplication::setPalette(QPalette());
+}
+
+bool IsInLargeWindow(const QWidget& widget)
+{
+    constexpr int largeWidth = 1600;
+    return widget.window()->width() >= largeWidth;
 }
 
 QFont FontFor(TextRole role)

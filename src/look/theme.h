@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QPalette>
 
+class QWidget;
+
 /// The colours that every page is painted in.
 struct Theme
 {
@@ -42,6 +44,9 @@ inline constexpr int Between = 12;
 inline constexpr int Cards = 18;
 inline constexpr int Page = 30;
 } // namespace Spacing
+
+/// Whether the window of a widget is so wide that what can grow, such as balls and figures, is a step larger.
+bool IsInLargeWindow(const QWidget& widget);
 
 /// The desktop's font in the sizes and weights that the pages use.
 enum class TextRole

@@ -18,6 +18,7 @@ QLabel* Description(int label, const QString& text)
     QLabel* description = MakeLabel(text, TextRole::Body, ElementName(u"lab"_s, label));
     description->setWordWrap(true);
     description->setForegroundRole(QPalette::PlaceholderText);
+    description->setAlignment(Qt::AlignTop);
     return description;
 }
 
@@ -36,15 +37,22 @@ IntroductionPage::IntroductionPage(int group) : PageFrame(group, IntroductionOf(
         auto* label = new ClickLabel(FindSuboption(group, option.suboption)->caption);
         label->setObjectName(ElementName(u"lab"_s, option.label));
         label->setFont(FontFor(TextRole::Strong));
+        label->setForegroundRole(QPalette::Highlight);
         label->setAccessibleDescription(option.description);
         connect(label, &QAbstractButton::clicked, this, [this, &option] { Q_EMIT SuboptionClicked(option.suboption); });
         const int row = rows->rowCount();
         rows->addWidget(label, row, 0, Qt::AlignTop);
-        rows->addWidget(Description(option.descriptionLabel, option.description), row, 1);
+        QLabel* description = Description(option.descriptionLabel, option.description);
+        // Its first line stands level with the name, which has room around it.
+        description->setContentsMargins(0, Spacing::Inside / 2, 0, 0);
+        rows->addWidget(description, row, 1);
     }
+    card->Content()->setContentsMargins(Spacing::Cards - Spacing::Inside, Spacing::Cards, Spacing::Cards,
+                                        Spacing::Cards);
     card->Content()->addLayout(rows);
     Body()->addWidget(card);
     auto* start = new ClickLabel(u"Go to Start Screen"_s);
+    start->setForegroundRole(QPalette::Highlight);
     start->setObjectName(ElementName(u"main"_s, group));
     connect(start, &QAbstractButton::clicked, this, &IntroductionPage::StartScreenClicked);
     Body()->addWidget(start);

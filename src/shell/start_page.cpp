@@ -29,7 +29,7 @@ QLabel* Centred(QLabel* label)
 class LogoPicture : public QWidget
 {
 public:
-    explicit LogoPicture(int side) { setFixedSize(side, side); }
+    explicit LogoPicture(int side = 0) { setFixedSize(side, side); }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -58,17 +58,17 @@ public:
 
 } // namespace
 
-StartPage::StartPage(PageSwitch& pages) : PageFrame(0, QString())
+StartPage::StartPage(PageSwitch& pages) : PageFrame(0, QString()), logo(new LogoPicture)
 {
     setAccessibleName(u"Welcome to Tavenor"_s);
-    Body()->addStretch(3);
+    Body()->addStretch(1);
     QLabel* welcome = MakeLabel(u"Welcome to"_s, TextRole::Title);
     QFont light = welcome->font();
     light.setWeight(QFont::Normal);
     welcome->setFont(light);
     welcome->setForegroundRole(QPalette::PlaceholderText);
     Body()->addWidget(Centred(welcome));
-    Body()->addWidget(new LogoPicture(110), 0, Qt::AlignHCenter);
+    Body()->addWidget(logo, 0, Qt::AlignHCenter);
     Body()->addWidget(Centred(MakeLabel(u"Tavenor"_s, TextRole::Product)));
     QLabel* hint = MakeLabel(u"Click on the buttons to the left to get a description of what it does.  Click "
                              u"the Tavenor logo above the buttons to return to this page."_s,
@@ -97,5 +97,12 @@ StartPage::StartPage(PageSwitch& pages) : PageFrame(0, QString())
     add(u"Advanced Options"_s, u"advanced"_s, [this] { AdvancedWindow(this).exec(); });
     buttons->addStretch(1);
     Body()->addLayout(buttons);
-    Body()->addStretch(4);
+    Body()->addStretch(1);
+}
+
+void StartPage::resizeEvent(QResizeEvent* event)
+{
+    PageFrame::resizeEvent(event);
+    const int side = IsInLargeWindow(*this) ? 148 : 110;
+    logo->setFixedSize(side, side);
 }

@@ -11,4 +11,11 @@ class StartPage : public PageFrame
 
 public:
     explicit StartPage(PageSwitch& pages);
+
+protected:
+    /// In a large window the logo is a step larger.
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* logo;
 };

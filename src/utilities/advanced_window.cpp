@@ -63,10 +63,12 @@ AdvancedWindow::AdvancedWindow(QWidget* parent)
     groups->setSpacing(Spacing::Cards);
     groups->addWidget(BuildGroup(MakeLabel(u"Draw Records"_s, TextRole::Heading, u"Label_1"_s),
                                  new Button(u"Backup Draw Database"_s, u"exportdraw"_s),
-                                 new Button(u"Import Updated Draw Database"_s, u"importdraw"_s), DrawDatabaseFile));
+                                 new Button(u"Import Updated Draw Database"_s, u"importdraw"_s), DrawDatabaseFile),
+                      1);
     groups->addWidget(BuildGroup(MakeLabel(u"User Entries"_s, TextRole::Heading, u"Label_2"_s),
                                  new Button(u"Backup User Entry Database"_s, u"exportuser"_s),
-                                 new Button(u"Import User Entry Database"_s, u"importuser"_s), UserDatabaseFile));
+                                 new Button(u"Import User Entry Database"_s, u"importuser"_s), UserDatabaseFile),
+                      1);
     layout->addLayout(groups);
     layout->addStretch(1);
     auto* back = new Button(u"BACK"_s, u"back"_s);
