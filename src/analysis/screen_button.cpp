@@ -38,8 +38,9 @@ void ScreenButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF card = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.setPen(hasFocus() ? QPen(CurrentTheme().accent, 2) : QPen(CurrentTheme().cardLine, 1));
+    const int line = hasFocus() ? 2 : 1;
+    const QRectF card = QRectF(rect()).adjusted(line / 2.0, line / 2.0, -line / 2.0, -line / 2.0);
+    painter.setPen(QPen(hasFocus() ? CurrentTheme().accent : CurrentTheme().cardLine, line));
     painter.setBrush(CurrentTheme().card);
     painter.drawRoundedRect(card, Corner, Corner);
     const QRectF picture = card.adjusted(Spacing::Between, Spacing::Between, -Spacing::Between, -Spacing::Between);

@@ -56,17 +56,10 @@ void BallDisc::SetColour(const QColor& colour)
     setPalette(changed);
 }
 
-void BallDisc::MakeCompact()
-{
-    compact = true;
-    updateGeometry();
-}
-
 QSize BallDisc::sizeHint() const
 {
     const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.1));
-    const double step = (compact ? 5.0 / 6 : 1) * (IsInLargeWindow(*this) ? 4.0 / 3 : 1);
-    return QSize(side, side) * step;
+    return QSize(side, side) * (IsInLargeWindow(*this) ? 4.0 / 3 : 1);
 }
 
 QRectF BallDisc::BallRect() const

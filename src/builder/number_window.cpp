@@ -29,6 +29,7 @@ NumberWindow::NumberWindow(BuilderState& builderState, QWidget* parent)
     card->Content()->addWidget(BuildBoard(), 0, Qt::AlignCenter);
     auto* fillRow = new QHBoxLayout;
     auto* endRow = new QHBoxLayout;
+    fillRow->setContentsMargins(0, Spacing::Inside, 0, 0);
     fillRow->setSpacing(Spacing::Between);
     AddButton(fillRow, u"Select All"_s, u"Selall"_s, [this] { TickAll(true); });
     AddButton(fillRow, u"Clear All"_s, u"clear"_s, [this] { TickAll(false); });

@@ -20,7 +20,7 @@ QComboBox* MakeList(int index, const QString& caption)
     list->setAccessibleName(caption);
     // A long name is cut off in the list; it does not widen the page.
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    list->setMinimumContentsLength(21);
+    list->setMinimumContentsLength(18);
     return list;
 }
 

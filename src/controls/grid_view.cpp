@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int CellMargins = 2 * Spacing::Inside;
+constexpr int CellMargins = 8;
 
 QFont HeadingFont()
 {
@@ -224,18 +224,6 @@ void GridView::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
     LayOutColumns();
-}
-
-void GridView::initViewItemOption(QStyleOptionViewItem* option) const
-{
-    QTableView::initViewItemOption(option);
-    if (hasFocus())
-        return;
-    // The strong selection colour is the sign that the grid has the keys.
-    QColor quiet = option->palette.color(QPalette::Highlight);
-    quiet.setAlphaF(0.25F);
-    option->palette.setColor(QPalette::Highlight, quiet);
-    option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
 }
 
 QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)

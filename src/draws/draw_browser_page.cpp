@@ -40,7 +40,6 @@ BrowserSection::BrowserSection(const Game& drawGame)
       forward(KeepingRoom(new Button(u">"_s, ControlName(game, u"forward"_s))))
 {
     draw->setObjectName(ControlName(game, u"frame"_s));
-    draw->Balls()->MakeCompact();
     noDraw->setForegroundRole(QPalette::PlaceholderText);
     AddHeading();
     Content()->addWidget(draw);

@@ -1,5 +1,7 @@
 #include "look/artwork.h"
 
+#include "look/theme.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -112,7 +114,7 @@ QImage LogoImage(int side)
 
 QIcon InformationIcon()
 {
-    return SignIcon("#4A63C8", {{10, 5.8, 10, 5.81}, {10, 9.6, 10, 14.4}});
+    return SignIcon(CurrentTheme().openGroup, {{10, 5.8, 10, 5.81}, {10, 9.6, 10, 14.4}});
 }
 
 QIcon CriticalIcon()

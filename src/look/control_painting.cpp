@@ -51,11 +51,6 @@ void DrawFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette
     FillRounded(painter, rect, Corner, QColor(), palette.color(QPalette::Highlight), 2);
 }
 
-void DrawSquareFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette)
-{
-    FillRounded(painter, rect, 1, QColor(), palette.color(QPalette::Highlight), 2);
-}
-
 void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* widget)
 {
     const QPalette& palette = option->palette;

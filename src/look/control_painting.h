@@ -16,9 +16,7 @@ class QWidget;
 /// Whether a button is its page's or its dialog's default action.
 bool IsAccent(const QStyleOption* option, const QWidget* widget);
 
-/// Around a control with rounded corners, and around a view, whose content would paint over rounded ones.
 void DrawFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette);
-void DrawSquareFocusRing(QPainter* painter, const QRect& rect, const QPalette& palette);
 void DrawButton(const QStyleOption* option, QPainter* painter, const QWidget* widget);
 /// The ground of a text field or a drop-down list.
 void DrawFieldPanel(const QStyleOption* option, QPainter* painter);

@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -30,9 +31,8 @@ constexpr int ControlHeight = 36;
 constexpr int ListLineHeight = 28;
 constexpr int IndicatorSize = 18;
 constexpr int ArrowWidth = 28;
-constexpr int RingWidth = 2;
-/// A ring of the focus and the gap between it and a mark that has its colour.
-constexpr int RingRoom = 4;
+/// The ring of the focus and the gap between it and what may have its colour.
+constexpr int RingAndGap = 4;
 
 /// A view without a frame gets one that is empty until the view has the focus.
 void MakeRoomForRing(QAbstractScrollArea& area)
@@ -63,12 +63,19 @@ void TakeTabWhileChosen(QRadioButton& choice)
     follow(choice.isChecked());
 }
 
-/// The same with no more of its text than is drawn.
-QStyleOptionViewItem Shortened(const QStyleOptionViewItem& item)
+/// The same with no more of its text than is drawn. The strong colour of a selection is the sign that its view has the
+/// keys.
+QStyleOptionViewItem AsDrawn(const QStyleOptionViewItem& item, const QWidget* view)
 {
-    QStyleOptionViewItem beginning(item);
-    beginning.text.truncate(MostDrawnCharacters);
-    return beginning;
+    QStyleOptionViewItem drawn(item);
+    drawn.text.truncate(MostDrawnCharacters);
+    if (view == nullptr || view->hasFocus() || view->window()->windowType() == Qt::Popup)
+        return drawn;
+    QColor quiet = item.palette.color(QPalette::Highlight);
+    quiet.setAlphaF(0.25F);
+    drawn.palette.setColor(QPalette::Highlight, quiet);
+    drawn.palette.setColor(QPalette::HighlightedText, item.palette.color(QPalette::Text));
+    return drawn;
 }
 
 bool IsBareView(const QWidget* widget)
@@ -76,7 +83,14 @@ bool IsBareView(const QWidget* widget)
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr && widget->property(BareProperty).toBool();
 }
 
-/// The frame of these is wide enough for the ring of the focus.
+/// A text field without a frame of its own: one on a ball, or a part of another field.
+bool IsBareField(const QWidget& field)
+{
+    return field.property(BareProperty).toBool() || qobject_cast<const QComboBox*>(field.parentWidget()) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(field.parentWidget()) != nullptr;
+}
+
+/// The frame of these is wide enough for the ring of the focus and a gap.
 bool HasRoomForRing(const QWidget* widget)
 {
     return IsBareView(widget) ||
@@ -122,11 +136,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
             DrawFocusRing(painter, RingPlace(*option, widget), option->palette);
         return;
     case PE_PanelLineEdit: {
-        const bool bare =
-            widget != nullptr && (widget->property(BareProperty).toBool() ||
-                                  qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr ||
-                                  qobject_cast<const QAbstractSpinBox*>(widget->parentWidget()) != nullptr);
-        if (!bare)
+        if (widget == nullptr || !IsBareField(*widget))
             DrawFieldPanel(option, painter);
         return;
     }
@@ -135,6 +145,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
     case PE_IndicatorRadioButton:
         DrawIndicator(option, painter, true);
+        return;
+    case PE_PanelItemViewRow:
+        if (const auto* row = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
+            const QStyleOptionViewItem drawn = AsDrawn(*row, widget);
+            QProxyStyle::drawPrimitive(element, &drawn, painter, widget);
+        }
         return;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -155,7 +171,7 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     } else if (element == CE_ShapedFrame && HasRoomForRing(widget)) {
         // In a view the selection may be hidden, whose colour is the ring's elsewhere.
         if (option->state & State_HasFocus)
-            DrawSquareFocusRing(painter, option->rect, QApplication::palette());
+            DrawFocusRing(painter, option->rect, QApplication::palette());
         else if (!IsBareView(widget))
             QProxyStyle::drawControl(element, option, painter, widget);
     } else if (element == CE_HeaderSection) {
@@ -176,8 +192,8 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         QProxyStyle::drawControl(element, &beginning, painter, widget);
     } else if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
                item != nullptr && element == CE_ItemViewItem) {
-        const QStyleOptionViewItem beginning = Shortened(*item);
-        QProxyStyle::drawControl(element, &beginning, painter, widget);
+        const QStyleOptionViewItem drawn = AsDrawn(*item, widget);
+        QProxyStyle::drawControl(element, &drawn, painter, widget);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -215,7 +231,10 @@ QRect Style::subElementRect(SubElement element, const QStyleOption* option, cons
     case SE_CheckBoxContents:
     case SE_RadioButtonIndicator:
     case SE_RadioButtonContents:
-        return rect.translated(option->direction == Qt::LeftToRight ? RingRoom : -RingRoom, 0);
+        return rect.translated(option->direction == Qt::LeftToRight ? RingAndGap : -RingAndGap, 0);
+    case SE_LineEditContents:
+        // Level with the text of a drop-down list.
+        return widget == nullptr || IsBareField(*widget) ? rect : rect.adjusted(3, 0, -3, 0);
     default:
         return rect;
     }
@@ -248,9 +267,12 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ScrollBarExtent:
         return Spacing::Between;
     case PM_FocusFrameHMargin:
-        // Beside the texts of a list, as beside that of a field.
+        // Beside the texts of a list there is room, as beside that of a field; the days of a calendar have none to
+        // spare.
         if (qobject_cast<const QListView*>(widget) != nullptr)
             return Spacing::Inside;
+        if (widget != nullptr && qobject_cast<const QCalendarWidget*>(widget->parentWidget()) != nullptr)
+            return 0;
         return QProxyStyle::pixelMetric(metric, option, widget);
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
@@ -260,7 +282,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         return 0;
     case PM_DefaultFrameWidth:
         if (HasRoomForRing(widget))
-            return RingWidth;
+            return RingAndGap;
         // A drop-down list and a text area have one fine line; the fields' own panel brings its own room.
         return qobject_cast<const QLineEdit*>(widget) != nullptr ? Spacing::Inside : 1;
     default:
@@ -273,8 +295,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
 {
     if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
         item != nullptr && item->text.size() > MostDrawnCharacters) {
-        const QStyleOptionViewItem beginning = Shortened(*item);
-        return sizeFromContents(type, &beginning, contents, widget);
+        const QStyleOptionViewItem drawn = AsDrawn(*item, widget);
+        return sizeFromContents(type, &drawn, contents, widget);
     }
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     switch (type) {
@@ -282,9 +304,9 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
         return {size.width() + 2 * Spacing::Between, qMax(size.height(), ControlHeight + 2)};
     case CT_CheckBox:
     case CT_RadioButton:
-        return {size.width() + 2 * RingRoom, qMax(size.height(), IndicatorSize + 2 * RingRoom)};
+        return {size.width() + 2 * RingAndGap, qMax(size.height(), IndicatorSize + 2 * RingAndGap)};
     case CT_LineEdit:
-        if (widget != nullptr && widget->property(BareProperty).toBool())
+        if (widget != nullptr && IsBareField(*widget))
             return size;
         return {size.width(), qMax(size.height(), ControlHeight)};
     case CT_ComboBox:

@@ -73,6 +73,8 @@ Card* UserDetailsPage::MakeListCard()
     F11list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     F11list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     F11list->installEventFilter(this);
+    // The card beside the list is never higher than this, so that the buttons keep their places.
+    F11list->setMinimumHeight(308);
     auto* card = new Card;
     card->Content()->addWidget(F11label1);
     card->Content()->addWidget(F11list, 1);
@@ -85,9 +87,9 @@ Card* UserDetailsPage::MakeUserCard()
     QVBoxLayout* form = card->Content();
     form->setSpacing(Spacing::Inside);
     const auto add = [form](QLabel* caption, QLineEdit* box) {
+        caption->setContentsMargins(0, form->isEmpty() ? 0 : Spacing::Between, 0, 0);
         form->addWidget(caption);
         form->addWidget(box);
-        form->addSpacing(Spacing::Between);
     };
     add(F11label2, F11seluser);
     add(MakeLabel(u"Maximum number of entries"_s, TextRole::Caption, u"F11label3"_s), F11spend);
@@ -95,6 +97,7 @@ Card* UserDetailsPage::MakeUserCard()
     F11spend->setAccessibleName(u"Maximum number of entries"_s);
     F11entrycount->setAccessibleName(F11label4->text());
     F11entrycount->setReadOnly(true);
+    form->addSpacing(Spacing::Between);
     for (Button* store : {F11storenu, F11storech}) {
         store->MakeAccent();
         form->addWidget(store, 0, Qt::AlignLeft);
