@@ -27,7 +27,7 @@ void PaintBall(QPainter& painter, const QRectF& ball, const QColor& colour)
     QRadialGradient light(ball.center(), ball.width() / 2 * 1.15,
                           ball.topLeft() + QPointF(ball.width() * 0.33, ball.height() * 0.28));
     light.setColorAt(0, colour.lightness() > 200 ? QColor(Qt::white) : Mixed(colour, Qt::white, 0.4));
-    light.setColorAt(0.45, colour);
+    light.setColorAt(0.33, colour);
     light.setColorAt(1, colour.darker(116));
     painter.setBrush(light);
     // A dark ball on a dark card is told from it by a light rim.
@@ -56,10 +56,16 @@ void BallDisc::SetColour(const QColor& colour)
     setPalette(changed);
 }
 
+void BallDisc::MakeCompact()
+{
+    compact = true;
+    updateGeometry();
+}
+
 QSize BallDisc::sizeHint() const
 {
     const int side = qMax(54, qRound(QFontMetricsF(FontFor(TextRole::Heading)).height() * 2.1));
-    return QSize(side, side) * (IsInLargeWindow(*this) ? 4.0 / 3 : 1);
+    return QSize(side, side) * ((compact ? 5.0 / 6 : 1) * (IsInLargeWindow(*this) ? 4.0 / 3 : 1));
 }
 
 QRectF BallDisc::BallRect() const

@@ -22,6 +22,8 @@ public:
     /// Takes the control on the ball that shows the number; the ball draws a ring while it has the focus.
     void Carry(QWidget* number);
     void SetColour(const QColor& colour);
+    /// Makes the ball a little smaller, for two draws that stand side by side.
+    void MakeCompact();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -38,6 +40,7 @@ private:
     QRectF BallRect() const;
 
     QWidget* carried = nullptr;
+    bool compact = false;
 };
 
 /// A ball with a label on it.

@@ -19,3 +19,9 @@ void BallRow::Show(const Game& game, std::span<const double> numbers)
         balls[slot].number->setAccessibleName(game.BallCaption(slot) + u' ' + PlainNumber(number));
     }
 }
+
+void BallRow::MakeCompact()
+{
+    for (const LabelledBall& ball : balls)
+        ball.disc->MakeCompact();
+}

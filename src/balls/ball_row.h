@@ -17,6 +17,9 @@ public:
     /// Shows the numbers, one for each ball in slot order, in the colours of the game.
     void Show(const Game& game, std::span<const double> numbers);
 
+    /// Makes the balls a little smaller, for two draws that stand side by side.
+    void MakeCompact();
+
 private:
     QList<LabelledBall> balls;
 };

@@ -69,11 +69,11 @@ CheckPage::CheckPage(PageSwitch& pageSwitch)
 {
     auto* who = new QHBoxLayout;
     who->setSpacing(Spacing::Between);
-    who->addWidget(MakeUserCard());
+    who->addWidget(MakeUserCard(), 1);
     who->addWidget(MakeTypeCard());
     auto* cards = new CardRow;
     cards->setSpacing(Spacing::Between);
-    cards->addLayout(who);
+    cards->addLayout(who, 1);
     cards->addWidget(MakeDateCard());
     cards->addStretch(1);
     Body()->addLayout(cards);

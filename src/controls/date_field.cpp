@@ -16,7 +16,7 @@ DateField::DateField(const QString& name, const QString& accessibleName)
     setAccessibleName(accessibleName);
     lineEdit()->setAccessibleName(accessibleName);
     setCalendarPopup(true);
-    auto* calendar = new MonthCalendar;
+    auto* calendar = new MonthCalendar(accessibleName);
     // A line around it tells it from the page.
     calendar->layout()->setContentsMargins(1, 1, 1, 1);
     calendar->setBackgroundRole(QPalette::Dark);
@@ -28,8 +28,9 @@ DateField::DateField(const QString& name, const QString& accessibleName)
 
 void DateField::keyPressEvent(QKeyEvent* event)
 {
-    const bool withAlt = event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_Down;
-    if (withAlt || event->key() == Qt::Key_F4)
+    const Qt::KeyboardModifiers modifiers = event->modifiers();
+    if ((event->key() == Qt::Key_Down && (modifiers & Qt::AltModifier)) ||
+        (event->key() == Qt::Key_F4 && modifiers == Qt::NoModifier))
         FoldOut();
     else
         QDateEdit::keyPressEvent(event);

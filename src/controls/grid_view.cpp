@@ -128,7 +128,7 @@ QSize GridView::minimumSizeHint() const
         if (!isColumnHidden(column))
             width += TextWidth(column) * smallestFactor + CellMargins;
     constexpr int leastRows = 3;
-    return {qRound(width), (leastRows + 1) * verticalHeader()->defaultSectionSize()};
+    return {qRound(width), (leastRows + 1) * verticalHeader()->defaultSectionSize() + 2 * frameWidth()};
 }
 
 double GridView::TextWidth(int column) const

@@ -12,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
+MonthCalendar::MonthCalendar(const QString& name)
 {
     setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
     setFirstDayOfWeek(Qt::Monday);
@@ -21,7 +21,7 @@ MonthCalendar::MonthCalendar(QWidget* parent) : QCalendarWidget(parent)
     setSelectedDate(QDate::currentDate());
     // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
     setMinimumHeight(8 * (fontMetrics().height() + Spacing::Between));
-    setAccessibleName(u"Draw date"_s);
+    setAccessibleName(name);
     // Around its days the card is seen.
     setAutoFillBackground(false);
     for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {

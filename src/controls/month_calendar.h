@@ -8,7 +8,7 @@ class MonthCalendar : public QCalendarWidget
     Q_OBJECT
 
 public:
-    explicit MonthCalendar(QWidget* parent = nullptr);
+    explicit MonthCalendar(const QString& name = QStringLiteral("Draw date"));
 
 Q_SIGNALS:
     /// A day was chosen: clicked, or confirmed with Enter.

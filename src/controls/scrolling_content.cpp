@@ -1,5 +1,6 @@
 #include "controls/scrolling_content.h"
 
+#include "look/input_watch.h"
 #include "look/theme.h"
 
 #include <QApplication>
@@ -30,9 +31,9 @@ void ScrollingContent::BringIntoView(QWidget* focused)
     if (focused == nullptr || !widget()->isAncestorOf(focused))
         return;
     ensureWidgetVisible(focused, Spacing::Cards, Spacing::Cards);
-    // Of a grid the toolkit shows the current row alone.
+    // Of a grid the toolkit shows the current row alone. What is clicked must not move under the mouse.
     const QPoint middle = focused->mapTo(widget(), focused->rect().center());
-    if (focused->height() + 2 * Spacing::Cards <= viewport()->height())
+    if (LastInputWasKey() && focused->height() + 2 * Spacing::Cards <= viewport()->height())
         ensureVisible(middle.x(), middle.y(), 0, focused->height() / 2 + Spacing::Cards);
 }
 

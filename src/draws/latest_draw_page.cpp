@@ -17,8 +17,10 @@ using namespace Qt::StringLiterals;
 LatestDrawPage::LatestDrawPage()
     : PageFrame(8, u"Latest Draw"_s, u"labeltitle"_s), sections{MakeSection(MainGame), MakeSection(ThunderballGame)}
 {
+    auto* cards = new CardRow;
     for (const Section& section : sections)
-        Body()->addWidget(section.card);
+        cards->addWidget(section.card, section.game->BallCount());
+    Body()->addLayout(cards);
     MakeForm();
 }
 
@@ -33,6 +35,7 @@ LatestDrawPage::Section LatestDrawPage::MakeSection(const Game& game)
                                            prefix + u"machine"_s,
                                            prefix + u"ballset"_s},
                                           u"Machine: "_s, u"Set of balls: "_s));
+    draw->Balls()->MakeCompact();
 
     auto* blank = new QFrame;
     blank->setObjectName(game.IsMain() ? u"blankshapem"_s : u"blankshapet"_s);

@@ -160,8 +160,13 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                         const QWidget* widget) const
 {
-    if (const auto* label = qstyleoption_cast<const QStyleOptionButton*>(option);
-        label != nullptr && element == CE_PushButtonLabel) {
+    if (const auto* choice = qstyleoption_cast<const QStyleOptionButton*>(option);
+        choice != nullptr && (element == CE_CheckBox || element == CE_RadioButton)) {
+        QStyleOptionButton drawn = *choice;
+        drawn.rect.adjust(RingAndGap, 0, -RingAndGap, 0);
+        QProxyStyle::drawControl(element, &drawn, painter, widget);
+    } else if (const auto* label = qstyleoption_cast<const QStyleOptionButton*>(option);
+               label != nullptr && element == CE_PushButtonLabel) {
         QStyleOptionButton drawn = *label;
         if (const auto* button = qobject_cast<const Button*>(widget))
             drawn.text = DrawnCaption(*button);
@@ -226,18 +231,10 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
-    switch (element) {
-    case SE_CheckBoxIndicator:
-    case SE_CheckBoxContents:
-    case SE_RadioButtonIndicator:
-    case SE_RadioButtonContents:
-        return rect.translated(option->direction == Qt::LeftToRight ? RingAndGap : -RingAndGap, 0);
-    case SE_LineEditContents:
-        // Level with the text of a drop-down list.
-        return widget == nullptr || IsBareField(*widget) ? rect : rect.adjusted(3, 0, -3, 0);
-    default:
+    if (element != SE_LineEditContents || widget == nullptr || IsBareField(*widget))
         return rect;
-    }
+    // Level with the text of a drop-down list.
+    return rect.adjusted(3, 0, -3, 0);
 }
 
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,

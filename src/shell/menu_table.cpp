@@ -9,7 +9,7 @@ namespace {
 const std::array<MenuGroupRow, MenuGroups> Groups{{
     {u"Add Draws"_s, {{u"Add Main Draw"_s, 192, 6, u'M'}, {u"Add Thunderball Draw"_s, 229, 7, u'T'}}},
     {u"Draw Records"_s,
-     {{u"View Latest Draw"_s, 240, 8, u'L'},
+     {{u"View Latest Draw"_s, 240, 8, {}},
       {u"View Any Single Draw"_s, 276, 9, u'N'},
       {u"View or Edit All Draws"_s, 312, 10, u'O'}}},
     {u"Your Entries"_s,

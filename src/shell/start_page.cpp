@@ -105,4 +105,5 @@ void StartPage::resizeEvent(QResizeEvent* event)
     PageFrame::resizeEvent(event);
     const int side = IsInLargeWindow(*this) ? 148 : 110;
     logo->setFixedSize(side, side);
+    layout()->activate();
 }

@@ -59,9 +59,9 @@ Card* EntriesPage::MakeChoiceCard()
 {
     F13user->setMinimumContentsLength(14);
     auto* choices = new CaptionedRow;
-    choices->Add(u"User"_s, u"F13label1"_s, {F13user}, 0);
+    choices->Add(u"User"_s, u"F13label1"_s, {F13user});
     choices->Add(u"Draw Type"_s, u"F13label2"_s, {F13typemain, F13typethunder}, 0);
-    choices->setColumnStretch(choices->columnCount(), 1);
+    choices->setColumnStretch(choices->columnCount(), 2);
     auto* card = new Card;
     card->Content()->addLayout(choices);
     return card;

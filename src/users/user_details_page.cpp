@@ -18,6 +18,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -153,8 +156,8 @@ bool UserDetailsPage::eventFilter(QObject* watched, QEvent* event)
 {
     // While no user is chosen, the toolkit would go on from the first one, which is not seen.
     if (watched == F11list && event->type() == QEvent::KeyPress && SelectedLine() == nullptr && F11list->count() > 0) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Down || key == Qt::Key_Up) {
+        constexpr std::array keys{Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp};
+        if (std::find(keys.begin(), keys.end(), static_cast<QKeyEvent*>(event)->key()) != keys.end()) {
             F11list->setCurrentRow(0);
             return true;
         }

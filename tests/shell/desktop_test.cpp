@@ -113,6 +113,7 @@ QString NotReached(QWidget& window)
 {
     QStringList hidden;
     const QPointer<QWidget> before = window.focusWidget();
+    QTest::keyClick(&window, Qt::Key_Shift);
     for (auto* control : window.findChildren<QWidget*>()) {
         if (!control->isVisible() || !control->isEnabled() || (control->focusPolicy() & Qt::TabFocus) == 0)
             continue;

@@ -208,6 +208,12 @@ QStringList LayoutFaults(QWidget& window)
             if (other < widget && Overlap(*widget, *other))
                 faults.append("overlap " + NameOf(*widget) + " and " + NameOf(*other));
     }
+    QStringList keys;
+    for (const QWidget* widget : ShownWidgets(window))
+        if (const QString key = widget->property("shortcut").toString(); widget->isEnabled() && !key.isEmpty())
+            keys.append(key);
+    if (keys.removeDuplicates() > 0)
+        faults.append("key held twice in " + NameOf(window));
     // The toolkit's own message box is as large as its message and has nothing that would grow.
     if (!IsOneOf<QMessageBox>(&window) && window.maximumSize() != QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX))
         faults.append("fixed " + NameOf(window));

@@ -12,8 +12,8 @@ QList<QWidget*> ShownWidgets(const QWidget& window);
 /// Whether the Tab key reaches a widget that is shown.
 bool TakesTab(const QWidget& widget);
 
-/// "fit", "overlap" and "fixed": whether texts and controls have room. "told": what a screen reader would tell wrongly,
-/// such as a page that is covered or a focus that is elsewhere.
+/// "fit", "overlap" and "fixed": whether texts and controls have room. "key": whether two buttons have one letter.
+/// "told": what a screen reader would tell wrongly, such as a page that is covered or a focus that is elsewhere.
 QStringList LayoutFaults(QWidget& window);
 
 /// "contrast": the colours of the window as it is painted, at the scale of 1.
