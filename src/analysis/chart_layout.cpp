@@ -65,6 +65,12 @@ QFont TurnedFont(qreal columnWidth)
     return font;
 }
 
+/// Where a line is drawn sharply.
+qreal MiddleOfPixel(qreal place)
+{
+    return std::floor(place) + 0.5;
+}
+
 /// The room that axis, labels and figures leave for the bars of an axis that ends at `axisEnd`.
 QRectF PlotOf(const QSizeF& size, int highest, int axisEnd)
 {
@@ -110,11 +116,12 @@ ChartLayout LayOutChart(const std::vector<ChartBar>& bars, const QSizeF& size)
     const QFont labelFont = FontThatFits(labels, column);
     const bool turned = WidestOf(figures, caption) > column - Gap;
     const QFont figureFont = turned ? TurnedFont(column) : FontThatFits(figures, column);
+    const qreal width = std::round(qMin(BarShare * column, WidestBar));
     for (int bar = 0; bar < labels.size(); ++bar) {
         const qreal middle = plot.left() + column * (bar + 0.5);
-        const qreal height = plot.height() * bars[static_cast<size_t>(bar)].value / axisEnd;
-        const qreal width = qMin(BarShare * column, WidestBar);
-        layout.bars.emplace_back(middle - width / 2, plot.bottom() - height, width, height);
+        const qreal height = std::round(plot.height() * bars[static_cast<size_t>(bar)].value / axisEnd);
+        layout.bars.emplace_back(MiddleOfPixel(middle - width / 2), MiddleOfPixel(plot.bottom()) - height, width,
+                                 height);
         ChartText label{labels[bar], labelFont, {middle, 0}};
         label.middle.setY(plot.bottom() + (Gap + label.Place().height()) / 2);
         layout.labels.push_back(label);
@@ -123,8 +130,7 @@ ChartLayout LayOutChart(const std::vector<ChartBar>& bars, const QSizeF& size)
         layout.figures.push_back(figure);
     }
     for (int value = 0; value <= axisEnd; value += step) {
-        // In the middle of a pixel, where it is drawn as one sharp line.
-        layout.lines.push_back(std::floor(plot.bottom() - plot.height() * value / axisEnd) + 0.5);
+        layout.lines.push_back(MiddleOfPixel(plot.bottom() - plot.height() * value / axisEnd));
         ChartText number{QString::number(value), caption, {0, layout.lines.back()}};
         number.middle.setX(plot.left() - Gap - number.Place().width() / 2);
         layout.axisNumbers.push_back(number);

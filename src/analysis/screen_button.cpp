@@ -8,6 +8,7 @@
 
 #include <QFocusEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <array>
 
@@ -43,7 +44,9 @@ void ScreenButton::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(QPen(hasFocus() ? CurrentTheme().accent : CurrentTheme().cardLine, line));
     painter.setBrush(CurrentTheme().card);
     painter.drawRoundedRect(card, Corner, Corner);
-    const QRectF picture = card.adjusted(Spacing::Between, Spacing::Between, -Spacing::Between, -Spacing::Between);
+    // On the same pixels with and without the focus.
+    constexpr int inset = Spacing::Between + 1;
+    const QRectF picture(rect().adjusted(inset, inset, -inset, -inset));
     if (screen.chart == 0)
         DrawBallData(painter, picture);
     else
@@ -55,7 +58,7 @@ void ScreenButton::DrawChart(QPainter& painter, const QRectF& picture) const
     const Chart& chart = FindChart(screen.chart);
     painter.setPen(QPen(CurrentTheme().cardLine, 1));
     for (int line = 0; line <= 3; ++line) {
-        const qreal y = picture.top() + picture.height() * line / 4;
+        const qreal y = qFloor(picture.top() + picture.height() * line / 4) + 0.5;
         painter.drawLine(QPointF(picture.left(), y), QPointF(picture.right(), y));
     }
     const std::vector<ChartBar> bars = chart.Bars();
@@ -71,7 +74,7 @@ void ScreenButton::DrawChart(QPainter& painter, const QRectF& picture) const
         painter.drawRect(QRectF(middle - width / 2, picture.bottom() - height, width, height));
     }
     painter.setPen(QPen(CurrentTheme().secondaryText, 1));
-    painter.drawLine(picture.bottomLeft(), picture.bottomRight());
+    painter.drawLine(picture.bottomLeft() + QPointF(0, 0.5), picture.bottomRight() + QPointF(0, 0.5));
 }
 
 void ScreenButton::DrawBallData(QPainter& painter, const QRectF& picture) const

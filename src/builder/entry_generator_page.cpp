@@ -47,7 +47,7 @@ EntryGeneratorPage::EntryGeneratorPage(PageSwitch& pageSwitch)
 {
     F26grid->setModel(&lines);
     F26grid->SetColumnShares(lines.ColumnShares());
-    gridCard->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
+    gridCard->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     gridCard->Content()->addWidget(F26grid);
     auto* cards = new CardRow;
     cards->addWidget(card, 5, Qt::AlignTop);

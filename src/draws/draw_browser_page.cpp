@@ -41,6 +41,8 @@ BrowserSection::BrowserSection(const Game& drawGame)
 {
     draw->setObjectName(ControlName(game, u"frame"_s));
     noDraw->setForegroundRole(QPalette::PlaceholderText);
+    // The heading has room around it for the arrows beside it.
+    Content()->setContentsMargins(Spacing::Cards, Spacing::Between, Spacing::Cards, Spacing::Cards);
     AddHeading();
     Content()->addWidget(draw);
     Content()->addWidget(noDraw);

@@ -30,7 +30,7 @@ DrawGridSection::DrawGridSection(const Game& drawGame, PageSwitch& pageSwitch)
     grid->SetColumnShares(model->ColumnShares());
     noDraws->setAlignment(Qt::AlignCenter);
     auto* card = new Card;
-    card->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
+    card->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     card->Content()->addWidget(grid);
     card->Content()->addWidget(noDraws);
     auto* layout = new QVBoxLayout(this);

@@ -96,8 +96,12 @@ void DrawLogo(QPainter& painter, const QRectF& square)
     painter.drawEllipse(square);
     const qreal unit = square.width() / 100;
     painter.setBrush(Qt::white);
-    painter.drawRect(QRectF(square.left() + 24 * unit, square.top() + 33 * unit, 52 * unit, 12 * unit));
-    painter.drawRect(QRectF(square.left() + 43 * unit, square.top() + 33 * unit, 14 * unit, 47 * unit));
+    // One shape: where two lie over each other, their soft edges would show.
+    QPainterPath letter;
+    letter.setFillRule(Qt::WindingFill);
+    letter.addRect(QRectF(square.left() + 24 * unit, square.top() + 33 * unit, 52 * unit, 12 * unit));
+    letter.addRect(QRectF(square.left() + 43 * unit, square.top() + 33 * unit, 14 * unit, 47 * unit));
+    painter.drawPath(letter);
     painter.restore();
 }
 

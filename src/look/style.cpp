@@ -63,16 +63,21 @@ void TakeTabWhileChosen(QRadioButton& choice)
     follow(choice.isChecked());
 }
 
-/// The same with no more of its text than is drawn. The strong colour of a selection is the sign that its view has the
-/// keys.
+/// Whether the selection of a view is quiet: its strong colour is the sign that the view has the keys.
+bool IsSelectionQuiet(const QWidget* view)
+{
+    return view != nullptr && !view->hasFocus() && view->window()->windowType() != Qt::Popup;
+}
+
+/// The same with no more of its text than is drawn, and with the colours of its selection.
 QStyleOptionViewItem AsDrawn(const QStyleOptionViewItem& item, const QWidget* view)
 {
     QStyleOptionViewItem drawn(item);
     drawn.text.truncate(MostDrawnCharacters);
-    if (view == nullptr || view->hasFocus() || view->window()->windowType() == Qt::Popup)
+    if (!IsSelectionQuiet(view))
         return drawn;
     QColor quiet = item.palette.color(QPalette::Highlight);
-    quiet.setAlphaF(0.25F);
+    quiet.setAlphaF(0.4F);
     drawn.palette.setColor(QPalette::Highlight, quiet);
     drawn.palette.setColor(QPalette::HighlightedText, item.palette.color(QPalette::Text));
     return drawn;
@@ -147,10 +152,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         DrawIndicator(option, painter, true);
         return;
     case PE_PanelItemViewRow:
-        if (const auto* row = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
-            const QStyleOptionViewItem drawn = AsDrawn(*row, widget);
-            QProxyStyle::drawPrimitive(element, &drawn, painter, widget);
-        }
+        // The cells of a quiet row are drawn over it.
+        if (!IsSelectionQuiet(widget))
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);

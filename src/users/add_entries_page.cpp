@@ -74,7 +74,6 @@ Card* AddEntriesPage::MakeBallCard()
     balls->addWidget(F18ent, 1);
     balls->addWidget(F18reset);
     auto* card = new Card;
-    card->Content()->setContentsMargins(Spacing::Cards, Spacing::Between, Spacing::Cards, Spacing::Between);
     card->Content()->addLayout(balls);
     return card;
 }

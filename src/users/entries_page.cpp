@@ -73,7 +73,7 @@ Card* EntriesPage::MakeGridCard()
     F13grid->SetColumnShares(model->ColumnShares());
     F13noentries->setAlignment(Qt::AlignCenter);
     auto* card = new Card;
-    card->Content()->setContentsMargins(Spacing::Between, Spacing::Inside, Spacing::Between, Spacing::Between);
+    card->Content()->setContentsMargins(Spacing::Between, Spacing::Between, Spacing::Between, Spacing::Between);
     card->Content()->addWidget(F13grid);
     card->Content()->addWidget(F13noentries);
     return card;

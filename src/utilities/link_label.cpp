@@ -73,7 +73,7 @@ void LinkLabel::changeEvent(QEvent* event)
 void LinkLabel::TakeColour()
 {
     const Theme& theme = CurrentTheme();
-    const QColor link = theme.dark ? QColor(0x8A, 0xB4, 0xF8) : QColor(0x00, 0x00, 0xFF);
+    const QColor link = theme.dark ? theme.accent : QColor(Qt::blue);
     const QColor plain = theme.dark ? theme.text : QColor(Qt::black);
     QPalette coloured;
     coloured.setColor(QPalette::WindowText, isLink ? link : plain);
