@@ -13,6 +13,7 @@
 #include "controls/text_box.h"
 #include "game/game.h"
 #include "look/button.h"
+#include "look/input_watch.h"
 #include "look/theme.h"
 #include "store/entry_changes.h"
 #include "store/open_databases.h"
@@ -20,6 +21,7 @@
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -133,8 +135,13 @@ void EntryGeneratorPage::CountGiven()
 {
     const bool possible = IsPossibleEntryCount(NumericValue(card->F26text->text()));
     steps.GiveCount(possible);
-    if (!possible)
+    const bool isLeft = !card->F26text->hasFocus();
+    if (!possible && !card->F26text->text().isEmpty()) {
         card->F26text->clear();
+        // After it there is no field to which the Tab key could go.
+        if (isLeft && LastInputWasKey())
+            QTimer::singleShot(0, card->F26text, [this] { card->F26text->setFocus(Qt::TabFocusReason); });
+    }
     ShowControls();
     if (possible)
         card->F26go->setFocus(Qt::TabFocusReason);

@@ -46,4 +46,5 @@ void DateField::FoldOut()
     QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
     QApplication::sendEvent(this, &press);
+    calendarWidget()->setFocus(Qt::PopupFocusReason);
 }

@@ -4,21 +4,25 @@
 #include "look/theme.h"
 
 #include <QEvent>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
-MonthCalendar::MonthCalendar(const QString& name)
+MonthCalendar::MonthCalendar(const QString& name) : year(findChild<QSpinBox*>("qt_calendar_yearedit"_L1))
 {
     setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
     setFirstDayOfWeek(Qt::Monday);
     setVerticalHeaderFormat(NoVerticalHeader);
     setHorizontalHeaderFormat(ShortDayNames);
     setSelectedDate(QDate::currentDate());
+    // Digits that are typed on the days would choose a date that is not seen.
+    setDateEditEnabled(false);
     // Seven rows and the bar above them, with room for the disc of the chosen day whatever stands beside the calendar.
     setMinimumHeight(8 * (fontMetrics().height() + Spacing::Between));
     setAccessibleName(name);
@@ -35,6 +39,11 @@ MonthCalendar::MonthCalendar(const QString& name)
     }
     for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
         findChild<QToolButton*>(QLatin1String(name))->setFont(FontFor(TextRole::Strong));
+    year->setFrame(true);
+    year->setButtonSymbols(QSpinBox::NoButtons);
+    year->setFont(FontFor(TextRole::Strong));
+    // What is typed into it ends where the arrow keys go through the days.
+    connect(year->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this, [this] { setFocus(); });
     auto* days = findChild<QTableView*>("qt_calendar_calendarview"_L1);
     days->setAccessibleName(accessibleName());
     days->setProperty(BareProperty, true);
@@ -97,6 +106,7 @@ void MonthCalendar::TakeColours()
     auto* bar = findChild<QWidget*>("qt_calendar_navigationbar"_L1);
     bar->setBackgroundRole(QPalette::AlternateBase);
     bar->setPalette(onCard);
+    year->setPalette(colours);
     for (auto* button : bar->findChildren<QToolButton*>()) {
         button->setPalette(onCard);
         button->setAutoRaise(true);

@@ -2,6 +2,8 @@
 
 #include <QCalendarWidget>
 
+class QSpinBox;
+
 /// A month calendar in the look of the pages, with English names and weeks from Monday, that opens on today.
 class MonthCalendar : public QCalendarWidget
 {
@@ -20,4 +22,7 @@ protected:
 
 private:
     void TakeColours();
+
+    /// What the toolkit shows in place of the year while it is typed.
+    QSpinBox* year;
 };

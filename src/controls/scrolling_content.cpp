@@ -1,6 +1,5 @@
 #include "controls/scrolling_content.h"
 
-#include "look/input_watch.h"
 #include "look/theme.h"
 
 #include <QApplication>
@@ -28,12 +27,13 @@ ScrollingContent::~ScrollingContent()
 
 void ScrollingContent::BringIntoView(QWidget* focused)
 {
-    if (focused == nullptr || !widget()->isAncestorOf(focused))
+    // What is clicked must not move away under the mouse.
+    if (focused == nullptr || !widget()->isAncestorOf(focused) || QApplication::mouseButtons() != Qt::NoButton)
         return;
     ensureWidgetVisible(focused, Spacing::Cards, Spacing::Cards);
-    // Of a grid the toolkit shows the current row alone. What is clicked must not move under the mouse.
+    // Of a grid the toolkit shows the current row alone.
     const QPoint middle = focused->mapTo(widget(), focused->rect().center());
-    if (LastInputWasKey() && focused->height() + 2 * Spacing::Cards <= viewport()->height())
+    if (focused->height() + 2 * Spacing::Cards <= viewport()->height())
         ensureVisible(middle.x(), middle.y(), 0, focused->height() / 2 + Spacing::Cards);
 }
 

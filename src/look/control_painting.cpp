@@ -115,6 +115,11 @@ void DrawIndicator(const QStyleOption* option, QPainter* painter, bool round)
     painter->restore();
 }
 
+void DrawPopupFrame(const QStyleOption* option, QPainter* painter)
+{
+    FillRounded(painter, option->rect, 0, QColor(), OutlineColour(option->palette));
+}
+
 void DrawHeaderSection(const QStyleOption* option, QPainter* painter)
 {
     painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));

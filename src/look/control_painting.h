@@ -24,6 +24,8 @@ void DrawFieldPanel(const QStyleOption* option, QPainter* painter);
 void DrawArrow(QPainter* painter, const QRectF& rect, const QColor& colour);
 /// The box of a check box or the circle of a choice, with its mark.
 void DrawIndicator(const QStyleOption* option, QPainter* painter, bool round);
+/// The line around a list that is folded out.
+void DrawPopupFrame(const QStyleOption* option, QPainter* painter);
 void DrawHeaderSection(const QStyleOption* option, QPainter* painter);
 
 /// The name of the property of a text field that has no frame and background of its own, and of a view whose frame is

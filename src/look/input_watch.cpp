@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTimer>
 
 namespace {
 
@@ -47,11 +48,23 @@ bool TakeKey(QObject* watched, const QKeyEvent& key)
     const bool press = key.type() == QEvent::KeyPress;
     if (key.key() == Qt::Key_Alt)
         ShowShortcutLetters(press);
+    // A letter that no button has is not typed into a field.
+    if (press && key.modifiers() == Qt::AltModifier && !key.text().isEmpty() && key.text()[0].isPrint())
+        return true;
     auto* button = PressedButton(watched);
     if (button == nullptr || !press || !IsEnter(key))
         return false;
     button->click();
     return true;
+}
+
+/// A list of which nothing is chosen begins before its first line, where the toolkit would begin at it, unseen.
+void BeginBeforeFirst(QAbstractItemView& list)
+{
+    QTimer::singleShot(0, &list, [&list] {
+        if (!list.selectionModel()->hasSelection())
+            list.setCurrentIndex({});
+    });
 }
 
 constexpr char CurrentCellProperty[] = "currentCell";
@@ -109,8 +122,11 @@ bool InputWatch::eventFilter(QObject* watched, QEvent* event)
         return false;
     case QEvent::FocusIn:
     case QEvent::FocusOut:
-        if (auto* view = qobject_cast<QAbstractItemView*>(watched))
+        if (auto* view = qobject_cast<QAbstractItemView*>(watched)) {
             HideCurrentCell(*view, event->type() == QEvent::FocusOut);
+            if (event->type() == QEvent::FocusIn && view->window()->windowType() == Qt::Popup)
+                BeginBeforeFirst(*view);
+        }
         return false;
     case QEvent::Wheel:
         if (!watched->isWidgetType() || !WouldChangeUnfocusedValue(*static_cast<QWidget*>(watched)))

@@ -183,6 +183,8 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
             DrawFocusRing(painter, option->rect, QApplication::palette());
         else if (!IsBareView(widget))
             QProxyStyle::drawControl(element, option, painter, widget);
+    } else if (element == CE_ShapedFrame && widget != nullptr && widget->windowType() == Qt::Popup) {
+        DrawPopupFrame(option, painter);
     } else if (element == CE_HeaderSection) {
         DrawHeaderSection(option, painter);
     } else if (element == CE_HeaderEmptyArea) {
@@ -235,6 +237,9 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    // The ring and the gap around a mark and its caption belong to it.
+    if (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect)
+        return {rect.left(), option->rect.top(), rect.width() + 2 * RingAndGap, option->rect.height()};
     if (element != SE_LineEditContents || widget == nullptr || IsBareField(*widget))
         return rect;
     // Level with the text of a drop-down list.
@@ -311,6 +316,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
             return size;
         return {size.width(), qMax(size.height(), ControlHeight)};
     case CT_ComboBox:
+        return {contents.width() + ArrowWidth + 2 * Spacing::Between, qMax(size.height(), ControlHeight)};
     case CT_SpinBox:
         return {size.width() + Spacing::Between, qMax(size.height(), ControlHeight)};
     case CT_ItemViewItem:

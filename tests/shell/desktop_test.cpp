@@ -11,6 +11,8 @@
 #include <QFileDialog>
 #include <QProcess>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSocketNotifier>
 #include <QWindow>
 
@@ -113,7 +115,6 @@ QString NotReached(QWidget& window)
 {
     QStringList hidden;
     const QPointer<QWidget> before = window.focusWidget();
-    QTest::keyClick(&window, Qt::Key_Shift);
     for (auto* control : window.findChildren<QWidget*>()) {
         if (!control->isVisible() || !control->isEnabled() || (control->focusPolicy() & Qt::TabFocus) == 0)
             continue;
@@ -229,6 +230,26 @@ private Q_SLOTS:
             return false;
         };
         QTRY_VERIFY(isRinged("F6MBall1_2") && !isRinged("F6MBall1_1"));
+    }
+
+    void WhatIsClickedStaysUnderTheMouse()
+    {
+        TestWindow window;
+        AddUser(users, "Ann", 10);
+        window.OpenPage(3, 2);
+        window.Window().setWindowState(Qt::WindowNoState);
+        window.Window().resize(800, 400);
+        const QWidget& store = *window.Find("F18store");
+        QScrollBar& bar = *window.Window().findChildren<QScrollArea*>().last()->verticalScrollBar();
+        // The window manager places the window in its own time.
+        QTest::qWait(500);
+        QVERIFY(bar.maximum() > 0);
+        const int below = store.mapTo(&window.Window(), QPoint()).y() + 20 - window.Window().height();
+        bar.setValue(bar.value() + below);
+        const QPoint edge = store.mapToGlobal(QPoint(store.width() / 2, 5));
+        window.modals.WillPress(QMessageBox::Ok);
+        QProcess::execute("xdotool", {"mousemove", QString::number(edge.x()), QString::number(edge.y()), "click", "1"});
+        QTRY_VERIFY(window.modals.AllCame());
     }
 };
 

@@ -83,6 +83,9 @@ private Q_SLOTS:
             PressKeys(window, keys);
             QCOMPARE(window.FocusedName(), QString(focused));
         }
+        // No button has the letter, and no field takes it.
+        PressKeys(window, "Alt+A Return Alt+V");
+        QCOMPARE(window.FocusedName() + window.TextOf("F6MBall1_1"), QString("F6MBall1_1"));
         // What is clicked vanishes with its page.
         window.Click("Button2");
         window.Click("lab_8");
