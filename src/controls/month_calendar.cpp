@@ -28,8 +28,8 @@ MonthCalendar::MonthCalendar(const QString& name) : year(findChild<QSpinBox*>("q
     setAccessibleName(name);
     // Around its days the card is seen.
     setAutoFillBackground(false);
-    for (const char* name : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
-        auto* button = findChild<QToolButton*>(QLatin1String(name));
+    for (const char* arrow : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
+        auto* button = findChild<QToolButton*>(QLatin1String(arrow));
         const bool previous = button->objectName() == "qt_calendar_prevmonth"_L1;
         button->setIcon(QIcon());
         button->setText(previous ? u"‹"_s : u"›"_s);
@@ -37,8 +37,8 @@ MonthCalendar::MonthCalendar(const QString& name) : year(findChild<QSpinBox*>("q
         button->setFont(FontFor(TextRole::Heading));
         button->setAccessibleName(previous ? u"Previous month"_s : u"Next month"_s);
     }
-    for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
-        findChild<QToolButton*>(QLatin1String(name))->setFont(FontFor(TextRole::Strong));
+    for (const char* heading : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"})
+        findChild<QToolButton*>(QLatin1String(heading))->setFont(FontFor(TextRole::Strong));
     year->setFrame(true);
     year->setButtonSymbols(QSpinBox::NoButtons);
     year->setFont(FontFor(TextRole::Strong));

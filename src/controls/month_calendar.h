@@ -10,6 +10,7 @@ class MonthCalendar : public QCalendarWidget
     Q_OBJECT
 
 public:
+    /// `name` is what a screen reader calls it.
     explicit MonthCalendar(const QString& name = QStringLiteral("Draw date"));
 
 Q_SIGNALS:

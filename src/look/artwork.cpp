@@ -101,7 +101,7 @@ void DrawLogo(QPainter& painter, const QRectF& square)
     letter.setFillRule(Qt::WindingFill);
     letter.addRect(QRectF(square.left() + 24 * unit, square.top() + 33 * unit, 52 * unit, 12 * unit));
     letter.addRect(QRectF(square.left() + 43 * unit, square.top() + 33 * unit, 14 * unit, 47 * unit));
-    painter.drawPath(letter);
+    painter.drawPath(letter.simplified());
     painter.restore();
 }
 
