@@ -3,16 +3,14 @@
 #include "look/artwork.h"
 #include "look/button.h"
 #include "look/control_painting.h"
+#include "look/control_state.h"
 #include "look/input_watch.h"
 #include "look/shortcut_letters.h"
 #include "look/theme.h"
 
 #include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCalendarWidget>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
@@ -23,9 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// More than fits a line of a list; shaping a text of megabytes takes seconds.
-constexpr qsizetype MostDrawnCharacters = 1000;
 
 constexpr int ControlHeight = 36;
 constexpr int ListLineHeight = 28;
@@ -44,62 +39,12 @@ void MakeRoomForRing(QAbstractScrollArea& area)
     area.setFrameShape(QFrame::StyledPanel);
 }
 
-/// The ring of a check box or a choice goes around its mark as well as around its caption.
-QRect RingPlace(const QStyleOption& option, const QWidget* widget)
-{
-    if (qobject_cast<const QCheckBox*>(widget) == nullptr && qobject_cast<const QRadioButton*>(widget) == nullptr)
-        return option.rect;
-    const QRect whole = widget->rect();
-    const QRect caption = option.rect.adjusted(-Spacing::Inside, 0, Spacing::Inside, 0);
-    const QPoint markSide = option.direction == Qt::LeftToRight ? whole.topLeft() : whole.topRight();
-    return (caption | QRect(markSide, QSize(1, whole.height()))) & whole;
-}
-
 /// The Tab key enters a group of choices at the chosen one; the arrow keys lead to the others.
 void TakeTabWhileChosen(QRadioButton& choice)
 {
     const auto follow = [&choice](bool chosen) { choice.setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus); };
     QObject::connect(&choice, &QRadioButton::toggled, &choice, follow);
     follow(choice.isChecked());
-}
-
-/// Whether the selection of a view is quiet: its strong colour is the sign that the view has the keys.
-bool IsSelectionQuiet(const QWidget* view)
-{
-    return view != nullptr && !view->hasFocus() && view->window()->windowType() != Qt::Popup;
-}
-
-/// The same with no more of its text than is drawn, and with the colours of its selection.
-QStyleOptionViewItem AsDrawn(const QStyleOptionViewItem& item, const QWidget* view)
-{
-    QStyleOptionViewItem drawn(item);
-    drawn.text.truncate(MostDrawnCharacters);
-    if (!IsSelectionQuiet(view))
-        return drawn;
-    QColor quiet = item.palette.color(QPalette::Highlight);
-    quiet.setAlphaF(0.4F);
-    drawn.palette.setColor(QPalette::Highlight, quiet);
-    drawn.palette.setColor(QPalette::HighlightedText, item.palette.color(QPalette::Text));
-    return drawn;
-}
-
-bool IsBareView(const QWidget* widget)
-{
-    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr && widget->property(BareProperty).toBool();
-}
-
-/// A text field without a frame of its own: one on a ball, or a part of another field.
-bool IsBareField(const QWidget& field)
-{
-    return field.property(BareProperty).toBool() || qobject_cast<const QComboBox*>(field.parentWidget()) != nullptr ||
-           qobject_cast<const QAbstractSpinBox*>(field.parentWidget()) != nullptr;
-}
-
-/// The frame of these is wide enough for the ring of the focus and a gap.
-bool HasRoomForRing(const QWidget* widget)
-{
-    return IsBareView(widget) ||
-           (qobject_cast<const QAbstractItemView*>(widget) != nullptr && widget->window()->windowType() != Qt::Popup);
 }
 
 } // namespace
